@@ -1,0 +1,40 @@
+# Language level, warnings, sanitizers and the compiler cache, for every target of the tree.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+find_program(ZEB17_CCACHE ccache)
+if(ZEB17_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 "${ZEB17_CCACHE}")
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror)
+if(ZEB17_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+    add_compile_definitions(_WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0700)
+    # The C++ runtime is shared, so that an exception may cross from the library to its host.
+    foreach(runtime libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${runtime}.dll
+            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+        if(NOT EXISTS "${path}")
+            set(path "/usr/x86_64-w64-mingw32/lib/${runtime}.dll")
+        endif()
+        list(APPEND ZEB17_RUNTIME_DLLS "${path}")
+        configure_file("${path}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${runtime}.dll" COPYONLY)
+    endforeach()
+endif()

@@ -1,0 +1,32 @@
+# zeb17_layer(<name> SOURCES <file>... [INCLUDES <dir>...] [USES <layer>...])
+#
+# One layer of the system: a static library that is later linked whole into the shared library, and
+# as it is into the tests. A layer sees the headers of the layers it names under USES, and no others.
+function(zeb17_layer name)
+    cmake_parse_arguments(arg "" "" "SOURCES;INCLUDES;USES" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    if(NOT arg_INCLUDES)
+        set(arg_INCLUDES .)
+    endif()
+    foreach(dir ${arg_INCLUDES})
+        cmake_path(ABSOLUTE_PATH dir NORMALIZE)
+        target_include_directories(${name} PUBLIC "${dir}")
+    endforeach()
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/cmake/export")
+    target_compile_definitions(${name} PUBLIC ZEB17_BUILDING)
+    target_link_libraries(${name} PUBLIC ${arg_USES})
+endfunction()
+
+# zeb17_test(<name> SOURCES <file>... USES <layer>...)
+#
+# One test program, registered with CTest as one test. Natively it runs without a display.
+function(zeb17_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_USES} gtest gmock test_support)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    if(NOT WIN32)
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    endif()
+endfunction()

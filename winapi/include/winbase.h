@@ -1,0 +1,4 @@
+// Files, modules, resources, strings, time and synchronisation.
+#pragma once
+
+#include "windef.h"

@@ -1,0 +1,4 @@
+// Device contexts and drawing objects.
+#pragma once
+
+#include "windef.h"

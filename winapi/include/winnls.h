@@ -1,0 +1,4 @@
+// Locales and code pages.
+#pragma once
+
+#include "windef.h"

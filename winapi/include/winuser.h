@@ -1,0 +1,4 @@
+// Windows, messages, input, painting, menus and controls.
+#pragma once
+
+#include "windef.h"
