@@ -1,0 +1,34 @@
+// The window of the sample host: the calendar, and a line that names the last message heard.
+#pragma once
+
+#include <afxwin.h>
+
+#include <CalendarWnd.h>
+
+class MainWindow : public CWnd
+{
+public:
+    bool CreateMain();
+    void SelectDate(const DateTime& date) { m_calendar.SetDate(date); }
+
+protected:
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnDestroy();
+    afx_msg LRESULT OnSelChange(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnNoDate(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEnterKey(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEscKey(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPromptSaveWebPage(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDateRangeChanged(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool CreateCalendar();
+    void ShowHeard(const char* message, const CString& details);
+    CString CurrentDate() const;
+
+    CStatic m_status;
+    CCalendarWnd m_calendar;
+};
