@@ -1,0 +1,89 @@
+// The printer framework: it runs a print job, a derived class draws the pages.
+//
+// A page has a heading, the content rectangle and a footer. Everything is drawn in units of 1/144 inch
+// whatever the printer's resolution, so that a line of width 1 and a distance of a few units look the
+// same on every printer. Fonts are made in points.
+#pragma once
+
+#include <afxwin.h>
+#include <zeb17_export.h>
+#include <memory>
+#include "PrintInfo.h"
+
+struct CPrintInfo;
+
+class ZEB17_EXPORT UIPrinter
+{
+public:
+    UIPrinter();
+    UIPrinter(const UIPrinter&) = delete;
+    UIPrinter& operator=(const UIPrinter&) = delete;
+
+    // Runs the whole job and returns when it has ended, failed or been cancelled. What failed stands
+    // in `pInfo` afterwards. Does nothing for null.
+    void Print(PrintInfo* pInfo);
+
+    // From now on jobs go to this file, on the default printer and without a dialog; an empty path
+    // ends that. For hosts that print without hands.
+    static void SetOutputFile(const CString& strPath);
+
+protected:
+    // The operations in the order in which they stand in the table of virtual operations; Print calls
+    // InitPrintProcess, StartPrint, PrintPages, EndPrint and EndPrintProcess.
+
+    // Gets the printer's context: from the user's dialog, or the default printer's.
+    virtual void InitPrintProcess();
+
+    virtual void CreateHeaderFont(CFont& font) const;
+    virtual void CreateContentFont(CFont& font) const;
+    virtual void CreateFooterFont(CFont& font) const;
+
+    // Makes the fonts, divides the page and starts the job.
+    virtual void StartPrint();
+
+    // Works out units, margins and the content rectangle of a page.
+    virtual void DoPrePrintCalculations();
+
+    // A context of the window printed, for measures of the screen, and its return. May be null.
+    virtual CDC* GetCtrlDC() const;
+    virtual void ReleaseScreenDC(CDC* pDC) const;
+
+    // The number of pages side by side and one below the other; 1 unless overridden.
+    virtual unsigned int DoCalculatePagesAcross();
+    virtual unsigned int DoCalculatePagesDown();
+
+    virtual void PrintPages();
+    virtual void PrintPage();
+
+    // The heading: the title of the job, centred.
+    virtual void PrintPageHeader();
+
+    // Draws the content into the content rectangle of GetPrintInfo(), with `crText` for its text. The
+    // content font is selected.
+    virtual void PrintPageContent(COLORREF crText);
+
+    // Gives the texts of the footer: left, centre, right.
+    virtual void GetPageTexts(CString& strLeft, CString& strCenter, CString& strRight);
+
+    virtual void PrintPageFooter();
+
+    // Ends the job; gives it up if something failed.
+    virtual void EndPrint();
+
+    // Gives the printer's context back.
+    virtual void EndPrintProcess();
+
+public:
+    virtual ~UIPrinter();
+
+protected:
+    // The printer's context during the job, or null.
+    CDC* GetPrintDC() const;
+
+    // The job's page, or null. Its m_rectDraw is the content rectangle of the page at hand.
+    CPrintInfo* GetPrintInfo() const;
+
+private:
+    struct Job;
+    std::unique_ptr<Job> m_pJob;
+};

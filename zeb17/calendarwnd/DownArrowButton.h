@@ -1,0 +1,21 @@
+// The button that drops a menu down: a combo box's arrow at its right edge says so.
+#pragma once
+
+#include <ZEBButton.h>
+
+class ZEB17_EXPORT CDownArrowButton : public CZEBButton
+{
+    DECLARE_DYNAMIC(CDownArrowButton)
+
+public:
+    CDownArrowButton();
+    ~CDownArrowButton() override;
+
+protected:
+    void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
+
+    // Keeps the strip of the arrow, as wide as a vertical scroll bar, free of the caption.
+    void AdjustForIcon(CRect& rect, CPoint& ptIcon) const override;
+
+    DECLARE_MESSAGE_MAP()
+};
