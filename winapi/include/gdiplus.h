@@ -1,0 +1,83 @@
+// The flat GDI+ interface, as far as it is used: anti-aliased filling.
+//
+// As on Windows, GDI+ must be started by the program; until then every call gives GdiplusNotInitialized.
+#pragma once
+
+#include "windef.h"
+
+#define GDIPCONST const
+
+namespace Gdiplus {
+
+using REAL = float;
+using ARGB = DWORD; // 0xAARRGGBB
+
+enum GpStatus
+{
+    Ok = 0,
+    GenericError = 1,
+    InvalidParameter = 2,
+    OutOfMemory = 3,
+    UnsupportedGdiplusVersion = 17,
+    GdiplusNotInitialized = 18,
+};
+using Status = GpStatus;
+
+enum SmoothingMode
+{
+    SmoothingModeInvalid = -1,
+    SmoothingModeDefault = 0,
+    SmoothingModeHighSpeed = 1,
+    SmoothingModeHighQuality = 2,
+    SmoothingModeNone = 3,
+    SmoothingModeAntiAlias = 4,
+};
+
+enum FillMode
+{
+    FillModeAlternate,
+    FillModeWinding
+};
+using GpFillMode = FillMode;
+
+struct PointF
+{
+    REAL X = 0;
+    REAL Y = 0;
+
+    PointF() = default;
+    PointF(REAL x, REAL y) : X(x), Y(y) {}
+};
+using GpPointF = PointF;
+
+using GpGraphics = void;
+using GpBrush = void;
+using GpSolidFill = void;
+
+struct GdiplusStartupInput
+{
+    UINT GdiplusVersion = 1;
+    void* DebugEventCallback = nullptr;
+    BOOL SuppressBackgroundThread = FALSE;
+    BOOL SuppressExternalCodecs = FALSE;
+};
+struct GdiplusStartupOutput;
+
+WINGDIAPI GpStatus GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
+                                  GdiplusStartupOutput* output);
+WINGDIAPI void GdiplusShutdown(ULONG_PTR token);
+
+namespace DllExports {
+
+WINGDIAPI GpStatus GdipCreateFromHDC(HDC dc, GpGraphics** graphics);
+WINGDIAPI GpStatus GdipDeleteGraphics(GpGraphics* graphics);
+WINGDIAPI GpStatus GdipSetSmoothingMode(GpGraphics* graphics, SmoothingMode mode);
+WINGDIAPI GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush);
+WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush);
+WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
+                                    INT height);
+WINGDIAPI GpStatus GdipFillPolygon(GpGraphics* graphics, GpBrush* brush, const GpPointF* points, INT count,
+                                   GpFillMode mode);
+
+}
+}
