@@ -1,0 +1,134 @@
+// The block of 7 rows by 7 columns in which a month is shown: on the screen, on paper and as a web page.
+//
+// Rows and columns are numbered from 1; row 1 holds the names of the weekdays. The 42 cells of rows 2 to 7
+// are numbered from 0, row by row. An edge table holds 8 positions: row r lies between entries r - 1 and r.
+#pragma once
+
+#include <windows.h>
+#include <DateTime.h>
+#include <LocaleUtils.h>
+
+#include <cstddef>
+#include <optional>
+#include <span>
+
+namespace MonthBlock {
+
+inline constexpr int kRows = 7;
+inline constexpr int kColumns = 7;
+inline constexpr int kCells = (kRows - 1) * kColumns;
+inline constexpr int kEdges = 8;
+
+struct Place
+{
+    int nRow;
+    int nColumn;
+
+    constexpr bool operator==(const Place&) const = default;
+};
+
+// What places the days of one month: the column of day 1, and how many days it and the month before have.
+struct Shape
+{
+    int nFirstColumn;
+    int nDays;
+    int nPrevDays;
+
+    constexpr bool operator==(const Shape&) const = default;
+};
+
+enum class Month
+{
+    Previous,
+    Shown,
+    Next
+};
+
+struct Cell
+{
+    Month month;
+    int nDay;
+
+    constexpr bool operator==(const Cell&) const = default;
+};
+
+// The column of day 1, from its weekday and the first day of the week, both 1 (Sunday) to 7 (Saturday).
+constexpr int FirstColumn(int nDayOfWeek, int nFirstDayOfWeek)
+{
+    const int nColumn = nDayOfWeek + 8 - nFirstDayOfWeek;
+    return nColumn > 7 ? nColumn - 7 : nColumn;
+}
+
+constexpr int NextWeekday(int nWeekday)
+{
+    return nWeekday % 7 + 1;
+}
+
+// The place of a day of the month, 1 to 31.
+constexpr Place PlaceOfDay(int nFirstColumn, int nDay)
+{
+    const int n = nFirstColumn - 1 + nDay - 1;
+    return {2 + n / kColumns, n % kColumns + 1};
+}
+
+constexpr Place PlaceOfCell(int nCell)
+{
+    return {2 + nCell / kColumns, nCell % kColumns + 1};
+}
+
+// What cell 0 to 41 shows. No cell is ever blank.
+constexpr Cell CellAt(const Shape& shape, int nCell)
+{
+    const int nDay = nCell + 2 - shape.nFirstColumn;
+    if (nDay < 1)
+        return {Month::Previous, shape.nPrevDays + nDay};
+    if (nDay > shape.nDays)
+        return {Month::Next, nDay - shape.nDays};
+    return {Month::Shown, nDay};
+}
+
+// The day at a place, counted from day 1 of the month: 0 for day 1, negative before it.
+constexpr int OffsetOfPlace(int nFirstColumn, Place place)
+{
+    return (place.nRow - 2) * kColumns + place.nColumn - nFirstColumn;
+}
+
+// Splits the way from `nBegin` to `nEnd` into equal whole steps, one fewer than there are edges. The last
+// one takes up what is left over, and gives up 1 or 2 units where that would be 5 or more.
+constexpr void Split(std::span<int> edges, int nBegin, int nEnd)
+{
+    const int nSteps = static_cast<int>(edges.size()) - 1;
+    const int nQuotient = (nEnd - nBegin) / nSteps;
+    const int nRest = (nEnd - nBegin) - nQuotient * nSteps;
+    const int nStep = nRest >= 5 ? nQuotient + 1 : nQuotient;
+    for (int i = 0; i < nSteps; ++i)
+        edges[static_cast<std::size_t>(i)] = nBegin + i * nStep;
+    edges.back() = nEnd;
+}
+
+// The rectangle in which the text of a place is drawn, from the edge tables.
+constexpr RECT TextRect(std::span<const int> rowEdges, std::span<const int> columnEdges, Place place)
+{
+    const auto r = static_cast<std::size_t>(place.nRow);
+    const auto c = static_cast<std::size_t>(place.nColumn);
+    return {columnEdges[c - 1] + (c == 1 ? 3 : 4), rowEdges[r - 1] + 2, columnEdges[c] - 1, rowEdges[r] - 1};
+}
+
+// The shape of the month of `date` for the user's first day of the week; nothing for no date.
+inline std::optional<Shape> ShapeOf(const DateTime& date)
+{
+    constexpr int kDaysOfDecember = 31; // the month before the very first one, which has no date of its own
+    DateTime first = date;
+    first.SetDay(1);
+    const int nDayOfWeek = first.GetDayOfWeek();
+    if (!date.IsValid() || nDayOfWeek < 1)
+        return std::nullopt;
+    DateTime before = first;
+    before.AddDays(-1);
+    return Shape{FirstColumn(nDayOfWeek, LocaleUtils::GetFirstDayOfWeek()),
+                 DateTime::GetDaysInMonth(date.GetYear(), date.GetMonth()),
+                 before.IsValid() ? DateTime::GetDaysInMonth(before.GetYear(), before.GetMonth())
+                                  : kDaysOfDecember};
+}
+
+}
