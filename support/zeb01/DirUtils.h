@@ -1,0 +1,18 @@
+// Directories.
+#pragma once
+
+#include <afx.h>
+
+class ZEB17_EXPORT DirUtils
+{
+public:
+    // The directory of a file's path, without a separator at its end unless it is the root; empty for a bare
+    // name.
+    static CString ParsePathFromFile(const CString& strPath);
+
+    // Creates the directory and all that are missing above it. True if it is there afterwards.
+    static bool CreateDirectoryA(const CString& strPath);
+
+    // The path of a file in a directory.
+    static CString JoinPath(const CString& strDirectory, const CString& strName);
+};

@@ -1,0 +1,15 @@
+// Numbers as text.
+#pragma once
+
+#include <afx.h>
+
+class ZEB17_EXPORT NumberTextConv
+{
+public:
+    // The decimal digits of the number, a minus sign before them if it is negative. bPlusSign puts a plus
+    // sign before a number above 0, nMinDigits fills up with zeros, strSuffix is appended.
+    static CString NumberToString(int nNumber, bool bPlusSign, int nMinDigits, const CString& strSuffix);
+
+    // The number with which the text begins, after blanks; 0 when it holds none, or one that is no int.
+    static int GetNumberFromString(const CString& strText);
+};

@@ -1,0 +1,25 @@
+// An ordered list of texts.
+#pragma once
+
+#include <afx.h>
+
+#include <cstddef>
+#include <vector>
+
+class ZEB17_EXPORT TextArray
+{
+public:
+    void Add(const CString& strText) { m_vTexts.push_back(strText); }
+    // Takes over the texts of the list in their order, in place of its own.
+    void CopyFromList(const CStringList& list);
+
+    // The index of the first line that equals the text, and in `bFound` whether there is one; the index is
+    // the size of the array if not. Without bMatchCase the letters A to Z equal a to z.
+    std::size_t Find(const CString& strText, bool bMatchCase, bool& bFound) const;
+
+    std::size_t GetSize() const { return m_vTexts.size(); }
+    const CString& GetAt(std::size_t nIndex) const { return m_vTexts[nIndex]; }
+
+private:
+    std::vector<CString> m_vTexts;
+};
