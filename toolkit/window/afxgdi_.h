@@ -1,0 +1,274 @@
+// Drawing: the objects that a device context draws with, and device contexts.
+//
+// An object owns the handle that it has created or that was attached to it, and releases it at its end. What
+// FromHandle gives owns nothing: it is the object that has the handle, or a temporary one that lives until
+// the message loop is idle.
+#pragma once
+
+#include <afx.h>
+#include <windows.h>
+
+#include <atltypes.h>
+
+class CDC;
+class CWnd;
+
+/// A pen, brush, font, bitmap or region.
+class ZEB17_EXPORT CGdiObject : public CObject
+{
+    DECLARE_DYNAMIC(CGdiObject)
+public:
+    CGdiObject() = default;
+    ~CGdiObject() override { DeleteObject(); }
+
+    static CGdiObject* FromHandle(HGDIOBJ hObject);
+    /// Takes the handle over. False if it is null or this object has one already.
+    BOOL Attach(HGDIOBJ hObject);
+    /// Gives the handle away.
+    HGDIOBJ Detach();
+    /// Releases the handle. False if there is none.
+    BOOL DeleteObject();
+    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
+
+    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObjectA(m_hObject, nCount, lpObject); }
+    operator HGDIOBJ() const { return m_hObject; }
+
+    HGDIOBJ m_hObject = nullptr;
+};
+
+class ZEB17_EXPORT CPen : public CGdiObject
+{
+    DECLARE_DYNAMIC(CPen)
+public:
+    CPen() = default;
+    /// Throws a CResourceException if the pen can't be made.
+    CPen(int nPenStyle, int nWidth, COLORREF crColor);
+
+    static CPen* FromHandle(HPEN hPen);
+    /// Width in pixels; 0 is 1 pixel in every mapping.
+    BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
+    {
+        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+    }
+    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+};
+
+class ZEB17_EXPORT CBrush : public CGdiObject
+{
+    DECLARE_DYNAMIC(CBrush)
+public:
+    CBrush() = default;
+    /// Throws a CResourceException if the brush can't be made.
+    explicit CBrush(COLORREF crColor);
+
+    static CBrush* FromHandle(HBRUSH hBrush);
+    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
+    BOOL CreateSysColorBrush(int nIndex) { return CreateSolidBrush(::GetSysColor(nIndex)); }
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+};
+
+class ZEB17_EXPORT CFont : public CGdiObject
+{
+    DECLARE_DYNAMIC(CFont)
+public:
+    CFont() = default;
+
+    static CFont* FromHandle(HFONT hFont);
+    BOOL CreateFontIndirect(const LOGFONTA* lpLogFont) { return Attach(::CreateFontIndirectA(lpLogFont)); }
+    /// Fills in the description of the font. False if there is no font.
+    BOOL GetLogFont(LOGFONTA* pLogFont) const
+    {
+        return ::GetObjectA(m_hObject, static_cast<int>(sizeof(LOGFONTA)), pLogFont) != 0;
+    }
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+};
+
+class ZEB17_EXPORT CBitmap : public CGdiObject
+{
+    DECLARE_DYNAMIC(CBitmap)
+public:
+    CBitmap() = default;
+
+    static CBitmap* FromHandle(HBITMAP hBitmap);
+    BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    int GetBitmap(BITMAP* pBitMap) const
+    {
+        return ::GetObjectA(m_hObject, static_cast<int>(sizeof(BITMAP)), pBitMap);
+    }
+    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+};
+
+class ZEB17_EXPORT CRgn : public CGdiObject
+{
+    DECLARE_DYNAMIC(CRgn)
+public:
+    CRgn() = default;
+
+    static CRgn* FromHandle(HRGN hRgn);
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
+    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
+    operator HRGN() const { return static_cast<HRGN>(m_hObject); }
+};
+
+/// A device context. Each call is the system's call of that name on the context's handle.
+class ZEB17_EXPORT CDC : public CObject
+{
+    DECLARE_DYNAMIC(CDC)
+public:
+    CDC() = default;
+    /// Deletes the context, if there is one.
+    ~CDC() override { DeleteDC(); }
+
+    static CDC* FromHandle(HDC hDC);
+    /// Takes the handle over. False if it is null or this object has one already.
+    BOOL Attach(HDC hDC);
+    /// Gives the handle away.
+    HDC Detach();
+    BOOL CreateCompatibleDC(CDC* pDC);
+    BOOL DeleteDC();
+    HDC GetSafeHdc() const { return m_hDC; }
+    operator HDC() const { return m_hDC; }
+    CWnd* GetWindow() const;
+    BOOL IsPrinting() const { return m_bPrinting; }
+    int SaveDC() { return ::SaveDC(m_hDC); }
+    BOOL RestoreDC(int nSavedDC) { return ::RestoreDC(m_hDC, nSavedDC); }
+    int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hDC, nIndex); }
+
+    /// Selects an object in and gives the one that was there, null on failure.
+    CPen* SelectObject(CPen* pPen);
+    CBrush* SelectObject(CBrush* pBrush);
+    CFont* SelectObject(CFont* pFont);
+    CBitmap* SelectObject(CBitmap* pBitmap);
+    CGdiObject* SelectStockObject(int nIndex);
+    int SelectClipRgn(CRgn* pRgn);
+
+    CPen* GetCurrentPen() const;
+    CBrush* GetCurrentBrush() const;
+    CFont* GetCurrentFont() const;
+    CBitmap* GetCurrentBitmap() const;
+
+    COLORREF SetBkColor(COLORREF crColor) { return ::SetBkColor(m_hDC, crColor); }
+    COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
+    int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
+    int GetBkMode() const { return ::GetBkMode(m_hDC); }
+    COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
+    COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
+    UINT SetTextAlign(UINT nFlags) { return ::SetTextAlign(m_hDC, nFlags); }
+    int SetROP2(int nDrawMode) { return ::SetROP2(m_hDC, nDrawMode); }
+    int SetMapMode(int nMapMode) { return ::SetMapMode(m_hDC, nMapMode); }
+    CPoint SetViewportOrg(int x, int y);
+    CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
+    CPoint GetViewportOrg() const;
+    CPoint SetWindowOrg(int x, int y);
+    CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
+    CPoint GetWindowOrg() const;
+
+    int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hDC, lpRect); }
+    int IntersectClipRect(LPCRECT lpRect)
+    {
+        return ::IntersectClipRect(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
+    int ExcludeClipRect(LPCRECT lpRect)
+    {
+        return ::ExcludeClipRect(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
+    BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hDC, lpRect); }
+
+    /// Gives the place that was the current one.
+    CPoint MoveTo(int x, int y);
+    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
+    /// Draws up to the place, which itself stays undrawn.
+    BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
+    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
+    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
+    BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
+    BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
+    BOOL Rectangle(LPCRECT rc) { return Rectangle(rc->left, rc->top, rc->right, rc->bottom); }
+    BOOL Ellipse(int x1, int y1, int x2, int y2) { return ::Ellipse(m_hDC, x1, y1, x2, y2); }
+    BOOL Ellipse(LPCRECT rc) { return Ellipse(rc->left, rc->top, rc->right, rc->bottom); }
+    int FillRect(LPCRECT lpRect, CBrush* pBrush) { return ::FillRect(m_hDC, lpRect, *pBrush); }
+    int FrameRect(LPCRECT lpRect, CBrush* pBrush) { return ::FrameRect(m_hDC, lpRect, *pBrush); }
+    BOOL InvertRect(LPCRECT lpRect) { return ::InvertRect(m_hDC, lpRect); }
+    BOOL DrawFocusRect(LPCRECT lpRect) { return ::DrawFocusRect(m_hDC, lpRect); }
+    /// Fills the rectangle and leaves the colour as the context's background colour.
+    void FillSolidRect(LPCRECT lpRect, COLORREF clr);
+    void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr)
+    {
+        FillSolidRect(CRect(CPoint(x, y), CSize(cx, cy)), clr);
+    }
+    COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
+    COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
+    COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
+    BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
+
+    BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount)
+    {
+        return ::TextOutA(m_hDC, x, y, lpszString, nCount);
+    }
+    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
+    int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
+    {
+        return ::DrawTextA(m_hDC, lpszString, nCount, lpRect, nFormat);
+    }
+    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat)
+    {
+        return DrawText(str, str.GetLength(), lpRect, nFormat);
+    }
+    CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
+    CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
+    BOOL GetTextMetrics(TEXTMETRICA* lpMetrics) const { return ::GetTextMetricsA(m_hDC, lpMetrics); }
+
+    int StartDoc(const DOCINFOA* lpDocInfo) { return ::StartDocA(m_hDC, lpDocInfo); }
+    int StartPage() { return ::StartPage(m_hDC); }
+    int EndPage() { return ::EndPage(m_hDC); }
+    int EndDoc() { return ::EndDoc(m_hDC); }
+    int AbortDoc() { return ::AbortDoc(m_hDC); }
+
+    HDC m_hDC = nullptr;
+    HDC m_hAttribDC = nullptr; ///< answers questions about attributes; the same as m_hDC
+    BOOL m_bPrinting = FALSE;  ///< set by whoever runs a print job
+};
+
+/// The context of a WM_PAINT message, from BeginPaint to EndPaint.
+class ZEB17_EXPORT CPaintDC : public CDC
+{
+    DECLARE_DYNAMIC(CPaintDC)
+public:
+    /// Throws a CResourceException if there is no context.
+    explicit CPaintDC(CWnd* pWnd);
+    ~CPaintDC() override;
+
+    PAINTSTRUCT m_ps;
+
+protected:
+    HWND m_hWnd;
+};
+
+/// The context of a window's client area at any time.
+class ZEB17_EXPORT CClientDC : public CDC
+{
+    DECLARE_DYNAMIC(CClientDC)
+public:
+    /// A null window stands for the screen. Throws a CResourceException if there is no context.
+    explicit CClientDC(CWnd* pWnd);
+    ~CClientDC() override;
+
+protected:
+    HWND m_hWnd;
+};
+
+/// The context of a whole window with its frame.
+class ZEB17_EXPORT CWindowDC : public CDC
+{
+    DECLARE_DYNAMIC(CWindowDC)
+public:
+    /// A null window stands for the screen. Throws a CResourceException if there is no context.
+    explicit CWindowDC(CWnd* pWnd);
+    ~CWindowDC() override;
+
+protected:
+    HWND m_hWnd;
+};

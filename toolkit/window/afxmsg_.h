@@ -1,0 +1,312 @@
+// Message maps: the tables that lead from a window message or a command to the member that handles it.
+//
+//     class CMyWnd : public CWnd
+//     {
+//         afx_msg void OnSize(UINT nType, int cx, int cy);
+//         afx_msg void OnFileOpen();
+//         DECLARE_MESSAGE_MAP()
+//     };
+//
+//     BEGIN_MESSAGE_MAP(CMyWnd, CWnd)
+//         ON_WM_SIZE()
+//         ON_COMMAND(ID_FILE_OPEN, &CMyWnd::OnFileOpen)
+//     END_MESSAGE_MAP()
+//
+// A handler whose signature doesn't fit its macro doesn't compile.
+#pragma once
+
+#include <type_traits>
+
+#include <afx.h>
+#include <windows.h>
+
+#include <atltypes.h>
+
+class CCmdTarget;
+class CCmdUI;
+class CDC;
+class CMenu;
+class CWnd;
+
+#define afx_msg
+
+/// What a handler is called with, and what it answers.
+struct AFX_EVENT
+{
+    WPARAM wParam = 0;
+    LPARAM lParam = 0;
+    UINT nID = 0;               ///< of a command or a notification
+    CCmdUI* pCmdUI = nullptr;   ///< of an update
+    NMHDR* pNMHDR = nullptr;    ///< of a notification
+    LRESULT* pResult = nullptr; ///< where a notification's handler writes its answer
+    LRESULT lResult = 0;        ///< the answer of a message's handler
+};
+
+/// Calls a handler of the target. Gives false when the handler passes the event on.
+using AFX_HANDLER = bool (*)(CCmdTarget* pTarget, AFX_EVENT& event);
+
+/// A line of a message map. Commands and notifications match by message, code and id; all others by message.
+struct AFX_MSGMAP_ENTRY
+{
+    UINT nMessage;
+    UINT nCode;
+    UINT nID;
+    UINT nLastID;
+    AFX_HANDLER pfnHandler;
+};
+
+/// The lines of one class, ended by one without a handler, and the way to its base class's map.
+struct AFX_MSGMAP
+{
+    const AFX_MSGMAP* (*pfnGetBaseMap)();
+    const AFX_MSGMAP_ENTRY* lpEntries;
+};
+
+/// How the arguments of a handler come out of an event.
+namespace AfxArg {
+inline UINT WParam(const AFX_EVENT& e)
+{
+    return static_cast<UINT>(e.wParam);
+}
+inline UINT WParamLow(const AFX_EVENT& e)
+{
+    return LOWORD(e.wParam);
+}
+inline short WParamHighSigned(const AFX_EVENT& e)
+{
+    return static_cast<short>(HIWORD(e.wParam));
+}
+inline UINT LParamLow(const AFX_EVENT& e)
+{
+    return LOWORD(e.lParam);
+}
+inline UINT LParamHigh(const AFX_EVENT& e)
+{
+    return HIWORD(e.lParam);
+}
+inline int LParamLowSigned(const AFX_EVENT& e)
+{
+    return static_cast<short>(LOWORD(e.lParam));
+}
+inline int LParamHighSigned(const AFX_EVENT& e)
+{
+    return static_cast<short>(HIWORD(e.lParam));
+}
+inline BOOL WParamBool(const AFX_EVENT& e)
+{
+    return e.wParam != 0;
+}
+inline BOOL WParamHighBool(const AFX_EVENT& e)
+{
+    return HIWORD(e.wParam) != 0;
+}
+inline BOOL LParamHighBool(const AFX_EVENT& e)
+{
+    return HIWORD(e.lParam) != 0;
+}
+inline UINT LParam(const AFX_EVENT& e)
+{
+    return static_cast<UINT>(e.lParam);
+}
+inline WPARAM WParamWhole(const AFX_EVENT& e)
+{
+    return e.wParam;
+}
+inline LPARAM LParamWhole(const AFX_EVENT& e)
+{
+    return e.lParam;
+}
+inline UINT_PTR TimerId(const AFX_EVENT& e)
+{
+    return e.wParam;
+}
+inline int ControlId(const AFX_EVENT& e)
+{
+    return static_cast<int>(e.wParam);
+}
+inline CPoint LParamPoint(const AFX_EVENT& e)
+{
+    return CPoint(e.lParam);
+}
+ZEB17_EXPORT CWnd* WParamWnd(const AFX_EVENT& e);
+ZEB17_EXPORT CWnd* LParamWnd(const AFX_EVENT& e);
+ZEB17_EXPORT CDC* WParamDC(const AFX_EVENT& e);
+ZEB17_EXPORT CMenu* WParamMenu(const AFX_EVENT& e);
+template <class Structure>
+Structure* LParamStruct(const AFX_EVENT& e)
+{
+    return reinterpret_cast<Structure*>(e.lParam);
+}
+inline UINT CommandId(const AFX_EVENT& e)
+{
+    return e.nID;
+}
+inline CCmdUI* CmdUI(const AFX_EVENT& e)
+{
+    return e.pCmdUI;
+}
+inline NMHDR* Header(const AFX_EVENT& e)
+{
+    return e.pNMHDR;
+}
+inline LRESULT* Result(const AFX_EVENT& e)
+{
+    return e.pResult;
+}
+}
+
+/// Result of a handler whose BOOL says whether it has handled the event.
+struct AfxHandled
+{
+};
+
+/// The signature of a handler: what it returns, and where each argument comes from.
+template <class Result, auto... Arguments>
+struct AfxSignature
+{
+    using Return = std::conditional_t<std::is_same_v<Result, AfxHandled>, BOOL, Result>;
+    template <class Target>
+    using Handler = Return (Target::*)(std::invoke_result_t<decltype(Arguments), const AFX_EVENT&>...);
+
+    template <class Target>
+    static bool Call(Target* pTarget, Handler<Target> pfn, AFX_EVENT& event)
+    {
+        if constexpr (std::is_void_v<Return>) {
+            (pTarget->*pfn)(Arguments(event)...);
+            return true;
+        } else {
+            event.lResult = (LRESULT)(pTarget->*pfn)(Arguments(event)...); // a number or a handle
+            return !std::is_same_v<Result, AfxHandled> || event.lResult != 0;
+        }
+    }
+};
+
+namespace AfxSig {
+using namespace AfxArg;
+using Plain = AfxSignature<void>;
+using Size = AfxSignature<void, WParam, LParamLowSigned, LParamHighSigned>;
+using Move = AfxSignature<void, LParamLowSigned, LParamHighSigned>;
+using Mouse = AfxSignature<void, WParam, LParamPoint>;
+using Wheel = AfxSignature<AfxHandled, WParamLow, WParamHighSigned, LParamPoint>;
+using Cursor = AfxSignature<BOOL, WParamWnd, LParamLow, LParamHigh>;
+using Focus = AfxSignature<void, WParamWnd>;
+using Capture = AfxSignature<void, LParamWnd>;
+using Activate = AfxSignature<void, WParamLow, LParamWnd, WParamHighBool>;
+using Key = AfxSignature<void, WParam, LParamLow, LParamHigh>;
+using Create = AfxSignature<int, LParamStruct<CREATESTRUCTA>>;
+using Erase = AfxSignature<BOOL, WParamDC>;
+using Timer = AfxSignature<void, TimerId>;
+using Enable = AfxSignature<void, WParamBool>;
+using Show = AfxSignature<void, WParamBool, LParam>;
+using DlgCode = AfxSignature<UINT>;
+using DrawItem = AfxSignature<void, ControlId, LParamStruct<DRAWITEMSTRUCT>>;
+using MenuPopup = AfxSignature<void, WParamMenu, LParamLow, LParamHighBool>;
+using ContextMenu = AfxSignature<void, WParamWnd, LParamPoint>;
+using Message = AfxSignature<LRESULT, WParamWhole, LParamWhole>;
+using Command = AfxSignature<void>;
+using CommandEx = AfxSignature<AfxHandled, CommandId>;
+using CommandRange = AfxSignature<void, CommandId>;
+using Update = AfxSignature<void, CmdUI>;
+using Notify = AfxSignature<void, Header, Result>;
+using NotifyRange = AfxSignature<void, CommandId, Header, Result>;
+using NotifyEx = AfxSignature<AfxHandled, CommandId, Header, Result>;
+}
+
+#define DECLARE_MESSAGE_MAP()                                                                                \
+protected:                                                                                                   \
+    static const AFX_MSGMAP* GetThisMessageMap();                                                            \
+    const AFX_MSGMAP* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
+    const AFX_MSGMAP* theClass::GetMessageMap() const                                                        \
+    {                                                                                                        \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
+    const AFX_MSGMAP* theClass::GetThisMessageMap()                                                          \
+    {                                                                                                        \
+        using ThisClass [[maybe_unused]] = theClass;                                                         \
+        using TheBaseClass = baseClass;                                                                      \
+        static const AFX_MSGMAP_ENTRY entries[] = {
+
+#define END_MESSAGE_MAP()                                                                                    \
+    {                                                                                                        \
+        0, 0, 0, 0, nullptr                                                                                  \
+    }                                                                                                        \
+    }                                                                                                        \
+    ;                                                                                                        \
+    static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries};                               \
+    return &map;                                                                                             \
+    }
+
+#define AFX_MAP_ENTRY(message, code, id, lastId, Signature, memberFxn)                                       \
+    {message, static_cast<WORD>(code), static_cast<UINT>(id), static_cast<UINT>(lastId),                     \
+     [](CCmdTarget* pTarget, AFX_EVENT& event) {                                                             \
+         return AfxSig::Signature::Call(static_cast<ThisClass*>(pTarget),                                    \
+                                        static_cast<AfxSig::Signature::Handler<ThisClass>>(memberFxn),       \
+                                        event);                                                              \
+     }},
+
+// Commands: of menus (code 0), of controls, and the updates of the items that give them.
+#define CN_COMMAND 0
+#define CN_UPDATE_COMMAND_UI 0xFFFFU
+
+#define ON_COMMAND(id, memberFxn) AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, id, Command, memberFxn)
+#define ON_COMMAND_EX(id, memberFxn) AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, id, CommandEx, memberFxn)
+#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
+    AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, idLast, CommandRange, memberFxn)
+#define ON_UPDATE_COMMAND_UI(id, memberFxn)                                                                  \
+    AFX_MAP_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, id, Update, memberFxn)
+#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                    \
+    AFX_MAP_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, idLast, Update, memberFxn)
+#define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
+    AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, id, Command, memberFxn)
+#define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                 \
+    AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, CommandRange, memberFxn)
+#define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
+#define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
+
+// Notifications. The codes are compared as 16-bit words.
+#define ON_NOTIFY(wNotifyCode, id, memberFxn) AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, id, Notify, memberFxn)
+#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn)                                                             \
+    AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, id, NotifyEx, memberFxn)
+#define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                  \
+    AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, NotifyRange, memberFxn)
+#define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
+    AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, NotifyEx, memberFxn)
+
+// Messages of the program's own.
+#define ON_MESSAGE(message, memberFxn) AFX_MAP_ENTRY(message, 0, 0, 0, Message, memberFxn)
+#define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn) ON_MESSAGE(nMessageVariable, memberFxn)
+
+// Messages of the system, with handlers of fixed names.
+#define AFX_MAP_WM(message, Signature, name) AFX_MAP_ENTRY(message, 0, 0, 0, Signature, &ThisClass::name)
+
+#define ON_WM_ACTIVATE() AFX_MAP_WM(WM_ACTIVATE, Activate, OnActivate)
+#define ON_WM_CAPTURECHANGED() AFX_MAP_WM(WM_CAPTURECHANGED, Capture, OnCaptureChanged)
+#define ON_WM_CHAR() AFX_MAP_WM(WM_CHAR, Key, OnChar)
+#define ON_WM_CLOSE() AFX_MAP_WM(WM_CLOSE, Plain, OnClose)
+#define ON_WM_CONTEXTMENU() AFX_MAP_WM(WM_CONTEXTMENU, ContextMenu, OnContextMenu)
+#define ON_WM_CREATE() AFX_MAP_WM(WM_CREATE, Create, OnCreate)
+#define ON_WM_DESTROY() AFX_MAP_WM(WM_DESTROY, Plain, OnDestroy)
+#define ON_WM_DRAWITEM() AFX_MAP_WM(WM_DRAWITEM, DrawItem, OnDrawItem)
+#define ON_WM_ENABLE() AFX_MAP_WM(WM_ENABLE, Enable, OnEnable)
+#define ON_WM_ERASEBKGND() AFX_MAP_WM(WM_ERASEBKGND, Erase, OnEraseBkgnd)
+#define ON_WM_GETDLGCODE() AFX_MAP_WM(WM_GETDLGCODE, DlgCode, OnGetDlgCode)
+#define ON_WM_INITMENUPOPUP() AFX_MAP_WM(WM_INITMENUPOPUP, MenuPopup, OnInitMenuPopup)
+#define ON_WM_KEYDOWN() AFX_MAP_WM(WM_KEYDOWN, Key, OnKeyDown)
+#define ON_WM_KEYUP() AFX_MAP_WM(WM_KEYUP, Key, OnKeyUp)
+#define ON_WM_KILLFOCUS() AFX_MAP_WM(WM_KILLFOCUS, Focus, OnKillFocus)
+#define ON_WM_LBUTTONDBLCLK() AFX_MAP_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
+#define ON_WM_LBUTTONDOWN() AFX_MAP_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
+#define ON_WM_LBUTTONUP() AFX_MAP_WM(WM_LBUTTONUP, Mouse, OnLButtonUp)
+#define ON_WM_MOUSELEAVE() AFX_MAP_WM(WM_MOUSELEAVE, Plain, OnMouseLeave)
+#define ON_WM_MOUSEMOVE() AFX_MAP_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
+#define ON_WM_MOUSEWHEEL() AFX_MAP_WM(WM_MOUSEWHEEL, Wheel, OnMouseWheel)
+#define ON_WM_MOVE() AFX_MAP_WM(WM_MOVE, Move, OnMove)
+#define ON_WM_NCDESTROY() AFX_MAP_WM(WM_NCDESTROY, Plain, OnNcDestroy)
+#define ON_WM_PAINT() AFX_MAP_WM(WM_PAINT, Plain, OnPaint)
+#define ON_WM_SETCURSOR() AFX_MAP_WM(WM_SETCURSOR, Cursor, OnSetCursor)
+#define ON_WM_SETFOCUS() AFX_MAP_WM(WM_SETFOCUS, Focus, OnSetFocus)
+#define ON_WM_SHOWWINDOW() AFX_MAP_WM(WM_SHOWWINDOW, Show, OnShowWindow)
+#define ON_WM_SIZE() AFX_MAP_WM(WM_SIZE, Size, OnSize)
+#define ON_WM_TIMER() AFX_MAP_WM(WM_TIMER, Timer, OnTimer)
