@@ -6,6 +6,8 @@
 #include <concepts>
 #include <cstddef>
 #include <memory>
+#include <string>
+#include <type_traits>
 
 // A number that an archive stores in its own width. `bool` is none, and neither is `long` where it is wider
 // than the 32 bits that it has in a file.
@@ -28,9 +30,9 @@ public:
     // The file stays the caller's and must outlive the archive. With a null buffer the archive makes one of
     // `bufferSize` bytes (at least 128); else the buffer stays the caller's.
     CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
-    // Flushes an archive that was not closed, and loses a failure of that; while an exception passes, what is
-    // still in the buffer is dropped.
-    ~CArchive();
+    // Closes an archive that was not closed, with the exceptions of Close; while an exception passes, what is
+    // buffered is dropped instead.
+    ~CArchive() noexcept(false);
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
 
@@ -67,11 +69,11 @@ public:
 private:
     void RequireLoading() const;
     void RequireStoring() const;
-    void ReadExactly(void* buffer, std::size_t count);
+    void ReadExactly(void* buffer, UINT count);
     bool FillBuffer();
-    ULONGLONG ReadTextLength(bool& wide);
-    template <class Char>
-    std::basic_string<Char> ReadCharacters(ULONGLONG length);
+    ULONGLONG ReadLongCount();
+    ULONGLONG ReadLength(bool& wide);
+    std::string ReadBytes(ULONGLONG count, std::size_t size);
 
     CFile* m_file;
     Mode m_mode;

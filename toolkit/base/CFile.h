@@ -4,6 +4,7 @@
 #include "CException.h"
 
 // Every operation that fails throws a CFileException with the cause, the system's error and the path.
+// Others may read a file that is read, and nobody may open one that is written.
 class ZEB17_EXPORT CFile : public CObject
 {
     DECLARE_DYNAMIC(CFile)
@@ -13,10 +14,6 @@ public:
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        shareExclusive = 0x0010,
-        shareDenyWrite = 0x0020,
-        shareDenyRead = 0x0030,
-        shareDenyNone = 0x0040,
         modeCreate = 0x1000,    // the file is made anew, empty
         modeNoTruncate = 0x2000 // with modeCreate: a file that exists keeps its content
     };
@@ -45,7 +42,7 @@ public:
     virtual void Flush();
     virtual void Close();
     // Closes without a word about failures.
-    virtual void Abort();
+    virtual void Abort() noexcept;
     virtual CString GetFilePath() const { return m_strFileName; }
 
     static void Rename(LPCTSTR oldPath, LPCTSTR newPath);
@@ -56,5 +53,8 @@ public:
 protected:
     bool IsOpen() const { return m_hFile != INVALID_HANDLE_VALUE; }
 
-    CString m_strFileName;
+    // Ends the operation with the exception for a system error.
+    [[noreturn]] void Fail(DWORD error) const;
+
+    CString m_strFileName; // the path that failures name
 };
