@@ -1,6 +1,7 @@
 #include "DateTime.h"
 
 #include "Clock.h"
+#include "LocaleUtils.h"
 
 #include <algorithm>
 
@@ -128,6 +129,14 @@ bool DateTime::IsToday() const
 int DateTime::GetDaysInMonth(int nYear, int nMonth)
 {
     return DayNumbers::DaysInMonth(nYear, nMonth);
+}
+
+CString DateTime::ConvertDateToText(const DateTime& date, bool, bool, bool, bool bShort)
+{
+    if (!date.IsValid())
+        return {};
+    const auto [nYear, nMonth, nDay] = date.Parts();
+    return LocaleUtils::FormatDate(nYear, nMonth, nDay, date.GetDayOfWeek(), bShort);
 }
 
 DayNumbers::Date DateTime::Parts() const

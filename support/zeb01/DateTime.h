@@ -3,11 +3,10 @@
 
 #include "DayNumbers.h"
 
+#include <afx.h>
 #include <zeb17_export.h>
 
 #include <cstdint>
-
-class CString;
 
 // A date from 1 January of year 1 (Julian) to 31 December 9999 (Gregorian, which follows the Julian 4 October
 // 1582 with 15 October 1582), or no date at all.

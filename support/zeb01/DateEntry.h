@@ -1,0 +1,79 @@
+// One special date: a rule that says when it falls, and what the user reads.
+#pragma once
+
+#include "DayNumbers.h"
+
+#include <afx.h>
+
+#include <zeb17_export.h>
+
+#include <cstdint>
+
+class ZEB17_EXPORT DateEntry
+{
+public:
+    // Which of a month's days of one weekday a rule picks.
+    enum OCCURRENCE
+    {
+        OCCURRENCE_FIRST = 1,
+        OCCURRENCE_SECOND = 2,
+        OCCURRENCE_THIRD = 3,
+        OCCURRENCE_FOURTH = 4,
+        OCCURRENCE_LAST = 7,
+    };
+
+    // The years in which the rule holds. Other values hold every year.
+    enum KIND
+    {
+        KIND_EVERY_YEAR = 0,
+        KIND_EVEN_YEARS = 2, // elections
+        KIND_FROM_YEAR = 4,  // from m_nStartYear on
+        KIND_UNTIL_YEAR = 5, // up to and including m_nStartYear
+    };
+
+    // A blank entry, which matches no date until a rule is set.
+    DateEntry() = default;
+    virtual ~DateEntry() = default;
+    DateEntry(const DateEntry&) = default;
+    DateEntry& operator=(const DateEntry&) = default;
+
+    // Stores or loads all members. A record of a form that is not known ends in the archive's exception for a
+    // bad schema, a short one in its exception for the end of the file.
+    virtual void Serialize(CArchive& archive);
+
+    // Whether there is a description and a rule that falls on a date in some year.
+    virtual bool IsValid() const;
+
+    void SetDesc(const CString& strDesc);
+
+    // The rules. Each sets the description too and replaces the rule set before; the limit of years stays.
+    // Months are 1 to 12, days of the week 1 (Sunday) to 7 (Saturday); a negative nSignedDayOfWeek is the
+    // nearest such day before the date meant, a positive one the nearest after it, and never that date
+    // itself.
+    void SetDay(const CString& strDesc, int nDay, int nMonth);
+    void SetDayOfWeek(const CString& strDesc, OCCURRENCE occurrence, int nDayOfWeek, int nMonth);
+    void SetBeforeAfterDay(const CString& strDesc, int nDay, int nMonth, int nSignedDayOfWeek);
+    void SetBeforeAfterDayOfWeek(const CString& strDesc, OCCURRENCE occurrence, int nDayOfWeek, int nMonth,
+                                 int nSignedDayOfWeek);
+
+    // Whether the rule falls on the date. A rule that starts from another date starts from that of the
+    // queried year, so what it picks in the year before or after never matches. Any numbers may be asked for.
+    bool IsMatch(int nDay, int nMonth, int nYear) const;
+
+    std::int32_t m_nRuleWord = 0; // which rule, see DateEntry.cpp
+    std::int32_t m_nKind = KIND_EVERY_YEAR;
+    bool m_bRuleFlag = false;      // a fixed date that is kept on the nearest working day
+    std::int32_t m_anRule[4] = {}; // what the rule says, see DateEntry.cpp
+    std::int32_t m_nStartYear = 0; // the year of the limit
+    std::int32_t m_nID = 0;
+    CString m_strDesc;
+
+private:
+    bool HoldsInYear(int nYear) const;
+    bool HasCompleteRule() const;
+    bool IsMatchFixed(int nDay, int nMonth, int nYear) const;
+    bool IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const;
+    bool IsMatchNear(int nDay, int nMonth, int nYear) const;
+    std::int32_t FindAnchor(int nYear) const;
+    void SetRule(const CString& strDesc, std::int32_t nRuleWord, const std::int32_t (&anRule)[4]);
+};
