@@ -1,0 +1,345 @@
+#include "UIPrinter.h"
+#include <afxext.h>
+#include <SystemUtils.h>
+#include <algorithm>
+
+namespace {
+constexpr int POINTS_PER_INCH = 72;
+constexpr int MARGIN_UNITS_PER_INCH = 1000;
+constexpr int DEFAULT_SCREEN_DPI = 96;
+
+constexpr char FACE[] = "Arial";
+constexpr int HEADER_POINTS = 16;
+constexpr int FOOTER_POINTS = 9;
+constexpr int MIN_CONTENT_POINTS = 6;
+constexpr int CONTENT_LINES = 28; // of text fit into the shorter side of the content
+
+constexpr COLORREF TEXT_COLOR = RGB(0, 0, 0);
+
+CString s_strOutputFile;
+
+struct DialogError
+{
+    DWORD dwCode;
+    const char* pszText;
+};
+
+constexpr DialogError DIALOG_ERRORS[] = {
+    {PDERR_NODEVICES, "There is no printer."},
+    {PDERR_NODEFAULTPRN, "There is no default printer."},
+    {PDERR_PRINTERNOTFOUND, "The printer was not found."},
+};
+
+CString GetDialogErrorText(DWORD dwCode)
+{
+    for (const DialogError& error : DIALOG_ERRORS)
+        if (error.dwCode == dwCode)
+            return error.pszText;
+    CString strText;
+    strText.Format("The printer could not be opened (error %u).", static_cast<unsigned int>(dwCode));
+    return strText;
+}
+
+class FontSelection
+{
+public:
+    FontSelection(CDC& dc, const CFont& font) : m_hDC(dc.m_hDC), m_hOld(::SelectObject(m_hDC, font.m_hObject))
+    {
+    }
+    ~FontSelection() { ::SelectObject(m_hDC, m_hOld); }
+    FontSelection(const FontSelection&) = delete;
+    FontSelection& operator=(const FontSelection&) = delete;
+
+private:
+    HDC m_hDC;
+    HGDIOBJ m_hOld;
+};
+}
+
+struct UIPrinter::Job
+{
+    explicit Job(PrintInfo& info) : m_info(info) {}
+
+    PrintInfo& m_info;
+    CDC m_dc;
+    CPrintInfo m_page;
+    CFont m_fontHeader;
+    CFont m_fontContent;
+    CFont m_fontFooter;
+    CRect m_rcHeader; // in logical units, as m_page.m_rectDraw
+    CRect m_rcFooter;
+    CSize m_sizeUnits = CSize(DEFAULT_SCREEN_DPI, DEFAULT_SCREEN_DPI); // logical units an inch
+    CString m_strLeft;                                                 // texts of the footer
+    CString m_strCenter;
+    CString m_strRight;
+    bool m_bStarted = false;
+    bool m_bFailed = false;
+
+    bool HasHeader() const { return !m_info.GetPageTitleText().IsEmpty(); }
+    bool HasFooter() const { return !m_strLeft.IsEmpty() || !m_strCenter.IsEmpty() || !m_strRight.IsEmpty(); }
+
+    // The distance of the edge of the paper's printable area, and what is left of a margin inside it.
+    int GetDeviceMargin(int nMargin, int nDpi, int nUnprintable) const
+    {
+        return std::max(::MulDiv(nMargin, nDpi, MARGIN_UNITS_PER_INCH) - nUnprintable, 0);
+    }
+
+    // The page within its margins, in logical units from the corner of the printable area.
+    CRect GetPageRect() const
+    {
+        const auto Caps = [this](int nIndex) { return m_dc.GetDeviceCaps(nIndex); };
+        const CRect& rcMargins = m_info.m_rcPageMargins;
+        const int nRight = Caps(PHYSICALWIDTH) - Caps(PHYSICALOFFSETX) - Caps(HORZRES);
+        const int nBottom = Caps(PHYSICALHEIGHT) - Caps(PHYSICALOFFSETY) - Caps(VERTRES);
+        CRect rect(GetDeviceMargin(rcMargins.left, Caps(LOGPIXELSX), Caps(PHYSICALOFFSETX)),
+                   GetDeviceMargin(rcMargins.top, Caps(LOGPIXELSY), Caps(PHYSICALOFFSETY)),
+                   Caps(HORZRES) - GetDeviceMargin(rcMargins.right, Caps(LOGPIXELSX), nRight),
+                   Caps(VERTRES) - GetDeviceMargin(rcMargins.bottom, Caps(LOGPIXELSY), nBottom));
+        ::DPtoLP(m_dc.m_hDC, reinterpret_cast<POINT*>(&rect), 2);
+        return rect;
+    }
+
+    void CreatePointFont(CFont& font, int nPoints, int nWeight) const
+    {
+        LOGFONTA lf = {};
+        lf.lfHeight = -::MulDiv(nPoints, m_sizeUnits.cy, POINTS_PER_INCH);
+        lf.lfWeight = nWeight;
+        lf.lfCharSet = DEFAULT_CHARSET;
+        ::lstrcpynA(lf.lfFaceName, FACE, LF_FACESIZE);
+        font.CreateFontIndirect(&lf);
+    }
+
+    int GetLineHeight(const CFont& font)
+    {
+        const FontSelection selection(m_dc, font);
+        TEXTMETRICA metrics = {};
+        m_dc.GetTextMetrics(&metrics);
+        return metrics.tmHeight;
+    }
+
+    void DrawLine(const CString& strText, CRect rect, UINT nAlignment)
+    {
+        m_dc.DrawText(strText, &rect, nAlignment | DT_SINGLELINE | DT_NOPREFIX);
+    }
+};
+
+UIPrinter::UIPrinter() = default;
+
+UIPrinter::~UIPrinter() = default;
+
+void UIPrinter::SetOutputFile(const CString& strPath)
+{
+    s_strOutputFile = strPath;
+}
+
+void UIPrinter::Print(PrintInfo* pInfo)
+{
+    if (!pInfo)
+        return;
+
+    m_pJob = std::make_unique<Job>(*pInfo);
+    InitPrintProcess();
+    if (GetPrintDC()) {
+        StartPrint();
+        PrintPages();
+        EndPrint();
+    }
+    EndPrintProcess();
+    m_pJob.reset();
+}
+
+void UIPrinter::InitPrintProcess()
+{
+    const PrintInfo& info = m_pJob->m_info;
+    CPrintDialog& dialog = *m_pJob->m_page.m_pPD;
+    dialog.m_pd.hwndOwner = info.m_pCtrlWnd ? info.m_pCtrlWnd->m_hWnd : nullptr;
+
+    const bool bAsk = !info.m_bPrintFlag && s_strOutputFile.IsEmpty();
+    const bool bChosen = bAsk ? dialog.DoModal() == IDOK : dialog.GetDefaults() != FALSE;
+    if (bChosen) {
+        SetPrintDC(dialog.CreatePrinterDC());
+        return;
+    }
+    const DWORD dwError = ::CommDlgExtendedError();
+    const bool bCancelled = bAsk && dwError == 0;
+    if (!bCancelled)
+        Fail(GetDialogErrorText(dwError));
+}
+
+void UIPrinter::CreateHeaderFont(CFont& font) const
+{
+    m_pJob->CreatePointFont(font, HEADER_POINTS, FW_BOLD);
+}
+
+// The text grows with the paper, so that it suits a table that fills the page.
+void UIPrinter::CreateContentFont(CFont& font) const
+{
+    const CRect& rect = m_pJob->m_page.m_rectDraw;
+    const int nSide = std::min(rect.Width(), rect.Height());
+    const int nPoints = ::MulDiv(nSide, POINTS_PER_INCH, m_pJob->m_sizeUnits.cy * CONTENT_LINES);
+    m_pJob->CreatePointFont(font, std::max(nPoints, MIN_CONTENT_POINTS), FW_NORMAL);
+}
+
+void UIPrinter::CreateFooterFont(CFont& font) const
+{
+    m_pJob->CreatePointFont(font, FOOTER_POINTS, FW_NORMAL);
+}
+
+void UIPrinter::StartPrint()
+{
+    DoPrePrintCalculations();
+    CreateContentFont(m_pJob->m_fontContent);
+
+    const CString strTitle = m_pJob->m_info.GetPageTitleText();
+    DOCINFOA document = {};
+    document.cbSize = sizeof(document);
+    document.lpszDocName = strTitle;
+    if (!s_strOutputFile.IsEmpty())
+        document.lpszOutput = s_strOutputFile;
+    m_pJob->m_bStarted = m_pJob->m_dc.StartDoc(&document) > 0;
+    if (!m_pJob->m_bStarted)
+        FailWithLastError("The print job could not be started.");
+}
+
+void UIPrinter::DoPrePrintCalculations()
+{
+    Job& job = *m_pJob;
+    if (CDC* pScreenDC = GetCtrlDC()) {
+        job.m_sizeUnits = CSize(pScreenDC->GetDeviceCaps(LOGPIXELSX), pScreenDC->GetDeviceCaps(LOGPIXELSY));
+        ReleaseScreenDC(pScreenDC);
+    }
+    const HDC hDC = job.m_dc.m_hDC;
+    ::SetMapMode(hDC, MM_ANISOTROPIC);
+    ::SetWindowExtEx(hDC, job.m_sizeUnits.cx, job.m_sizeUnits.cy, nullptr);
+    ::SetViewportExtEx(hDC, job.m_dc.GetDeviceCaps(LOGPIXELSX), job.m_dc.GetDeviceCaps(LOGPIXELSY), nullptr);
+
+    CreateHeaderFont(job.m_fontHeader);
+    CreateFooterFont(job.m_fontFooter);
+    GetPageTexts(job.m_strLeft, job.m_strCenter, job.m_strRight);
+
+    const CRect rcPage = job.GetPageRect();
+    const int nHeader = job.HasHeader() ? job.GetLineHeight(job.m_fontHeader) : 0;
+    const int nFooter = job.HasFooter() ? job.GetLineHeight(job.m_fontFooter) : 0;
+    job.m_rcHeader = CRect(rcPage.left, rcPage.top, rcPage.right, rcPage.top + nHeader);
+    job.m_rcFooter = CRect(rcPage.left, rcPage.bottom - nFooter, rcPage.right, rcPage.bottom);
+    // Half a line keeps the content off the texts above and below it.
+    job.m_page.m_rectDraw = CRect(rcPage.left, job.m_rcHeader.bottom + nHeader / 2, rcPage.right,
+                                  job.m_rcFooter.top - nFooter / 2);
+}
+
+CDC* UIPrinter::GetCtrlDC() const
+{
+    CWnd* pWnd = m_pJob->m_info.m_pCtrlWnd;
+    return pWnd && ::IsWindow(pWnd->m_hWnd) ? pWnd->GetDC() : nullptr;
+}
+
+void UIPrinter::ReleaseScreenDC(CDC* pDC) const
+{
+    m_pJob->m_info.m_pCtrlWnd->ReleaseDC(pDC);
+}
+
+unsigned int UIPrinter::DoCalculatePagesAcross()
+{
+    return 1;
+}
+
+unsigned int UIPrinter::DoCalculatePagesDown()
+{
+    return 1;
+}
+
+void UIPrinter::PrintPages()
+{
+    const unsigned int nPages = DoCalculatePagesAcross() * DoCalculatePagesDown();
+    for (unsigned int nPage = 1; nPage <= nPages && !m_pJob->m_bFailed; ++nPage) {
+        m_pJob->m_page.m_nCurPage = nPage;
+        PrintPage();
+    }
+}
+
+void UIPrinter::PrintPage()
+{
+    if (m_pJob->m_dc.StartPage() <= 0) {
+        FailWithLastError("The page could not be started.");
+        return;
+    }
+    m_pJob->m_dc.SetBkMode(TRANSPARENT);
+    m_pJob->m_dc.SetTextColor(TEXT_COLOR);
+    PrintPageHeader();
+    {
+        const FontSelection selection(m_pJob->m_dc, m_pJob->m_fontContent);
+        PrintPageContent(TEXT_COLOR);
+    }
+    PrintPageFooter();
+    if (m_pJob->m_dc.EndPage() <= 0)
+        FailWithLastError("The page could not be printed.");
+}
+
+void UIPrinter::PrintPageHeader()
+{
+    if (!m_pJob->HasHeader())
+        return;
+    const FontSelection selection(m_pJob->m_dc, m_pJob->m_fontHeader);
+    m_pJob->DrawLine(m_pJob->m_info.GetPageTitleText(), m_pJob->m_rcHeader, DT_CENTER);
+}
+
+void UIPrinter::PrintPageContent(COLORREF) {}
+
+void UIPrinter::GetPageTexts(CString& strLeft, CString& strCenter, CString& strRight)
+{
+    strLeft.Empty();
+    strCenter.Empty();
+    strRight.Empty();
+}
+
+void UIPrinter::PrintPageFooter()
+{
+    const FontSelection selection(m_pJob->m_dc, m_pJob->m_fontFooter);
+    m_pJob->DrawLine(m_pJob->m_strLeft, m_pJob->m_rcFooter, DT_LEFT);
+    m_pJob->DrawLine(m_pJob->m_strCenter, m_pJob->m_rcFooter, DT_CENTER);
+    m_pJob->DrawLine(m_pJob->m_strRight, m_pJob->m_rcFooter, DT_RIGHT);
+}
+
+void UIPrinter::EndPrint()
+{
+    if (!m_pJob->m_bStarted)
+        return;
+    if (m_pJob->m_bFailed)
+        m_pJob->m_dc.AbortDoc();
+    else if (m_pJob->m_dc.EndDoc() <= 0)
+        FailWithLastError("The print job could not be ended.");
+    m_pJob->m_bStarted = false;
+}
+
+void UIPrinter::EndPrintProcess()
+{
+    m_pJob->m_dc.DeleteDC();
+}
+
+CDC* UIPrinter::GetPrintDC() const
+{
+    return m_pJob && m_pJob->m_dc.m_hDC ? &m_pJob->m_dc : nullptr;
+}
+
+CPrintInfo* UIPrinter::GetPrintInfo() const
+{
+    return m_pJob ? &m_pJob->m_page : nullptr;
+}
+
+void UIPrinter::SetPrintDC(HDC hDC)
+{
+    if (!m_pJob->m_dc.Attach(hDC))
+        FailWithLastError("The printer could not be opened.");
+}
+
+void UIPrinter::Fail(const CString& strMsg)
+{
+    if (!m_pJob->m_bFailed)
+        m_pJob->m_info.SetErrorMsg(strMsg);
+    m_pJob->m_bFailed = true;
+}
+
+void UIPrinter::FailWithLastError(const CString& strMsg)
+{
+    Fail(strMsg + ' ' + SystemUtils::GetLastError(0));
+}

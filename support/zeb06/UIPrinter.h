@@ -1,8 +1,8 @@
 // The printer framework: it runs a print job, a derived class draws the pages.
 //
-// A page has a heading, the content rectangle and a footer. Everything is drawn in units of 1/144 inch
-// whatever the printer's resolution, so that a line of width 1 and a distance of a few units look the
-// same on every printer. Fonts are made in points.
+// A page has a heading, the content rectangle and a footer. Whatever the printer's resolution, its unit
+// of drawing is one pixel of the screen that the printed window stands on, usually 1/96 inch, so that
+// lines and distances have their usual look. Fonts are made in points.
 #pragma once
 
 #include <afxwin.h>
@@ -82,6 +82,14 @@ protected:
 
     // The job's page, or null. Its m_rectDraw is the content rectangle of the page at hand.
     CPrintInfo* GetPrintInfo() const;
+
+    // Takes over a printer's context, whose destruction ends with the job. For derived classes that
+    // find their printer without a dialog.
+    void SetPrintDC(HDC hDC);
+
+    // Notes what went wrong, unless something did before, and gives the rest of the job up.
+    void Fail(const CString& strMsg);
+    void FailWithLastError(const CString& strMsg); // adds the text of the system's last error
 
 private:
     struct Job;

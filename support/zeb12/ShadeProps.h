@@ -22,7 +22,7 @@ public:
         DirectionRight
     };
 
-    // A face runs from `m_crFrom` to `m_crTo`; equal colours make it flat.
+    // A face runs from `m_crFrom` at its top to `m_crTo` at its bottom; equal colours make it flat.
     struct Face
     {
         COLORREF m_crFrom;
@@ -32,7 +32,7 @@ public:
 
     // A flat look in the colours that the system has for push buttons.
     ShadeProps();
-    ShadeProps(Direction eDirection, const std::array<Face, StateCount>& faces);
+    explicit ShadeProps(const std::array<Face, StateCount>& aFaces);
 
     const Face& GetFace(State eState) const { return m_aFaces[eState]; }
 
@@ -40,6 +40,5 @@ public:
     void Draw(CDC* pDC, const CRect& rect, State eState) const;
 
 private:
-    Direction m_eDirection = DirectionDown;
     std::array<Face, StateCount> m_aFaces;
 };

@@ -1,0 +1,225 @@
+#include "ZEBButton.h"
+#include "GraphicsUtils.h"
+
+namespace {
+constexpr int DEFAULT_FONT_HEIGHT = 15;
+constexpr int PADDING = 2;     // between the edge of the face and its content
+constexpr int FOCUS_INSET = 3; // of the focus rectangle
+constexpr int ICON_GAP = 3;    // between icon and caption
+constexpr COLORREF DISABLED_ICON = RGB(0xA8, 0xAE, 0xB8);
+
+// Borrows a font for the time of one drawing.
+class FontSelection
+{
+public:
+    FontSelection(CDC& dc, CFont& font) : m_hDC(dc.m_hDC), m_hOld(::SelectObject(dc.m_hDC, font.m_hObject)) {}
+    ~FontSelection() { ::SelectObject(m_hDC, m_hOld); }
+    FontSelection(const FontSelection&) = delete;
+    FontSelection& operator=(const FontSelection&) = delete;
+
+private:
+    HDC m_hDC;
+    HGDIOBJ m_hOld;
+};
+
+int Align(int nLow, int nHigh, int nLength, bool bLow, bool bHigh)
+{
+    if (bLow)
+        return nLow;
+    return bHigh ? nHigh - nLength : nLow + (nHigh - nLow - nLength) / 2;
+}
+}
+
+IMPLEMENT_DYNAMIC(CZEBButton, CButton)
+
+BEGIN_MESSAGE_MAP(CZEBButton, CButton)
+ON_WM_ERASEBKGND()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_MOUSEMOVE()
+ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
+END_MESSAGE_MAP()
+
+CZEBButton::CZEBButton()
+{
+    GraphicsUtils::SetDefaultFont(m_lfCaption, "", DEFAULT_FONT_HEIGHT, -1, false, false, false);
+}
+
+CZEBButton::~CZEBButton() = default;
+
+BOOL CZEBButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CButton::Create(lpszCaption, dwStyle | BS_OWNERDRAW, rect, pParentWnd, nID);
+}
+
+void CZEBButton::SetFont(const CString& strFace, long nHeight, long nWeight, BYTE byItalic, BYTE byUnderline)
+{
+    GraphicsUtils::SetDefaultFont(m_lfCaption, strFace, static_cast<int>(nHeight), static_cast<int>(nWeight),
+                                  byItalic != 0, byUnderline != 0, false);
+    m_fontCaption.DeleteObject();
+    m_fontDisabled.DeleteObject();
+    RedrawIfCreated();
+}
+
+void CZEBButton::SetIcon(ZEBIcon::ButtonIcon eIcon, UINT nHorzAlign, UINT nVertAlign, bool bRedraw)
+{
+    m_eIcon = eIcon;
+    m_nHorzAlign = nHorzAlign;
+    m_nVertAlign = nVertAlign;
+    if (bRedraw)
+        RedrawIfCreated();
+}
+
+void CZEBButton::SetRegularFontWhenDisabled(bool bRegularFont, bool bRegularColor)
+{
+    m_bRegularFontWhenDisabled = bRegularFont;
+    m_bRegularColorWhenDisabled = bRegularColor;
+    RedrawIfCreated();
+}
+
+void CZEBButton::SetShadeProps(const ShadeProps& props)
+{
+    m_shade = props;
+    RedrawIfCreated();
+}
+
+void CZEBButton::DrawItem(LPDRAWITEMSTRUCT lpDIS)
+{
+    if (!lpDIS)
+        return;
+
+    CDC& dc = *CDC::FromHandle(lpDIS->hDC);
+    const CRect rcFace(lpDIS->rcItem);
+    m_shade.Draw(&dc, rcFace, GetShadeState(lpDIS->itemState));
+
+    CRect rcContent(rcFace);
+    rcContent.DeflateRect(PADDING, PADDING);
+    if (lpDIS->itemState & ODS_SELECTED)
+        rcContent.OffsetRect(1, 1);
+
+    CRect rcIcon(rcContent);
+    if (!m_bIconOnly) {
+        CPoint ptIcon;
+        AdjustForIcon(rcContent, ptIcon);
+        rcIcon = CRect(ptIcon, ZEBIcon::GetSize(m_eIcon));
+    }
+    const bool bDisabled = (lpDIS->itemState & ODS_DISABLED) != 0;
+    ZEBIcon::Draw(&dc, m_eIcon, rcIcon, bDisabled ? DISABLED_ICON : ::GetSysColor(COLOR_BTNTEXT));
+    DrawCaption(dc, rcContent, lpDIS->itemState);
+
+    if ((lpDIS->itemState & ODS_FOCUS) && !(lpDIS->itemState & ODS_NOFOCUSRECT)) {
+        CRect rcFocus(rcFace);
+        rcFocus.DeflateRect(FOCUS_INSET, FOCUS_INSET);
+        dc.DrawFocusRect(&rcFocus);
+    }
+}
+
+bool CZEBButton::IsChecked() const
+{
+    return false;
+}
+
+bool CZEBButton::GetHaveFocus() const
+{
+    return m_hWnd && ::GetFocus() == m_hWnd;
+}
+
+void CZEBButton::AdjustForIcon(CRect& rect, CPoint& ptIcon) const
+{
+    const CSize size = ZEBIcon::GetSize(m_eIcon);
+    const UINT nHorz = m_nHorzAlign & BS_CENTER;
+    const UINT nVert = m_nVertAlign & BS_VCENTER;
+    ptIcon.x = Align(rect.left, rect.right, size.cx, nHorz == BS_LEFT, nHorz == BS_RIGHT);
+    ptIcon.y = Align(rect.top, rect.bottom, size.cy, nVert == BS_TOP, nVert == BS_BOTTOM);
+    if (size.cx == 0)
+        return;
+    if (nHorz == BS_LEFT)
+        rect.left += size.cx + ICON_GAP;
+    else if (nHorz == BS_RIGHT)
+        rect.right -= size.cx + ICON_GAP;
+}
+
+void CZEBButton::SetButtonStyle(UINT nStyle, BOOL bRedraw)
+{
+    CButton::SetButtonStyle((nStyle & ~static_cast<UINT>(BS_TYPEMASK)) | BS_OWNERDRAW, bRedraw);
+}
+
+// The face covers the whole button.
+BOOL CZEBButton::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+// An owner-drawn button takes no press from the second click of two; ours does, so that fast clicks all
+// count.
+void CZEBButton::OnLButtonDblClk(UINT nFlags, CPoint point)
+{
+    SendMessage(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y));
+}
+
+void CZEBButton::OnMouseMove(UINT nFlags, CPoint point)
+{
+    CButton::OnMouseMove(nFlags, point);
+    if (m_bHot)
+        return;
+    TRACKMOUSEEVENT request = {sizeof(request), TME_LEAVE, m_hWnd, 0};
+    m_bHot = ::TrackMouseEvent(&request) != FALSE;
+    RedrawIfCreated();
+}
+
+LRESULT CZEBButton::OnMouseLeave(WPARAM, LPARAM)
+{
+    m_bHot = false;
+    RedrawIfCreated();
+    return Default();
+}
+
+ShadeProps::State CZEBButton::GetShadeState(UINT nItemState) const
+{
+    if (nItemState & ODS_DISABLED)
+        return ShadeProps::StateDisabled;
+    if ((nItemState & ODS_SELECTED) || IsChecked())
+        return ShadeProps::StatePressed;
+    return m_bHot ? ShadeProps::StateHot : ShadeProps::StateNormal;
+}
+
+COLORREF CZEBButton::GetCaptionColor(bool bDisabled) const
+{
+    return ::GetSysColor(bDisabled && !m_bRegularColorWhenDisabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
+}
+
+CFont& CZEBButton::GetCaptionFont(bool bDisabled)
+{
+    const bool bLight = bDisabled && !m_bRegularFontWhenDisabled;
+    CFont& font = bLight ? m_fontDisabled : m_fontCaption;
+    if (font.m_hObject)
+        return font;
+
+    LOGFONTA lf = m_lfCaption;
+    if (bLight)
+        lf.lfWeight = FW_NORMAL;
+    font.CreateFontIndirect(&lf);
+    return font;
+}
+
+void CZEBButton::DrawCaption(CDC& dc, CRect rect, UINT nItemState)
+{
+    CString strCaption;
+    GetWindowText(strCaption);
+    if (strCaption.IsEmpty())
+        return;
+
+    const bool bDisabled = (nItemState & ODS_DISABLED) != 0;
+    const FontSelection selection(dc, GetCaptionFont(bDisabled));
+    const int nOldMode = dc.SetBkMode(TRANSPARENT);
+    const COLORREF crOld = dc.SetTextColor(GetCaptionColor(bDisabled));
+    const UINT nPrefix = nItemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
+    dc.DrawText(strCaption, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE | nPrefix);
+    dc.SetTextColor(crOld);
+    dc.SetBkMode(nOldMode);
+}
+
+void CZEBButton::RedrawIfCreated()
+{
+    if (m_hWnd)
+        Invalidate(FALSE);
+}

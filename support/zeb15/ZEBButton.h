@@ -57,14 +57,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    ShadeProps::State GetState(UINT nItemState) const;
-    void DrawIcon(CDC& dc, CPoint ptIcon, bool bDisabled) const;
-    void DrawCaption(CDC& dc, const CRect& rect, UINT nItemState);
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnMouseLeave(WPARAM, LPARAM);
+
+    ShadeProps::State GetShadeState(UINT nItemState) const;
+    COLORREF GetCaptionColor(bool bDisabled) const;
     CFont& GetCaptionFont(bool bDisabled);
+    void DrawCaption(CDC& dc, CRect rect, UINT nItemState);
     void RedrawIfCreated();
 
     LOGFONTA m_lfCaption;
-    CFont m_fontCaption;
+    CFont m_fontCaption; // both fonts are made when first drawn with
     CFont m_fontDisabled;
     ShadeProps m_shade;
     ZEBIcon::ButtonIcon m_eIcon = ZEBIcon::IconNone;
@@ -72,4 +77,5 @@ private:
     UINT m_nVertAlign = BS_VCENTER;
     bool m_bRegularFontWhenDisabled = false;
     bool m_bRegularColorWhenDisabled = false;
+    bool m_bHot = false; // the mouse is over the button
 };
