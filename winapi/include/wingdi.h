@@ -8,8 +8,6 @@
 
 // Raster operations.
 #define SRCCOPY 0x00CC0020
-#define R2_XORPEN 7
-#define R2_COPYPEN 13
 
 // Background modes, text alignment, ExtTextOut options.
 #define TRANSPARENT 1
@@ -317,8 +315,6 @@ WINGDIAPI COLORREF SetTextColor(HDC dc, COLORREF color);
 WINGDIAPI COLORREF GetTextColor(HDC dc);
 WINGDIAPI UINT SetTextAlign(HDC dc, UINT align);
 WINGDIAPI UINT GetTextAlign(HDC dc);
-WINGDIAPI int SetROP2(HDC dc, int operation);
-WINGDIAPI int GetROP2(HDC dc);
 
 // Regions and clipping.
 WINGDIAPI HRGN CreateRectRgn(int left, int top, int right, int bottom);
@@ -474,7 +470,6 @@ WINUSERAPI BOOL InflateRect(RECT* rect, int dx, int dy);
 WINUSERAPI BOOL OffsetRect(RECT* rect, int dx, int dy);
 WINUSERAPI BOOL IntersectRect(RECT* target, const RECT* first, const RECT* second);
 WINUSERAPI BOOL UnionRect(RECT* target, const RECT* first, const RECT* second);
-WINUSERAPI BOOL SubtractRect(RECT* target, const RECT* first, const RECT* second);
 WINUSERAPI BOOL IsRectEmpty(const RECT* rect);
 WINUSERAPI BOOL EqualRect(const RECT* first, const RECT* second);
 WINUSERAPI BOOL PtInRect(const RECT* rect, POINT point);

@@ -1,0 +1,34 @@
+#include "application.h"
+
+namespace winapi {
+
+namespace {
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// Never destroyed: windows and objects of the program may outlive static destruction.
+QApplication& makeApplication()
+{
+    static int argc = 1;
+    static char name[] = "zeb17";
+    static char* argv[] = {name, nullptr};
+    if (!hasDisplay())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return *new QApplication(argc, argv);
+}
+
+}
+
+QApplication& application()
+{
+    if (auto* const host = qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return *host;
+    static QApplication& own = makeApplication();
+    return own;
+}
+
+}

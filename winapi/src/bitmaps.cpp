@@ -1,0 +1,126 @@
+// Bitmaps and the copying of pixels.
+//
+// A bitmap is measured in logical pixels, as its context is; on a dense screen it holds more of them, so that
+// what is drawn to it first is as sharp as what is drawn directly.
+#include "application.h"
+#include "context.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace winapi {
+
+QImage makeImage(int width, int height, qreal devicePixelRatio)
+{
+    const auto pixels = [devicePixelRatio](int length) {
+        return static_cast<int>(std::ceil(length * devicePixelRatio));
+    };
+    QImage image(pixels(width), pixels(height), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::black);
+    return image;
+}
+
+HBITMAP defaultBitmap()
+{
+    static const HGDIOBJ bitmap = addPermanentObject(Bitmap{makeImage(1, 1, 1)});
+    return static_cast<HBITMAP>(bitmap);
+}
+
+namespace {
+
+QRectF toPixels(const QRect& rect, qreal devicePixelRatio)
+{
+    return QRectF(QPointF(rect.topLeft()) * devicePixelRatio, QSizeF(rect.size()) * devicePixelRatio);
+}
+
+QPoint toPixel(const Context& context, int x, int y)
+{
+    const QPointF point = QPointF(QPoint(x, y) + context.toSurface()) * context.image()->devicePixelRatio();
+    return point.toPoint();
+}
+
+bool isVisible(const Context& context, int x, int y)
+{
+    return context.image() && context.drawable().contains(QPoint(x, y) + context.toDevice());
+}
+
+// Larger bitmaps are refused, as by a system that is out of memory.
+constexpr int longestSide = 32767;
+
+HBITMAP makeBitmap(int width, int height, qreal devicePixelRatio)
+{
+    if (width < 0 || height < 0 || width > longestSide || height > longestSide)
+        return nullptr;
+    if (width == 0 || height == 0)
+        return defaultBitmap();
+    QImage image = makeImage(width, height, devicePixelRatio);
+    return image.isNull() ? nullptr : static_cast<HBITMAP>(addObject(Bitmap{std::move(image)}));
+}
+
+void copyRows(QImage& image, const void* bits)
+{
+    const auto rowLength = static_cast<std::size_t>(image.width()) * sizeof(QRgb);
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(image.scanLine(y),
+                    static_cast<const uchar*>(bits) + rowLength * static_cast<std::size_t>(y), rowLength);
+}
+
+}
+
+}
+
+using namespace winapi;
+
+HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits)
+{
+    if (planes != 1 || bitsPerPixel != 32)
+        return nullptr;
+    const HBITMAP bitmap = makeBitmap(width, height, 1);
+    if (bitmap && bits)
+        copyRows(findObject<Bitmap>(bitmap)->image, bits);
+    return bitmap;
+}
+
+HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height)
+{
+    const auto context = findContext(dc);
+    return context ? makeBitmap(width, height, context->surface().device().devicePixelRatio()) : nullptr;
+}
+
+COLORREF SetPixel(HDC dc, int x, int y, COLORREF color)
+{
+    const auto context = findContext(dc);
+    if (!context || !isVisible(*context, x, y))
+        return CLR_INVALID;
+    ContextPainter painter(*context, QRect(x, y, 1, 1));
+    painter->fillRect(x, y, 1, 1, toColor(color));
+    return color & 0xFFFFFF;
+}
+
+COLORREF GetPixel(HDC dc, int x, int y)
+{
+    const auto context = findContext(dc);
+    if (!context || !isVisible(*context, x, y))
+        return CLR_INVALID;
+    return toColorRef(context->image()->pixelColor(toPixel(*context, x, y)));
+}
+
+BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int sourceX, int sourceY,
+            DWORD operation)
+{
+    const auto target = findContext(targetDc);
+    const auto source = findContext(sourceDc);
+    if (!target || !source || !source->image() || operation != SRCCOPY)
+        return FALSE;
+    const QRect area(x, y, width, height);
+    ContextPainter painter(*target, area);
+    if (!painter)
+        return TRUE;
+    // A copy of the part, since source and target may be one image.
+    const QRect part(QPoint(sourceX, sourceY) + source->toSurface(), area.size());
+    const qreal ratio = source->image()->devicePixelRatio();
+    const QImage pixels = source->image()->copy(toPixels(part, ratio).toRect());
+    painter->drawImage(QRectF(area), pixels, QRectF(pixels.rect()));
+    return TRUE;
+}

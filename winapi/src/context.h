@@ -1,0 +1,118 @@
+// Device contexts as the drawing calls see them.
+#pragma once
+
+#include "objects.h"
+#include "surface.h"
+#include "wingdi.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace winapi {
+
+// An object that a context holds: it lives on while selected, even when its handle is released.
+template <class Kind>
+struct Selected
+{
+    HGDIOBJ handle = nullptr;
+    std::shared_ptr<Kind> object;
+
+    const Kind* operator->() const { return object.get(); }
+};
+
+// What SaveDC keeps.
+struct DrawingState
+{
+    Selected<Pen> pen;
+    Selected<Brush> brush;
+    Selected<Font> font;
+    Selected<Bitmap> bitmap; // of memory contexts
+    COLORREF textColor = 0x000000;
+    COLORREF backgroundColor = 0xFFFFFF;
+    int backgroundMode = OPAQUE;
+    UINT textAlign = TA_LEFT | TA_TOP;
+    QPoint position; // logical
+    QPoint windowOrigin;
+    QPoint viewportOrigin;
+    std::optional<QRegion> clip; // device units; none: all that is visible
+};
+
+class Context
+{
+public:
+    // `origin` and `visible` are in pixels of the surface, which outlives the context.
+    Context(Surface& surface, QPoint origin, QRegion visible);
+    // A memory context, or one that owns what it draws on.
+    Context(std::unique_ptr<Surface> surface, const QRegion& visible);
+    ~Context();
+    Context(const Context&) = delete;
+    Context& operator=(const Context&) = delete;
+
+    DrawingState state;
+    std::vector<DrawingState> saved;
+
+    Surface& surface() const { return *m_surface; }
+    bool isMemory() const { return state.bitmap.object != nullptr; }
+    // The image drawn on, or null on a printer.
+    QImage* image() const;
+
+    void selectBitmap(const Selected<Bitmap>& bitmap);
+    void restore(int level);
+
+    // Logical units to device units (the origin of the context is device 0, 0) and to pixels of the surface.
+    QPoint toDevice() const { return state.viewportOrigin - state.windowOrigin; }
+    QPoint toSurface() const { return m_origin + toDevice(); }
+
+    // Where drawing shows, in device units.
+    QRegion drawable() const;
+    QRegion visible() const { return m_visible.translated(-m_origin); }
+
+private:
+    void applyBitmap();
+
+    std::unique_ptr<Surface> m_owned;
+    Surface* m_surface;
+    QPoint m_origin;
+    QRegion m_visible;
+};
+
+HDC addContext(std::shared_ptr<Context> context);
+std::shared_ptr<Context> findContext(HDC dc);
+
+// Draws in logical coordinates, clipped as the context says, for the time of one call.
+class ContextPainter
+{
+public:
+    // `touched`: the part that the call may change, in logical coordinates.
+    ContextPainter(Context& context, const QRect& touched);
+    ~ContextPainter();
+    ContextPainter(const ContextPainter&) = delete;
+    ContextPainter& operator=(const ContextPainter&) = delete;
+
+    QPainter* operator->() const { return m_painter; }
+    QPainter& operator*() const { return *m_painter; }
+    // False where the call can't change anything that shows.
+    explicit operator bool() const { return m_painter != nullptr; }
+
+private:
+    Context& m_context;
+    QRect m_touched; // pixels of the surface
+    std::unique_ptr<QPainter> m_own;
+    QPainter* m_painter = nullptr;
+};
+
+inline QRect toQRect(const RECT& rect)
+{
+    return QRect(QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1));
+}
+
+inline RECT toRect(const QRect& rect)
+{
+    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
+}

@@ -1,0 +1,46 @@
+// Handles that are never used twice, so that one that was released is found out and not taken for another.
+#pragma once
+
+#include "windef.h"
+
+#include <memory>
+#include <unordered_map>
+#include <utility>
+
+namespace winapi {
+
+// Above the small numbers that stand for system colours and resource ids.
+inline ULONG_PTR nextHandleValue()
+{
+    static ULONG_PTR last = 0x10000;
+    return last += 4;
+}
+
+template <class Handle, class Object>
+class HandleTable
+{
+public:
+    Handle add(std::shared_ptr<Object> object)
+    {
+        const ULONG_PTR value = nextHandleValue();
+        m_objects.emplace(value, std::move(object));
+        return reinterpret_cast<Handle>(value);
+    }
+
+    std::shared_ptr<Object> find(const void* handle) const
+    {
+        const auto found = m_objects.find(reinterpret_cast<ULONG_PTR>(handle));
+        return found == m_objects.end() ? nullptr : found->second;
+    }
+
+    std::shared_ptr<Object> remove(const void* handle)
+    {
+        const auto node = m_objects.extract(reinterpret_cast<ULONG_PTR>(handle));
+        return node ? node.mapped() : nullptr;
+    }
+
+private:
+    std::unordered_map<ULONG_PTR, std::shared_ptr<Object>> m_objects;
+};
+
+}

@@ -1,0 +1,256 @@
+// Fonts, the measures of text, and single lines of it.
+#include "text.h"
+
+#include "application.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace winapi {
+
+namespace {
+
+// The faces that Windows programs ask for by name, for systems that don't have them.
+QStringList familiesFor(const QString& face)
+{
+    struct Substitute
+    {
+        const char* face;
+        const char* families;
+    };
+    static constexpr const char* sans = "Liberation Sans,Arial,DejaVu Sans";
+    static constexpr Substitute substitutes[] = {
+        {"", sans},
+        {"System", sans},
+        {"MS Sans Serif", sans},
+        {"MS Shell Dlg", sans},
+        {"MS Shell Dlg 2", sans},
+        {"Tahoma", sans},
+        {"Segoe UI", sans},
+        {"Arial", sans},
+        {"Times New Roman", "Liberation Serif,DejaVu Serif"},
+        {"Courier New", "Liberation Mono,DejaVu Sans Mono"},
+    };
+    QStringList families(face);
+    for (const Substitute& substitute : substitutes)
+        if (face.compare(QLatin1String(substitute.face), Qt::CaseInsensitive) == 0)
+            families += QString::fromLatin1(substitute.families).split(',');
+    families.removeAll(QString());
+    return families;
+}
+
+QFont::StyleHint styleHint(BYTE pitchAndFamily)
+{
+    if ((pitchAndFamily & 0xF0) == FF_MODERN || (pitchAndFamily & 0x03) == FIXED_PITCH)
+        return QFont::TypeWriter;
+    return (pitchAndFamily & 0xF0) == FF_ROMAN ? QFont::Serif : QFont::SansSerif;
+}
+
+// The size of the letters that makes a line as high as asked for.
+int pixelSizeForLine(QFont font, int height)
+{
+    constexpr int sample = 1000;
+    font.setPixelSize(sample);
+    return std::max(1, height * sample / lineHeight(QFontMetrics(font)));
+}
+
+void setHeight(QFont& font, LONG height)
+{
+    constexpr int defaultHeight = 16;
+    if (height < 0)
+        font.setPixelSize(-height);
+    else
+        font.setPixelSize(pixelSizeForLine(font, height == 0 ? defaultHeight : height));
+}
+
+// Text that is used to find the average width of a letter, as Windows does.
+const QString& alphabet()
+{
+    static const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return letters;
+}
+
+int averageWidth(const QFontMetrics& metrics)
+{
+    return (metrics.horizontalAdvance(alphabet()) / 26 + 1) / 2;
+}
+
+// The upper left corner of a line that is placed at `reference`, as the alignment says.
+QPoint aligned(QPoint reference, UINT align, int width, const QFontMetrics& metrics)
+{
+    const UINT horizontal = align & TA_CENTER;
+    if (horizontal == TA_CENTER)
+        reference.rx() -= width / 2;
+    else if (horizontal == TA_RIGHT)
+        reference.rx() -= width;
+    const UINT vertical = align & TA_BASELINE;
+    if (vertical == TA_BASELINE)
+        reference.ry() -= metrics.ascent();
+    else if (vertical == TA_BOTTOM)
+        reference.ry() -= lineHeight(metrics);
+    return reference;
+}
+
+// Where the next text goes when texts are placed one behind the other.
+void advancePosition(DrawingState& state, int width)
+{
+    const UINT horizontal = state.textAlign & TA_CENTER;
+    if ((state.textAlign & TA_UPDATECP) && horizontal != TA_CENTER)
+        state.position.rx() += horizontal == TA_RIGHT ? -width : width;
+}
+
+void fillBackground(Context& context, const RECT& rect)
+{
+    const QRect area = toQRect(rect);
+    ContextPainter painter(context, area);
+    if (painter)
+        painter->fillRect(area, toColor(context.state.backgroundColor));
+}
+
+void placeText(Context& context, QPoint position, const QString& text, const QRect* clip)
+{
+    const QFontMetrics metrics = metricsOf(context);
+    const int width = metrics.horizontalAdvance(text);
+    const QPoint reference = context.state.textAlign & TA_UPDATECP ? context.state.position : position;
+    const QPoint corner = aligned(reference, context.state.textAlign, width, metrics);
+    advancePosition(context.state, width);
+    ContextPainter painter(context, touchedByText(QRect(corner, QSize(width, lineHeight(metrics))), metrics));
+    if (!painter)
+        return;
+    if (clip)
+        painter->setClipRect(*clip, Qt::IntersectClip);
+    drawTextLine(*painter, context, corner, text);
+}
+
+}
+
+QFont toFont(const LOGFONTA& description)
+{
+    application();
+    const auto length = strnlen(description.lfFaceName, LF_FACESIZE);
+    QFont font;
+    font.setFamilies(familiesFor(QString::fromUtf8(description.lfFaceName, static_cast<qsizetype>(length))));
+    // Grey letters on whole pixels, hinted and without kerning, so that text is as wide as its letters.
+    const auto strategy = QFont::PreferAntialias | QFont::NoSubpixelAntialias;
+    font.setStyleHint(styleHint(description.lfPitchAndFamily), static_cast<QFont::StyleStrategy>(strategy));
+    font.setHintingPreference(QFont::PreferFullHinting);
+    font.setKerning(false);
+    if (description.lfWeight != FW_DONTCARE)
+        font.setWeight(static_cast<QFont::Weight>(std::clamp<LONG>(description.lfWeight, 1, 1000)));
+    font.setItalic(description.lfItalic != 0);
+    font.setUnderline(description.lfUnderline != 0);
+    font.setStrikeOut(description.lfStrikeOut != 0);
+    setHeight(font, description.lfHeight);
+    return font;
+}
+
+QFontMetrics metricsOf(const Context& context)
+{
+    return QFontMetrics(context.state.font->font, &context.surface().device());
+}
+
+QString toText(LPCSTR text, int length)
+{
+    return text ? QString::fromUtf8(text, length) : QString();
+}
+
+int lineHeight(const QFontMetrics& metrics)
+{
+    return metrics.ascent() + metrics.descent();
+}
+
+QRect touchedByText(const QRect& area, const QFontMetrics& metrics)
+{
+    const int overhang = lineHeight(metrics);
+    return area.adjusted(-overhang, 0, overhang, 0);
+}
+
+void drawTextLine(QPainter& painter, const Context& context, QPoint position, const QString& text)
+{
+    const DrawingState& state = context.state;
+    const QFontMetrics metrics = metricsOf(context);
+    if (state.backgroundMode == OPAQUE) {
+        const QSize extent(metrics.horizontalAdvance(text), lineHeight(metrics));
+        painter.fillRect(QRect(position, extent), toColor(state.backgroundColor));
+    }
+    painter.setFont(state.font->font);
+    painter.setPen(toColor(state.textColor));
+    painter.drawText(position + QPoint(0, metrics.ascent()), text);
+}
+
+}
+
+using namespace winapi;
+
+BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length)
+{
+    return length >= 0 && ExtTextOutA(dc, x, y, 0, nullptr, text, static_cast<UINT>(length), nullptr);
+}
+
+BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length, const INT*)
+{
+    const auto context = findContext(dc);
+    if (!context || (length > 0 && !text))
+        return FALSE;
+    if ((options & ETO_OPAQUE) && rect)
+        fillBackground(*context, *rect);
+    if (length == 0)
+        return TRUE;
+    const QRect clip = rect ? toQRect(*rect) : QRect();
+    placeText(*context, {x, y}, toText(text, static_cast<int>(length)),
+              (options & ETO_CLIPPED) && rect ? &clip : nullptr);
+    return TRUE;
+}
+
+BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size)
+{
+    const auto context = findContext(dc);
+    if (!context || !size || length < 0 || (length > 0 && !text))
+        return FALSE;
+    const QFontMetrics metrics = metricsOf(*context);
+    *size = length == 0 ? SIZE{} : SIZE{metrics.horizontalAdvance(toText(text, length)), lineHeight(metrics)};
+    return TRUE;
+}
+
+BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
+{
+    const auto context = findContext(dc);
+    if (!context || !result)
+        return FALSE;
+    const QFont& font = context->state.font->font;
+    const QFontMetrics metrics = metricsOf(*context);
+    *result = {};
+    result->tmHeight = lineHeight(metrics);
+    result->tmAscent = metrics.ascent();
+    result->tmDescent = metrics.descent();
+    result->tmInternalLeading = std::max(0, result->tmHeight - font.pixelSize());
+    result->tmExternalLeading = std::max(0, metrics.leading());
+    result->tmAveCharWidth = averageWidth(metrics);
+    result->tmMaxCharWidth = metrics.maxWidth();
+    result->tmWeight = font.weight();
+    result->tmDigitizedAspectX = result->tmDigitizedAspectY = 96;
+    result->tmFirstChar = 0x20;
+    result->tmLastChar = 0xFF;
+    result->tmDefaultChar = '?';
+    result->tmBreakChar = ' ';
+    result->tmItalic = font.italic();
+    result->tmUnderlined = font.underline();
+    result->tmStruckOut = font.strikeOut();
+    result->tmCharSet = context->state.font->description.lfCharSet;
+    return TRUE;
+}
+
+int GetTextFaceA(HDC dc, int size, LPSTR name)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return 0;
+    const QByteArray family = context->state.font->font.family().toUtf8();
+    if (!name)
+        return static_cast<int>(family.size()) + 1;
+    if (size <= 0)
+        return 0;
+    qstrncpy(name, family.constData(), static_cast<std::size_t>(size));
+    return static_cast<int>(std::strlen(name)) + 1;
+}
