@@ -14,12 +14,16 @@
 #include <CalendarSettings.h>
 #include <DateTime.h>
 
-#include <memory>
+#include <array>
 #include <vector>
 
 class CDownArrowButton;
-class CImageMenu;
 class CZEBButton;
+
+namespace MonthBlock {
+struct Cell;
+struct Place;
+}
 
 class ZEB17_EXPORT CCalendarWnd : public CWnd
 {
@@ -83,6 +87,18 @@ public:
     static void EnableToDoList();
 
 protected:
+    enum ButtonId : UINT
+    {
+        PrevYearButtonId = 2600,
+        NextYearButtonId,
+        PrevMonthButtonId,
+        NextMonthButtonId,
+        TodayButtonId,
+        ClearButtonId,
+        OptionsButtonId,
+        MonthYearButtonId
+    };
+
     // What a date range counts from: today, or the month shown.
     enum class RangeBase
     {
@@ -100,6 +116,7 @@ protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // Creation.
+    std::array<CZEBButton*, 8> GetButtons() const; // in the order of their creation
     bool HasAllButtons() const;
     void CreateToolTip();
     void CreateButtons();
@@ -108,17 +125,18 @@ protected:
     // Layout of the client area, and the tables of what lies on the 42 days of the block.
     void CalculateDayLocations();
     void DetermineSpecialDays();
+    void LookUpDay(const DateTime& date, std::size_t nCell);
 
     // Painting. `rcCell` is the text rectangle of a cell.
     void DrawGrid(CDC* pDC);
     void DrawMonth(CDC* pDC);
     void DrawDayNames(CDC* pDC);
-    void DrawDay(CDC* pDC, int nCell, int nDay, bool bShownMonth);
+    void DrawDay(CDC* pDC, int nCell, const MonthBlock::Cell& cell);
     void DrawTodayBkg(CDC* pDC, const CRect& rcCell);
     void DrawSpecialDay(CDC* pDC, int nCell, CRect rcCell);
     void DrawSelectionFrame(CDC* pDC, COLORREF crFrame);
     void RemoveCellTips();
-    CRect GetCellRect(int nRow, int nColumn) const;
+    CRect GetCellRect(const MonthBlock::Place& place) const;
     COLORREF GetFrameColor() const;
 
     // Moves the selection frame on the window itself: to `rcNew`, or, if that is empty, to the day of m_date.
@@ -142,9 +160,11 @@ protected:
     bool MoveFocus(bool bBackward);
     void MoveSelection(void (DateTime::*pStep)(int), int nCount);
     void SelectInMonth(void (DateTime::*pSet)());
-    void SelectNeighbour(int nDay, int nDays);
+    void SelectShownDay(int nDay, const MonthBlock::Place& place);
+    void SelectNeighbourDay(int nOffset, int nDays);
     void InvalidateSelection();
 
+    // What a tip of a step button says, in which month and year a press leads.
     CString GetStepTip(int nButtonId) const;
 
     // Options.

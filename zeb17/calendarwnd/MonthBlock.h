@@ -93,6 +93,26 @@ constexpr int OffsetOfPlace(int nFirstColumn, Place place)
     return (place.nRow - 2) * kColumns + place.nColumn - nFirstColumn;
 }
 
+// The place that a point presses on, by the edge tables; none for the names of the weekdays and outside of
+// the days. An edge and the pixel behind it belong to the cell before them.
+constexpr std::optional<Place> PlaceAt(std::span<const int> rowEdges, std::span<const int> columnEdges, int x,
+                                       int y)
+{
+    const auto isWithin = [](std::span<const int> edges, std::size_t i, int n) {
+        return n >= edges[i - 1] && n <= edges[i] + 1;
+    };
+    for (std::size_t r = 1; r <= kRows; ++r) {
+        if (!isWithin(rowEdges, r, y))
+            continue;
+        if (r == 1)
+            return std::nullopt;
+        for (std::size_t c = 1; c <= kColumns; ++c)
+            if (isWithin(columnEdges, c, x))
+                return Place{static_cast<int>(r), static_cast<int>(c)};
+    }
+    return std::nullopt;
+}
+
 // Splits the way from `nBegin` to `nEnd` into equal whole steps, one fewer than there are edges. The last
 // one takes up what is left over, and gives up 1 or 2 units where that would be 5 or more.
 constexpr void Split(std::span<int> edges, int nBegin, int nEnd)

@@ -1,0 +1,173 @@
+#include "CalendarWnd.h"
+
+#include "CalendarTexts.h"
+#include "DownArrowButton.h"
+#include "LogLine.h"
+
+#include <BkgStyle.h>
+#include <GraphicsUtils.h>
+#include <StringUtils.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr DWORD kChildStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+
+// No CS_DBLCLKS: a double click arrives as two presses.
+constexpr UINT kClassStyle = CS_VREDRAW | CS_HREDRAW | CS_CLASSDC | CS_SAVEBITS;
+
+struct ButtonFont
+{
+    long nHeight; // 0 keeps the font that the button has
+    long nWeight;
+};
+
+constexpr ButtonFont kOwnFont{0, 0};
+constexpr ButtonFont kMonthFont{12, FW_LIGHT};
+constexpr ButtonFont kYearFont{11, FW_LIGHT};
+constexpr ButtonFont kTitleFont{16, FW_BOLD};
+
+struct ButtonSetUp
+{
+    CZEBButton* pButton;
+    UINT nID;
+    const std::vector<int>* pCaption; // null for none
+    ButtonFont font;
+    ZEBIcon::ButtonIcon eIcon;
+    bool bEnabled;
+    const char* pFailureMark;
+};
+
+void CreateButton(const ButtonSetUp& setUp, CWnd* pParent)
+{
+    CZEBButton& button = *setUp.pButton;
+    const CString strCaption =
+        setUp.pCaption != nullptr ? StringUtils::DecryptText(*setUp.pCaption) : CString();
+    if (!button.Create(strCaption, kChildStyle, CRect(0, 0, 10, 10), pParent, setUp.nID)) {
+        LogLine(setUp.pFailureMark);
+        return;
+    }
+    if (setUp.font.nHeight != 0)
+        button.SetFont(StringUtils::DecryptText(CalendarTexts::Face), setUp.font.nHeight, setUp.font.nWeight,
+                       0, 0);
+    if (setUp.eIcon != ZEBIcon::IconNone) {
+        button.SetIcon(setUp.eIcon, BS_LEFT, BS_VCENTER, false);
+        button.m_bIconOnly = true;
+    }
+    if (!setUp.bEnabled) {
+        button.SetRegularFontWhenDisabled(true, true);
+        button.EnableWindow(FALSE);
+    }
+}
+
+}
+
+bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CWnd* pParent,
+                          bool bAllowNoDate, bool bShowOptions, bool bAllowWebPage, bool bAllowDateRanges)
+{
+    constexpr const char* kNoWindowMark = "{9C02F331-DDE6-430B-BCCF-80503618AC46}";
+    if (GetSafeHwnd() != nullptr) // the control that exists stays as it is
+    {
+        LogLine(kNoWindowMark);
+        return false;
+    }
+
+    m_bUseSpecialDates = bUseSpecialDates;
+    m_bAllowNoDate = bAllowNoDate;
+    m_bShowOptions = bShowOptions;
+    m_bAllowWebPage = bAllowWebPage;
+    m_bAllowDateRanges = bAllowDateRanges;
+    m_pParent = pParent;
+    if (bUseSpecialDates)
+        m_settings.Load();
+
+    const LPCTSTR pClass = AfxRegisterWndClass(kClassStyle, nullptr,
+                                               static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)), nullptr);
+    if (!CreateEx(0, pClass, "", kChildStyle, rect, pParent, nID, nullptr)) {
+        LogLine(kNoWindowMark);
+        return false;
+    }
+    if (!HasAllButtons()) {
+        LogLine("{D110EEBF-8B1E-462E-9AE9-2E70E72F2BDC}");
+        return false;
+    }
+    EnableToolTips(TRUE); // for the step buttons; the days have m_toolTip
+    if (m_bUseSpecialDates)
+        CreateToolTip();
+    CreateButtons();
+    CreateGridFont();
+    ApplyBkgShading();
+    OnSize(0, rect.right - rect.left, rect.bottom - rect.top);
+    RefreshMonth();
+    NotifyParentWnd(CALWND_ONNODATE, false);
+    return true;
+}
+
+std::array<CZEBButton*, 8> CCalendarWnd::GetButtons() const
+{
+    return {m_pPrevMonthButton, m_pNextMonthButton, m_pPrevYearButton, m_pNextYearButton,
+            m_pTodayButton,     m_pOptionsButton,   m_pClearButton,    m_pMonthYearButton};
+}
+
+bool CCalendarWnd::HasAllButtons() const
+{
+    return std::ranges::none_of(GetButtons(), [](const CZEBButton* pButton) { return pButton == nullptr; });
+}
+
+void CCalendarWnd::CreateToolTip()
+{
+    if (!m_toolTip.Create(this, 0))
+        LogLine("{9E65460D-A45F-46D5-B417-DFAAC0F156CA}");
+}
+
+void CCalendarWnd::CreateButtons()
+{
+    // A slot of the footer that is not wanted is filled by a disabled button without a caption.
+    const auto blank = [](CZEBButton* pButton, const char* pFailureMark) {
+        return ButtonSetUp{pButton, ClearButtonId, nullptr, kOwnFont, ZEBIcon::IconNone, false, pFailureMark};
+    };
+    const ButtonSetUp setUps[] = {
+        {m_pPrevMonthButton, PrevMonthButtonId, nullptr, kMonthFont, ZEBIcon::IconPreviousMonth, true,
+         "{E9A2B6D6-9485-42D0-BF9F-FDB8E8AF8E8D}"},
+        {m_pNextMonthButton, NextMonthButtonId, nullptr, kMonthFont, ZEBIcon::IconNextMonth, true,
+         "{9250256C-0A3D-4561-8A9F-0E8C44AA8720}"},
+        {m_pPrevYearButton, PrevYearButtonId, nullptr, kYearFont, ZEBIcon::IconPreviousYear, true,
+         "{00AB4C70-44C8-4D43-AA36-D5C877FE0C2E}"},
+        {m_pNextYearButton, NextYearButtonId, nullptr, kYearFont, ZEBIcon::IconNextYear, true,
+         "{2EDBD217-3019-42E1-A166-826798479116}"},
+        {m_pTodayButton, TodayButtonId, &CalendarTexts::Today, kOwnFont, ZEBIcon::IconNone, true,
+         "{80061BF2-11FA-47A3-9D22-FF36F1371BD9}"},
+        m_bShowOptions ? ButtonSetUp{m_pOptionsButton, OptionsButtonId, &CalendarTexts::Options, kOwnFont,
+                                     ZEBIcon::IconNone, true, "{709907EF-F870-43E9-B85F-0B708B12AF01}"}
+                       : blank(m_pOptionsButton, "{ECC5886C-D1BD-4C83-98FA-8A938D421FA5}"),
+        m_bAllowNoDate ? ButtonSetUp{m_pClearButton, ClearButtonId, &CalendarTexts::Clear, kOwnFont,
+                                     ZEBIcon::IconNone, true, "{360450D8-23CD-4A6E-AA1F-40921D061B79}"}
+                       : blank(m_pClearButton, "{839A35AF-62E0-4FD3-8CB0-9EB85D62FF60}"),
+        {m_pMonthYearButton, MonthYearButtonId, nullptr, kTitleFont, ZEBIcon::IconNone, false,
+         "{637363C1-6A35-450D-9CBF-A0D5BA7CDE3B}"},
+    };
+    for (const ButtonSetUp& setUp : setUps)
+        CreateButton(setUp, this);
+}
+
+void CCalendarWnd::CreateGridFont()
+{
+    LOGFONTA lf{};
+    GraphicsUtils::SetDefaultFont(lf, "", 15, -1, false, false, false);
+    m_fontGrid.DeleteObject();
+    m_fontGrid.Attach(::CreateFontIndirectA(&lf));
+}
+
+void CCalendarWnd::ApplyBkgShading()
+{
+    const BkgStyle* const pStyle = BkgStyle::GetInstance();
+    ShadeProps* pProps = nullptr;
+    if (pStyle != nullptr)
+        pStyle->Get(BkgStyle::UIPushButton, pProps);
+    if (pProps == nullptr)
+        return;
+    for (CZEBButton* const pButton : GetButtons())
+        if (pButton != nullptr && ::IsWindow(pButton->GetSafeHwnd()))
+            pButton->SetShadeProps(*pProps);
+}

@@ -1,0 +1,224 @@
+// Mouse, keys and focus.
+
+#include "CalendarWnd.h"
+
+#include "DownArrowButton.h"
+#include "MonthBlock.h"
+
+#include <Keyboard.h>
+
+#include <algorithm>
+
+namespace {
+
+struct FocusStop
+{
+    CWnd* pWnd;
+    bool bPresent;
+    bool bRedrawsFrame; // moving away from here redraws the selection frame
+};
+
+bool IsLive(const CWnd* pWnd)
+{
+    return pWnd != nullptr && ::IsWindow(pWnd->GetSafeHwnd());
+}
+
+}
+
+void CCalendarWnd::OnLButtonDown(UINT, CPoint point)
+{
+    Default();
+    SetFocus();
+    if (m_nFirstDayColumn == -1) // not painted yet
+        return;
+    const auto place = MonthBlock::PlaceAt(m_vRowEdges, m_vColumnEdges, point.x, point.y);
+    if (!place)
+        return;
+    const int nOffset = MonthBlock::OffsetOfPlace(m_nFirstDayColumn, *place);
+    const int nDays = DateTime::GetDaysInMonth(m_date.GetYear(), m_date.GetMonth());
+    if (nOffset >= 0 && nOffset < nDays)
+        SelectShownDay(nOffset + 1, *place);
+    else
+        SelectNeighbourDay(nOffset, nDays);
+}
+
+void CCalendarWnd::SelectShownDay(int nDay, const MonthBlock::Place& place)
+{
+    if (m_bHaveDate && m_date.GetDay() == nDay)
+        return;
+    m_bHaveDate = true;
+    m_date.SetDate(m_date.GetYear(), m_date.GetMonth(), nDay);
+    NotifyParentWnd(CALWND_ONSELCHANGE, false);
+    MoveSelectionRect(GetCellRect(place));
+}
+
+// `nOffset` counts from day 1 of the month shown, which has `nDays` days.
+void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
+{
+    m_bHaveDate = true;
+    const int nAnchor = nOffset < 0 ? 1 : nDays;
+    const int nAway = nOffset < 0 ? nOffset : nOffset + 1 - nDays;
+    DateTime date;
+    date.Set(m_date.GetYear(), m_date.GetMonth(), nAnchor, 0, 0, 0);
+    date.AddDays(nAway);
+    ShowDate(date);
+    NotifyParentWnd(CALWND_ONSELCHANGE, false);
+}
+
+// Sees the keys of the control and of its buttons before they do. Only a Tab that moved the focus ends here.
+BOOL CCalendarWnd::PreTranslateMessage(MSG* pMsg)
+{
+    if (pMsg != nullptr && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
+        return TRUE;
+    if (m_bUseSpecialDates)
+        m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(pMsg));
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+bool CCalendarWnd::HandleKey(WPARAM nKey)
+{
+    switch (nKey) {
+    case VK_TAB:
+        return MoveFocus(Keyboard::IsShiftKeyDown());
+    case VK_PRIOR:
+        OnPreviousMonthButton();
+        break;
+    case VK_NEXT:
+        OnNextMonthButton();
+        break;
+    case VK_END:
+        SelectInMonth(&DateTime::SetToLastDay);
+        break;
+    case VK_HOME:
+        SelectInMonth(&DateTime::SetToFirstDay);
+        break;
+    case VK_LEFT:
+        MoveSelection(&DateTime::AddDays, -1);
+        break;
+    case VK_UP:
+        MoveSelection(&DateTime::AddWeeks, -1);
+        break;
+    case VK_RIGHT:
+        MoveSelection(&DateTime::AddDays, 1);
+        break;
+    case VK_DOWN:
+        MoveSelection(&DateTime::AddWeeks, 1);
+        break;
+    case 'T':
+    case VK_F5:
+        OnTodayButton();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+// The focus goes round the control and its buttons and out to the parent at both ends. Buttons that only fill
+// a slot are passed over.
+bool CCalendarWnd::MoveFocus(bool bBackward)
+{
+    CWnd* const pParent = GetParent();
+    CWnd* const pFocus = GetFocus();
+    const FocusStop ring[] = {
+        {pParent, true, false},
+        {this, true, true},
+        {m_pTodayButton, true, true},
+        {m_pOptionsButton, m_bShowOptions, true},
+        {m_pClearButton, m_bAllowNoDate, false},
+        {m_pPrevMonthButton, true, false},
+        {m_pNextMonthButton, true, true},
+        {m_pPrevYearButton, true, true},
+        {m_pNextYearButton, true, true},
+        {pParent, true, false},
+    };
+    const auto isLive = [](const FocusStop& stop) { return IsLive(stop.pWnd); };
+    if (!IsLive(pFocus) || !std::ranges::all_of(ring, isLive))
+        return false;
+
+    const FocusStop* const pEnd = std::end(ring) - 1;
+    const FocusStop* pStop = std::find_if(std::begin(ring) + 1, pEnd,
+                                          [pFocus](const FocusStop& stop) { return stop.pWnd == pFocus; });
+    if (pStop == pEnd)
+        return false;
+    const bool bRedrawFrame = m_bHaveDate && pStop->bRedrawsFrame;
+    do
+        pStop += bBackward ? -1 : 1;
+    while (!pStop->bPresent);
+    pStop->pWnd->SetFocus();
+    if (bRedrawFrame)
+        MoveSelectionRect(CRect());
+    return true;
+}
+
+void CCalendarWnd::SelectInMonth(void (DateTime::*pSet)())
+{
+    m_bHaveDate = true;
+    (m_date.*pSet)();
+    NotifyParentWnd(CALWND_ONSELCHANGE, true);
+    MoveSelectionRect(CRect());
+}
+
+// A step out of the range of dates leaves the date where it is.
+void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
+{
+    m_bHaveDate = true;
+    DateTime date = m_date;
+    (date.*pStep)(nCount);
+    if (ApplyNewDate(date)) {
+        RefreshMonth();
+        InvalidateGrid();
+    } else
+        MoveSelectionRect(CRect());
+    NotifyParentWnd(CALWND_ONSELCHANGE, true);
+}
+
+void CCalendarWnd::OnKeyDown(UINT nChar, UINT, UINT)
+{
+    Default();
+    if (nChar == VK_RETURN)
+        NotifyParentWnd(CALWND_ENTERKEY, false);
+    else if (nChar == VK_ESCAPE)
+        NotifyParentWnd(CALWND_ESCKEY, false);
+}
+
+// One month a message, however far the wheel was turned; away from the user is back in time.
+BOOL CCalendarWnd::OnMouseWheel(UINT, short zDelta, CPoint)
+{
+    StepDate(&DateTime::AddMonths, zDelta > 0 ? -1 : 1);
+    return TRUE;
+}
+
+BOOL CCalendarWnd::OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt)
+{
+    return OnMouseWheel(nFlags, zDelta, pt);
+}
+
+BOOL CCalendarWnd::OnSetCursor(CWnd*, UINT, UINT)
+{
+    ::SetCursor(::LoadCursor(nullptr, IDC_ARROW));
+    return TRUE;
+}
+
+void CCalendarWnd::OnSetFocus(CWnd* pOldWnd)
+{
+    CWnd::OnSetFocus(pOldWnd);
+    if (m_rcSelection.IsRectEmpty())
+        return;
+    InvalidateSelection();
+    if (m_bHaveDate)
+        MoveSelectionRect(m_rcSelection);
+}
+
+void CCalendarWnd::OnKillFocus(CWnd*)
+{
+    Default();
+    InvalidateSelection();
+}
+
+void CCalendarWnd::InvalidateSelection()
+{
+    CRect rc = m_rcSelection;
+    rc.left -= 2;
+    InvalidateRect(&rc, TRUE);
+}

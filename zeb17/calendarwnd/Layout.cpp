@@ -1,0 +1,118 @@
+// Where things stand in the client area, and what lies on the days shown.
+
+#include "CalendarWnd.h"
+
+#include "DownArrowButton.h"
+#include "LogLine.h"
+#include "MonthBlock.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kHeadingHeight = 23;
+constexpr int kFooterHeight = 25;
+constexpr int kStepButtonWidth = 25;
+constexpr int kDayNamesHeight = 19;
+constexpr COLORREF kNoColor = RGB(255, 255, 255);
+
+struct ButtonPlace
+{
+    CZEBButton* pButton;
+    int x;
+    int y;
+    int nWidth;
+    int nHeight;
+};
+
+void MoveButtons(std::span<const ButtonPlace> places)
+{
+    for (const ButtonPlace& place : places)
+        if (::IsWindow(place.pButton->GetSafeHwnd()))
+            place.pButton->MoveWindow(place.x, place.y, place.nWidth, place.nHeight);
+}
+
+}
+
+void CCalendarWnd::OnSize(UINT, int cx, int cy)
+{
+    Default();
+    if (!HasAllButtons()) {
+        LogLine("{EE857672-D8CE-45B9-828B-F0930F6AB2EA}");
+        return;
+    }
+    if (!::IsWindow(m_pMonthYearButton->GetSafeHwnd())) // the window is only just being created
+        return;
+
+    constexpr int w = kStepButtonWidth;
+    constexpr int h = kHeadingHeight;
+    const ButtonPlace heading[] = {
+        {m_pMonthYearButton, 2 * w, 0, cx - 4 * w, h},
+        {m_pPrevYearButton, 0, 0, w, h},
+        {m_pPrevMonthButton, w, 0, w, h},
+        {m_pNextMonthButton, cx - 2 * w, 0, w, h},
+        {m_pNextYearButton, cx - w, 0, w, h},
+    };
+    const int nThird = cx / 3;
+    const int nFooter = cy - kFooterHeight;
+    const ButtonPlace footer[] = {
+        {m_pTodayButton, 0, nFooter, nThird, kFooterHeight},
+        {m_pOptionsButton, nThird, nFooter, nThird, kFooterHeight},
+        {m_pClearButton, 2 * nThird, nFooter, cx - 2 * nThird, kFooterHeight},
+    };
+    MoveButtons(heading);
+    m_rcGrid.SetRect(0, kHeadingHeight, cx, nFooter);
+    CalculateDayLocations();
+    InvalidateGrid();
+    MoveButtons(footer);
+}
+
+void CCalendarWnd::CalculateDayLocations()
+{
+    m_vRowEdges.resize(MonthBlock::kEdges);
+    m_vColumnEdges.resize(MonthBlock::kEdges);
+    CRect rc = m_rcGrid;
+    rc.DeflateRect(1, 1);
+    m_vRowEdges[0] = rc.top;
+    MonthBlock::Split(std::span(m_vRowEdges).subspan(1), rc.top + kDayNamesHeight, rc.bottom);
+    MonthBlock::Split(m_vColumnEdges, rc.left, rc.right);
+}
+
+CRect CCalendarWnd::GetCellRect(const MonthBlock::Place& place) const
+{
+    return MonthBlock::TextRect(m_vRowEdges, m_vColumnEdges, place);
+}
+
+void CCalendarWnd::DetermineSpecialDays()
+{
+    m_nTodayCell = -1;
+    std::ranges::fill(m_vDayColors, kNoColor);
+    std::ranges::fill(m_vDayDescs, CString());
+    if (!m_date.IsValid())
+        return;
+
+    DateTime today;
+    today.SetToCurrent();
+    DateTime date = m_date;
+    date.SetDay(1);
+    date.AddDays(1 - MonthBlock::FirstColumn(date.GetDayOfWeek(), LocaleUtils::GetFirstDayOfWeek()));
+    for (std::size_t i = 0; i < MonthBlock::kCells; ++i, date.AddDays(1)) {
+        if (m_bUseSpecialDates)
+            LookUpDay(date, i);
+        if (date.CompareDate(today) != 0)
+            continue;
+        m_nTodayCell = static_cast<int>(i);
+        if (!m_bUseSpecialDates)
+            return;
+    }
+}
+
+void CCalendarWnd::LookUpDay(const DateTime& date, std::size_t nCell)
+{
+    int nYear = 0, nMonth = 0, nDay = 0;
+    date.GetDate(nYear, nMonth, nDay);
+    DWORD dwColor = kNoColor;
+    m_vDayDescs[nCell] = m_settings.GetDateDesc(nDay, nMonth, nYear, dwColor);
+    if (!m_vDayDescs[nCell].IsEmpty())
+        m_vDayColors[nCell] = dwColor;
+}

@@ -1,0 +1,198 @@
+// The date, and what goes to the parent when it changes.
+
+#include "CalendarWnd.h"
+
+#include "CalendarTexts.h"
+#include "DownArrowButton.h"
+
+#include <LocaleUtils.h>
+#include <NumberTextConv.h>
+#include <StringUtils.h>
+
+namespace {
+
+constexpr COLORREF kErasedFrameColor = RGB(255, 255, 255);
+
+DateTime Now()
+{
+    DateTime now;
+    now.SetToCurrent();
+    return now;
+}
+
+struct YearAndMonth
+{
+    int nYear = 0;
+    int nMonth = 0;
+};
+
+// What a text like "March, 2026" names; year 0 for any other text.
+YearAndMonth ParseMonth(const CString& strText)
+{
+    const int nComma = strText.Find(',');
+    if (nComma < 0)
+        return {};
+    const CString strMonth = strText.Left(nComma);
+    CString strYear = strText.Mid(nComma + 1);
+    strYear.TrimLeft();
+    for (int nMonth = 1; nMonth <= 12; ++nMonth)
+        if (LocaleUtils::GetMonthName(nMonth, false) == strMonth)
+            return {NumberTextConv::GetNumberFromString(strYear), nMonth};
+    return {};
+}
+
+}
+
+void CCalendarWnd::SetDate(const DateTime& date)
+{
+    m_bHaveDate = date.IsValid();
+    ShowDate(m_bHaveDate ? date : Now());
+    if (m_bHaveDate)
+        NotifyParentWnd(CALWND_ONSELCHANGE, true);
+}
+
+bool CCalendarWnd::ApplyNewDate(const DateTime& date)
+{
+    if (!date.IsValid())
+        return false;
+    int nOldYear = 0, nOldMonth = 0, nYear = 0, nMonth = 0, nDay = 0;
+    m_date.GetDate(nOldYear, nOldMonth, nDay);
+    date.GetDate(nYear, nMonth, nDay);
+    m_date = date;
+    return nMonth != nOldMonth || nYear != nOldYear;
+}
+
+void CCalendarWnd::ShowDate(const DateTime& date)
+{
+    if (ApplyNewDate(date))
+        RefreshMonth();
+    InvalidateGrid();
+}
+
+void CCalendarWnd::SetValidDate()
+{
+    if (m_pMonthYearButton == nullptr || !::IsWindow(m_pMonthYearButton->GetSafeHwnd()))
+        return;
+    CString strTitle;
+    m_pMonthYearButton->GetWindowText(strTitle);
+    const YearAndMonth month = ParseMonth(strTitle);
+    if (month.nYear != 0)
+        m_date.SetDate(month.nYear, month.nMonth, 1);
+    else
+        ShowDate(Now());
+}
+
+void CCalendarWnd::StepDate(void (DateTime::*pStep)(int), int nCount)
+{
+    if (!m_date.IsValid())
+        SetValidDate();
+    (m_date.*pStep)(nCount);
+    NotifyAndRefresh();
+}
+
+void CCalendarWnd::OnPreviousYearButton()
+{
+    StepDate(&DateTime::AddYears, -1);
+}
+
+void CCalendarWnd::OnNextYearButton()
+{
+    StepDate(&DateTime::AddYears, 1);
+}
+
+void CCalendarWnd::OnPreviousMonthButton()
+{
+    StepDate(&DateTime::AddMonths, -1);
+}
+
+void CCalendarWnd::OnNextMonthButton()
+{
+    StepDate(&DateTime::AddMonths, 1);
+}
+
+// The parent hears of the new date while title and special days still show the old month.
+void CCalendarWnd::NotifyAndRefresh()
+{
+    if (m_bHaveDate)
+        NotifyParentWnd(CALWND_ONSELCHANGE, true);
+    RefreshMonth();
+    InvalidateGrid();
+}
+
+void CCalendarWnd::OnTodayButton()
+{
+    m_bHaveDate = true;
+    if (!m_date.IsToday())
+        ShowDate(Now());
+    SetFocus();
+    NotifyParentWnd(CALWND_ONSELCHANGE, true);
+}
+
+// Takes the frame off the window without a repaint. The date itself stays.
+void CCalendarWnd::OnClearButton()
+{
+    if (!m_bAllowNoDate)
+        return;
+    m_bHaveDate = false;
+    if (m_rcSelection.IsRectEmpty())
+        return;
+    try {
+        CClientDC dc(this);
+        DrawSelectionFrame(&dc, kErasedFrameColor);
+    } catch (CResourceException* pException) {
+        pException->Delete();
+        return;
+    }
+    NotifyParentWnd(CALWND_ONNODATE, false);
+}
+
+void CCalendarWnd::ReloadSpecialDates()
+{
+    if (!m_bUseSpecialDates)
+        return;
+    m_settings.Load();
+    DetermineSpecialDays();
+    InvalidateGrid();
+}
+
+void CCalendarWnd::RefreshMonth()
+{
+    UpdateMonthYearText();
+    DetermineSpecialDays();
+}
+
+void CCalendarWnd::UpdateMonthYearText()
+{
+    if (m_pMonthYearButton == nullptr)
+        return;
+    if (!m_date.IsValid()) {
+        m_pMonthYearButton->SetWindowText(StringUtils::DecryptText(CalendarTexts::NoDate));
+        return;
+    }
+    int nYear = 0, nMonth = 0, nDay = 0;
+    m_date.GetDate(nYear, nMonth, nDay);
+    m_pMonthYearButton->SetWindowText(LocaleUtils::GetMonthName(nMonth, false) + " " +
+                                      NumberTextConv::NumberToString(nYear, false, 0, ""));
+}
+
+void CCalendarWnd::InvalidateGrid()
+{
+    InvalidateRect(&m_rcGrid, TRUE);
+}
+
+void CCalendarWnd::NotifyParentWnd(UINT nMessage, bool bFlag) const
+{
+    SendToParent(nMessage, bFlag ? 1 : 0);
+}
+
+void CCalendarWnd::NotifyParentWndDateRange(const DateTime& dtEnd) const
+{
+    SendToParent(CALWND_DATERANGE_CHANGED, reinterpret_cast<LPARAM>(&dtEnd));
+}
+
+void CCalendarWnd::SendToParent(UINT nMessage, LPARAM lParam) const
+{
+    if (m_pParent == nullptr || !::IsWindow(m_pParent->GetSafeHwnd()))
+        return;
+    ::SendMessageA(m_pParent->GetSafeHwnd(), nMessage, static_cast<WPARAM>(GetDlgCtrlID()), lParam);
+}

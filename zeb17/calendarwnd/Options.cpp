@@ -1,0 +1,126 @@
+// The options menu, and the commands that show a range of dates.
+
+#include "CalendarWnd.h"
+
+#include "DownArrowButton.h"
+#include "LogLine.h"
+#include "resource.h"
+
+#include <ClipboardUtils.h>
+#include <ImageMenu.h>
+#include <SystemUtils.h>
+
+#include <memory>
+
+namespace {
+
+// Points the toolkit at the library's own resources for as long as it lives.
+class LibraryResources
+{
+public:
+    LibraryResources()
+    {
+        HMODULE hLibrary = nullptr;
+        ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT, "zeb17.dll", &hLibrary);
+        if (hLibrary == nullptr)
+            return;
+        m_hSaved = AfxGetModuleState()->m_hCurrentResourceHandle;
+        AfxGetModuleState()->m_hCurrentResourceHandle = hLibrary;
+    }
+    ~LibraryResources()
+    {
+        if (m_hSaved != nullptr)
+            AfxGetModuleState()->m_hCurrentResourceHandle = m_hSaved;
+    }
+    LibraryResources(const LibraryResources&) = delete;
+    LibraryResources& operator=(const LibraryResources&) = delete;
+
+private:
+    HINSTANCE m_hSaved = nullptr;
+};
+
+std::unique_ptr<CImageMenu> LoadOptionsMenu(CImageMenu& menu, CWnd* pTarget)
+{
+    const LibraryResources resources;
+    return std::unique_ptr<CImageMenu>(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, pTarget));
+}
+
+// The state of a popup has a count where that of an item has the separator's bit.
+bool IsSeparator(HMENU hMenu, int nPosition)
+{
+    const UINT nState = ::GetMenuState(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
+    return nState != static_cast<UINT>(-1) && (nState & MF_SEPARATOR) != 0 && !::GetSubMenu(hMenu, nPosition);
+}
+
+void RemoveItem(HMENU hMenu, int nPosition)
+{
+    ::RemoveMenu(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
+}
+
+// Leaves no separator at the ends, and one where several would follow each other.
+void TidySeparators(HMENU hMenu)
+{
+    UINT nRemembered = MF_SEPARATOR;
+    for (int i = ::GetMenuItemCount(hMenu) - 1; i >= 0; --i) {
+        const UINT nState = ::GetMenuState(hMenu, static_cast<UINT>(i), MF_BYPOSITION);
+        if (IsSeparator(hMenu, i) && nState == nRemembered)
+            RemoveItem(hMenu, i);
+        else
+            nRemembered = nState;
+    }
+    if (IsSeparator(hMenu, 0))
+        RemoveItem(hMenu, 0);
+    if (const int nLast = ::GetMenuItemCount(hMenu) - 1; IsSeparator(hMenu, nLast))
+        RemoveItem(hMenu, nLast);
+}
+
+constexpr int kMonthsInQuarter = 3;
+
+}
+
+void CCalendarWnd::OnOptionsButton()
+{
+    if (!m_bShowOptions || m_pOptionsButton == nullptr)
+        return;
+    CImageMenu menu;
+    const std::unique_ptr<CImageMenu> pPopup = LoadOptionsMenu(menu, this);
+    if (!pPopup) {
+        LogLine("{FEC0DBA9-2245-4F66-8549-E7287A594599}");
+        return;
+    }
+    FilterOptionsMenu(pPopup->m_hMenu);
+    CRect rcButton;
+    m_pOptionsButton->GetWindowRect(&rcButton);
+    if (pPopup->TrackPopupMenu(0, rcButton.left, rcButton.bottom, this, nullptr) == 0)
+        LogLine("{E80C3B37-2E59-4924-A01D-320D1318EC50}" + SystemUtils::GetLastError(0));
+}
+
+void CCalendarWnd::FilterOptionsMenu(HMENU hMenu) const
+{
+    if (!m_bAllowWebPage)
+        ::RemoveMenu(hMenu, ID_OPTIONS_GENERATEWEBPAGE, MF_BYCOMMAND);
+    for (UINT nId = ID_OPTIONS_CURRENTMONTH; !m_bAllowDateRanges && nId <= ID_OPTIONS_PREVYEAR; ++nId)
+        ::RemoveMenu(hMenu, nId, MF_BYCOMMAND);
+    TidySeparators(hMenu);
+}
+
+void CCalendarWnd::OnUpdateOptionsCopydatelongform(CCmdUI* pCmdUI)
+{
+    if (pCmdUI != nullptr)
+        pCmdUI->Enable(m_date.IsValid());
+}
+
+void CCalendarWnd::OnUpdateOptionsCopydateshortform(CCmdUI* pCmdUI)
+{
+    OnUpdateOptionsCopydatelongform(pCmdUI);
+}
+
+void CCalendarWnd::OnOptionsCopydatelongform()
+{
+    ClipboardUtils::CopyTextToClipboard(DateTime::ConvertDateToText(m_date, false, false, false, false));
+}
+
+void CCalendarWnd::OnOptionsCopydateshortform()
+{
+    ClipboardUtils::CopyTextToClipboard(DateTime::ConvertDateToText(m_date, false, false, false, true));
+}
