@@ -1,0 +1,101 @@
+// Locale data from Qt.
+#include "errors.h"
+#include "winnls.h"
+
+#include <QLocale>
+#include <QString>
+
+#include <algorithm>
+
+using namespace winapi;
+
+namespace {
+
+QLocale localeFromName(LPCWSTR name)
+{
+    if (!name)
+        return QLocale::system();
+    return QLocale(QString::fromUtf16(name).replace('-', '_'));
+}
+
+// The number of a name in a run of them, from 1; 0 for another type.
+int numberInRun(LCTYPE type, LCTYPE first, int count)
+{
+    return type >= first && type < first + static_cast<LCTYPE>(count) ? static_cast<int>(type - first) + 1
+                                                                      : 0;
+}
+
+QString monthName(const QLocale& locale, int month, QLocale::FormatType format, bool besideDay)
+{
+    return besideDay ? locale.monthName(month, format) : locale.standaloneMonthName(month, format);
+}
+
+QString localeInfo(const QLocale& locale, LCTYPE type, bool genitive)
+{
+    if (const int day = numberInRun(type, LOCALE_SDAYNAME1, 7))
+        return locale.standaloneDayName(day, QLocale::LongFormat);
+    if (const int day = numberInRun(type, LOCALE_SABBREVDAYNAME1, 7))
+        return locale.standaloneDayName(day, QLocale::ShortFormat);
+    if (const int month = numberInRun(type, LOCALE_SMONTHNAME1, 12))
+        return monthName(locale, month, QLocale::LongFormat, genitive);
+    if (const int month = numberInRun(type, LOCALE_SABBREVMONTHNAME1, 12))
+        return monthName(locale, month, QLocale::ShortFormat, genitive);
+    switch (type) {
+    case LOCALE_SLONGDATE:
+        return locale.dateFormat(QLocale::LongFormat);
+    case LOCALE_SSHORTDATE:
+        return locale.dateFormat(QLocale::ShortFormat);
+    case LOCALE_SNAME:
+        return locale.bcp47Name();
+    case LOCALE_IFIRSTDAYOFWEEK:
+        return QString::number(locale.firstDayOfWeek() - Qt::Monday);
+    default:
+        return {};
+    }
+}
+
+// A number takes the place of two characters.
+int copyNumber(const QString& info, LPWSTR data, int size)
+{
+    constexpr int kCharacters = sizeof(DWORD) / sizeof(WCHAR);
+    if (size != 0 && size < kCharacters)
+        return fail(ERROR_INSUFFICIENT_BUFFER);
+    if (size != 0) {
+        const DWORD number = info.toUInt();
+        data[0] = static_cast<WCHAR>(number & 0xFFFF);
+        data[1] = static_cast<WCHAR>(number >> 16);
+    }
+    return kCharacters;
+}
+
+int copyText(const QString& info, LPWSTR data, int size)
+{
+    const auto length = static_cast<int>(info.size()) + 1;
+    if (size == 0)
+        return length;
+    if (size < length)
+        return fail(ERROR_INSUFFICIENT_BUFFER);
+    std::copy_n(reinterpret_cast<const WCHAR*>(info.utf16()), length, data);
+    return length;
+}
+
+}
+
+int GetLocaleInfoEx(LPCWSTR localeName, LCTYPE type, LPWSTR data, int size)
+{
+    if (localeName && !IsValidLocaleName(localeName))
+        return fail(ERROR_INVALID_PARAMETER);
+    const bool genitive = type & LOCALE_RETURN_GENITIVE_NAMES;
+    const bool number = type & LOCALE_RETURN_NUMBER;
+    const LCTYPE plainType = type & ~(LOCALE_RETURN_GENITIVE_NAMES | LOCALE_RETURN_NUMBER);
+    const QString info = localeInfo(localeFromName(localeName), plainType, genitive);
+    if (info.isNull())
+        return fail(ERROR_INVALID_FLAGS);
+    return number ? copyNumber(info, data, size) : copyText(info, data, size);
+}
+
+// Qt falls back to the C locale for a name that it does not know.
+BOOL IsValidLocaleName(LPCWSTR localeName)
+{
+    return localeName && *localeName && localeFromName(localeName).language() != QLocale::C;
+}
