@@ -100,6 +100,7 @@
 // Fonts.
 #define LF_FACESIZE 32
 #define FW_DONTCARE 0
+#define FW_LIGHT 300
 #define FW_NORMAL 400
 #define FW_BOLD 700
 #define ANSI_CHARSET 0
