@@ -157,7 +157,6 @@ public:
     COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
     COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
     UINT SetTextAlign(UINT nFlags) { return ::SetTextAlign(m_hDC, nFlags); }
-    int SetROP2(int nDrawMode) { return ::SetROP2(m_hDC, nDrawMode); }
     int SetMapMode(int nMapMode) { return ::SetMapMode(m_hDC, nMapMode); }
     CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
@@ -230,6 +229,9 @@ public:
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr; ///< answers questions about attributes; the same as m_hDC
     BOOL m_bPrinting = FALSE;  ///< set by whoever runs a print job
+
+private:
+    HGDIOBJ SelectHandle(const CGdiObject* pObject);
 };
 
 /// The context of a WM_PAINT message, from BeginPaint to EndPaint.

@@ -208,8 +208,6 @@ public:
     HWND m_hWnd = nullptr;
 
 protected:
-    friend struct CWndAccess;
-
     /// Brings a message to its handler, or to DefWindowProc if there is none.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     /// Brings a message to its handler, and says whether there is one.
@@ -223,7 +221,8 @@ protected:
     /// The last call of a window's life, when the object has no handle any more; the object may end here.
     virtual void PostNcDestroy();
 
-    /// The default processing of the message at hand, with the parameters it came with.
+    /// The default processing of the message at hand, with the parameters it came with. Does nothing where
+    /// that is no message of this window, as in a handler that was called by hand.
     LRESULT Default();
     /// The message at hand: number, parameters, time and place of the pointer.
     static const MSG* GetCurrentMessage();
@@ -235,7 +234,8 @@ protected:
     afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
     afx_msg int OnCreate(LPCREATESTRUCTA) { return static_cast<int>(Default()); }
     afx_msg void OnDestroy() { Default(); }
-    afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT) { Default(); }
+    /// Hands the drawing to the object of the control.
+    afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnEnable(BOOL) { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
@@ -260,6 +260,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    static LRESULT CALLBACK Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    void RestoreProcedure();
     BOOL ReflectToChild(HWND hWndChild, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     void FilterToolTipMessage(MSG* pMsg);
 

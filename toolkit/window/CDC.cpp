@@ -1,0 +1,196 @@
+#include "threadstate.h"
+
+IMPLEMENT_DYNAMIC(CDC, CObject)
+IMPLEMENT_DYNAMIC(CPaintDC, CDC)
+IMPLEMENT_DYNAMIC(CClientDC, CDC)
+IMPLEMENT_DYNAMIC(CWindowDC, CDC)
+
+CDC* CDC::FromHandle(HDC hDC)
+{
+    CDC* context = ThreadState::Current().contexts.FromHandle(hDC);
+    if (context && !context->m_hAttribDC)
+        context->m_hAttribDC = hDC;
+    return context;
+}
+
+BOOL CDC::Attach(HDC hDC)
+{
+    if (!hDC || m_hDC)
+        return FALSE;
+    m_hDC = m_hAttribDC = hDC;
+    ThreadState::Current().contexts.Attach(hDC, this);
+    return TRUE;
+}
+
+HDC CDC::Detach()
+{
+    const HDC hDC = std::exchange(m_hDC, nullptr);
+    m_hAttribDC = nullptr;
+    if (hDC)
+        ThreadState::Current().contexts.Detach(hDC);
+    return hDC;
+}
+
+BOOL CDC::CreateCompatibleDC(CDC* pDC)
+{
+    return Attach(::CreateCompatibleDC(pDC ? pDC->m_hDC : nullptr));
+}
+
+BOOL CDC::DeleteDC()
+{
+    const HDC hDC = Detach();
+    return hDC && ::DeleteDC(hDC);
+}
+
+CWnd* CDC::GetWindow() const
+{
+    return CWnd::FromHandle(::WindowFromDC(m_hDC));
+}
+
+// ---- Objects selected in ----
+
+CPen* CDC::SelectObject(CPen* pPen)
+{
+    return CPen::FromHandle(static_cast<HPEN>(SelectHandle(pPen)));
+}
+
+CBrush* CDC::SelectObject(CBrush* pBrush)
+{
+    return CBrush::FromHandle(static_cast<HBRUSH>(SelectHandle(pBrush)));
+}
+
+CFont* CDC::SelectObject(CFont* pFont)
+{
+    return CFont::FromHandle(static_cast<HFONT>(SelectHandle(pFont)));
+}
+
+CBitmap* CDC::SelectObject(CBitmap* pBitmap)
+{
+    return CBitmap::FromHandle(static_cast<HBITMAP>(SelectHandle(pBitmap)));
+}
+
+CGdiObject* CDC::SelectStockObject(int nIndex)
+{
+    return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(nIndex)));
+}
+
+HGDIOBJ CDC::SelectHandle(const CGdiObject* pObject)
+{
+    return pObject ? ::SelectObject(m_hDC, pObject->m_hObject) : nullptr;
+}
+
+int CDC::SelectClipRgn(CRgn* pRgn)
+{
+    return ::SelectClipRgn(m_hDC, pRgn ? static_cast<HRGN>(*pRgn) : nullptr);
+}
+
+CPen* CDC::GetCurrentPen() const
+{
+    return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN)));
+}
+
+CBrush* CDC::GetCurrentBrush() const
+{
+    return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH)));
+}
+
+CFont* CDC::GetCurrentFont() const
+{
+    return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT)));
+}
+
+CBitmap* CDC::GetCurrentBitmap() const
+{
+    return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP)));
+}
+
+// ---- Calls with more to them than the call ----
+
+CPoint CDC::SetViewportOrg(int x, int y)
+{
+    CPoint old;
+    ::SetViewportOrgEx(m_hDC, x, y, &old);
+    return old;
+}
+
+CPoint CDC::GetViewportOrg() const
+{
+    CPoint origin;
+    ::GetViewportOrgEx(m_hDC, &origin);
+    return origin;
+}
+
+CPoint CDC::SetWindowOrg(int x, int y)
+{
+    CPoint old;
+    ::SetWindowOrgEx(m_hDC, x, y, &old);
+    return old;
+}
+
+CPoint CDC::GetWindowOrg() const
+{
+    CPoint origin;
+    ::GetWindowOrgEx(m_hDC, &origin);
+    return origin;
+}
+
+CPoint CDC::MoveTo(int x, int y)
+{
+    CPoint old;
+    ::MoveToEx(m_hDC, x, y, &old);
+    return old;
+}
+
+void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr)
+{
+    ::SetBkColor(m_hDC, clr);
+    ::ExtTextOutA(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
+}
+
+BOOL CDC::BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop)
+{
+    return ::BitBlt(m_hDC, x, y, nWidth, nHeight, pSrcDC ? pSrcDC->m_hDC : nullptr, xSrc, ySrc, dwRop);
+}
+
+CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const
+{
+    CSize size;
+    ::GetTextExtentPoint32A(m_hDC, lpszString, nCount, &size);
+    return size;
+}
+
+// ---- Contexts of windows ----
+
+CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->m_hWnd)
+{
+    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
+        AfxThrowResourceException();
+}
+
+CPaintDC::~CPaintDC()
+{
+    ::EndPaint(m_hWnd, &m_ps);
+    Detach();
+}
+
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr)
+{
+    if (!Attach(::GetDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CClientDC::~CClientDC()
+{
+    ::ReleaseDC(m_hWnd, Detach());
+}
+
+CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr)
+{
+    if (!Attach(::GetWindowDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CWindowDC::~CWindowDC()
+{
+    ::ReleaseDC(m_hWnd, Detach());
+}
