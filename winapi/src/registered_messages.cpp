@@ -1,0 +1,20 @@
+#include "winuser.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <string>
+
+// Works before main: programs keep such numbers in constants.
+UINT RegisterWindowMessageA(LPCSTR name)
+{
+    static std::map<std::string, UINT> numbers;
+    if (!name || !*name) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    std::string key(name);
+    std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return std::tolower(c); });
+    constexpr UINT first = 0xC000;
+    return numbers.emplace(key, first + static_cast<UINT>(numbers.size())).first->second;
+}

@@ -1,0 +1,4 @@
+#include "window_class.h"
+namespace winapi {
+void registerToolTipClass() {}
+}

@@ -1,0 +1,54 @@
+#include "window_surface.h"
+
+#include "host_widget.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace winapi {
+
+void WindowSurface::changed(const QRect& rect)
+{
+    if (m_root.host)
+        m_root.host->update(rect);
+}
+
+QImage& WindowSurface::image()
+{
+    const qreal ratio = m_root.host ? m_root.host->devicePixelRatioF() : 1.0;
+    const QSizeF exact = QSizeF(m_root.rect.size()) * ratio;
+    const QSize size(std::max(1, static_cast<int>(std::ceil(exact.width()))),
+                     std::max(1, static_cast<int>(std::ceil(exact.height()))));
+    if (m_image.size() == size && m_image.devicePixelRatio() == ratio)
+        return m_image;
+
+    QImage larger(size, QImage::Format_RGB32);
+    larger.setDevicePixelRatio(ratio);
+    larger.fill(Qt::white);
+    if (!m_image.isNull())
+        QPainter(&larger).drawImage(0, 0, m_image);
+    m_image = larger;
+    return m_image;
+}
+
+void WindowSurface::copy(const QRegion& target, QPoint delta)
+{
+    if (target.isEmpty() || delta.isNull())
+        return;
+    const QImage before = image().copy();
+    QPainter painter(&image());
+    painter.setClipRegion(target);
+    painter.drawImage(delta, before);
+    painter.end();
+    changed(target.boundingRect());
+}
+
+WindowSurface& surfaceOf(Window& root)
+{
+    if (!root.surface)
+        root.surface = std::make_unique<WindowSurface>(root);
+    return *root.surface;
+}
+
+}
