@@ -3,6 +3,7 @@
 #include "application.h"
 #include "focus.h"
 #include "timer.h"
+#include "tooltip.h"
 #include "update_region.h"
 
 #include <QAbstractEventDispatcher>
@@ -332,6 +333,7 @@ LRESULT DispatchMessageA(const MSG* message)
                                                      GetTickCount());
         return 0;
     }
+    showToToolTips(*message);
     return message->hwnd ? SendMessageA(message->hwnd, message->message, message->wParam, message->lParam)
                          : 0;
 }
