@@ -28,7 +28,6 @@
 
 // Pens and brushes.
 #define PS_SOLID 0
-#define PS_DASH 1
 #define PS_DOT 2
 #define PS_NULL 5
 #define BS_SOLID 0
@@ -385,7 +384,6 @@ WINGDIAPI int EndPage(HDC dc);
 #define DT_BOTTOM 0x0008
 #define DT_WORDBREAK 0x0010
 #define DT_SINGLELINE 0x0020
-#define DT_EXPANDTABS 0x0040
 #define DT_NOCLIP 0x0100
 #define DT_EXTERNALLEADING 0x0200
 #define DT_CALCRECT 0x0400

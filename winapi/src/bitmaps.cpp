@@ -45,6 +45,12 @@ bool isVisible(const Context& context, int x, int y)
     return context.image() && context.drawable().contains(QPoint(x, y) + context.toDevice());
 }
 
+// The part that a copy can be taken from, in logical coordinates.
+QRect available(const Context& context)
+{
+    return context.visible().boundingRect().translated(-context.toDevice());
+}
+
 // Larger bitmaps are refused, as by a system that is out of memory.
 constexpr int longestSide = 32767;
 
@@ -113,14 +119,15 @@ BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int
     const auto source = findContext(sourceDc);
     if (!target || !source || !source->image() || operation != SRCCOPY)
         return FALSE;
-    const QRect area(x, y, width, height);
+    const QPoint shift = QPoint(x, y) - QPoint(sourceX, sourceY);
+    const QRect part = QRect(sourceX, sourceY, width, height) & available(*source);
+    const QRect area = part.translated(shift);
     ContextPainter painter(*target, area);
     if (!painter)
         return TRUE;
     // A copy of the part, since source and target may be one image.
-    const QRect part(QPoint(sourceX, sourceY) + source->toSurface(), area.size());
-    const qreal ratio = source->image()->devicePixelRatio();
-    const QImage pixels = source->image()->copy(toPixels(part, ratio).toRect());
+    const QRectF wanted = toPixels(part.translated(source->toSurface()), source->image()->devicePixelRatio());
+    const QImage pixels = source->image()->copy(wanted.toRect());
     painter->drawImage(QRectF(area), pixels, QRectF(pixels.rect()));
     return TRUE;
 }

@@ -24,18 +24,14 @@ struct Layout
     int height() const { return lineHeight * static_cast<int>(lines.size()); }
 };
 
-// Takes the ampersands out that mark a letter: "&x" underlines x, "&&" is one ampersand.
+// Takes the ampersands out that mark a letter: "&x" underlines x, "&&" is one ampersand, and so is one at the
+// end.
 Line takePrefixes(const QString& text)
 {
     Line line;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] != u'&') {
-            line.text += text[i];
-            continue;
-        }
-        if (++i == text.size())
-            break;
-        if (text[i] != u'&')
+        const bool prefix = text[i] == u'&' && i + 1 < text.size();
+        if (prefix && text[++i] != u'&')
             line.underlined = line.text.size();
         line.text += text[i];
     }
@@ -119,7 +115,7 @@ Layout layOut(const QString& text, UINT format, const QFontMetrics& metrics, int
 int lineLeft(const Line& line, const RECT& rect, UINT format)
 {
     if (format & DT_CENTER)
-        return rect.left + (rect.right - rect.left - line.width) / 2;
+        return (rect.left + rect.right - line.width) / 2;
     return format & DT_RIGHT ? rect.right - line.width : rect.left;
 }
 

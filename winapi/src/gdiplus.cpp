@@ -71,8 +71,6 @@ Gdiplus::GpStatus fill(void* graphicsHandle, void* brushHandle, const QRectF& bo
     painter->setRenderHint(QPainter::Antialiasing, isSmooth(graphics->smoothing));
     painter->setPen(Qt::NoPen);
     painter->setBrush(brush->color);
-    // Pixels are meant by their middle: whole numbers lie half a pixel further in.
-    painter->translate(0.5, 0.5);
     draw(*painter);
     return Gdiplus::Ok;
 }

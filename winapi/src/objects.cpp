@@ -51,7 +51,7 @@ std::array<HGDIOBJ, stockCount> makeStock()
     stock[NULL_BRUSH] = addPermanentObject(Brush{BS_NULL, 0});
     stock[WHITE_PEN] = addPermanentObject(Pen{PS_SOLID, 0, RGB(255, 255, 255)});
     stock[BLACK_PEN] = addPermanentObject(Pen{PS_SOLID, 0, RGB(0, 0, 0)});
-    stock[NULL_PEN] = addPermanentObject(Pen{PS_NULL, 0, 0});
+    stock[NULL_PEN] = addPermanentObject(Pen{PS_NULL, 1, 0});
     stock[ANSI_VAR_FONT] = font(fontOf(12, FW_NORMAL, "MS Sans Serif"));
     stock[SYSTEM_FONT] = font(fontOf(16, FW_BOLD, "System"));
     stock[DEFAULT_GUI_FONT] = font(fontOf(-11, FW_NORMAL, "MS Shell Dlg"));
@@ -229,9 +229,9 @@ DWORD GetObjectType(HGDIOBJ handle)
 
 HPEN CreatePen(int style, int width, COLORREF color)
 {
-    if (style < PS_SOLID || style > PS_NULL)
-        style = PS_SOLID;
-    return static_cast<HPEN>(addObject(Pen{style, std::abs(width), color}));
+    if (style == PS_NULL)
+        return static_cast<HPEN>(addObject(Pen{PS_NULL, 1, 0}));
+    return static_cast<HPEN>(addObject(Pen{style == PS_DOT ? PS_DOT : PS_SOLID, std::abs(width), color}));
 }
 
 HBRUSH CreateSolidBrush(COLORREF color)

@@ -26,10 +26,10 @@ bool isVisible(const Pen& pen)
     return pen.style != PS_NULL;
 }
 
-// Broken pens are one pixel wide; wider ones are solid.
+// Wide pens are always solid.
 bool isDotted(const Pen& pen)
 {
-    return isThin(pen) && pen.style != PS_SOLID;
+    return isThin(pen) && pen.style == PS_DOT;
 }
 
 QPen toWidePen(const Pen& pen)
@@ -144,12 +144,19 @@ void drawLines(QPainter& painter, const DrawingState& state, const QPolygon& poi
         drawLine(painter, state, points[i - 1], points[i]);
 }
 
-// The pixels of a shape given by its edges, in either order. Without an outline it ends one pixel earlier.
-QRect shapeArea(int left, int top, int right, int bottom, const Pen& pen)
+// The pixels between edges that may come in either order.
+QRect between(int left, int top, int right, int bottom)
 {
-    const int shortened = isVisible(pen) ? 1 : 2;
     return QRect(QPoint(std::min(left, right), std::min(top, bottom)),
-                 QPoint(std::max(left, right) - shortened, std::max(top, bottom) - shortened));
+                 QPoint(std::max(left, right) - 1, std::max(top, bottom) - 1));
+}
+
+// What FillRect fills. It takes the lengths of an inverted rectangle as negative ones, which start at the
+// pixel of the edge itself.
+QRect filledArea(const RECT& rect)
+{
+    const QRect area = between(rect.left, rect.top, rect.right, rect.bottom);
+    return area.translated(rect.right < rect.left ? 1 : 0, rect.bottom < rect.top ? 1 : 0);
 }
 
 void fillFrame(QPainter& painter, const QRect& rect, const QColor& color)
@@ -240,9 +247,14 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom)
     if (!context)
         return FALSE;
     const DrawingState& state = context->state;
-    const QRect area = shapeArea(left, top, right, bottom, *state.pen.object);
+    QRect area = between(left, top, right, bottom);
+    if (area.width() < 2 || area.height() < 2)
+        return TRUE;
+    // Without an outline a rectangle ends one pixel earlier.
+    if (!isVisible(*state.pen.object))
+        area.adjust(0, 0, -1, -1);
     ContextPainter painter(*context, touchedBy(area, *state.pen.object));
-    if (!painter || area.isEmpty())
+    if (!painter)
         return TRUE;
     painter->fillRect(area, toQBrush(*state.brush.object));
     drawLines(*painter, state, corners(area));
@@ -255,13 +267,15 @@ BOOL Ellipse(HDC dc, int left, int top, int right, int bottom)
     if (!context)
         return FALSE;
     const DrawingState& state = context->state;
-    const QRect area = shapeArea(left, top, right, bottom, *state.pen.object);
+    const QRect area = between(left, top, right, bottom);
     ContextPainter painter(*context, touchedBy(area, *state.pen.object));
     if (!painter || area.isEmpty())
         return TRUE;
-    painter->setPen(isVisible(*state.pen.object) ? toWidePen(*state.pen.object) : QPen(Qt::NoPen));
+    const bool outlined = isVisible(*state.pen.object);
+    const qreal inset = outlined ? 0.5 : 0;
+    painter->setPen(outlined ? toWidePen(*state.pen.object) : QPen(Qt::NoPen));
     painter->setBrush(toQBrush(*state.brush.object));
-    painter->drawEllipse(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->drawEllipse(QRectF(area).adjusted(inset, inset, -inset, -inset));
     return TRUE;
 }
 
@@ -271,7 +285,7 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH handle)
     const auto brush = findBrush(handle);
     if (!context || !rect || !brush)
         return 0;
-    const QRect area = toQRect(*rect);
+    const QRect area = filledArea(*rect);
     ContextPainter painter(*context, area);
     if (painter)
         painter->fillRect(area, toQBrush(*brush));
@@ -316,7 +330,7 @@ BOOL DrawFocusRect(HDC dc, const RECT* rect)
     const QPolygon outline = corners(area);
     for (qsizetype i = 1; i < outline.size(); ++i)
         walkLine(outline[i - 1], outline[i], [&](QPoint pixel) {
-            if ((pixel.x() + pixel.y()) % 2 != 0)
+            if ((pixel.x() + pixel.y()) % 2 == 0)
                 invert(*painter, QRect(pixel, QSize(1, 1)));
         });
     return TRUE;

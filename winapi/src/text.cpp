@@ -47,12 +47,20 @@ QFont::StyleHint styleHint(BYTE pitchAndFamily)
     return (pitchAndFamily & 0xF0) == FF_ROMAN ? QFont::Serif : QFont::SansSerif;
 }
 
-// The size of the letters that makes a line as high as asked for.
-int pixelSizeForLine(QFont font, int height)
+int lineHeightAt(QFont font, int pixelSize)
+{
+    font.setPixelSize(pixelSize);
+    return lineHeight(QFontMetrics(font));
+}
+
+// The largest size of the letters at which a line is no higher than asked for.
+int pixelSizeForLine(const QFont& font, int height)
 {
     constexpr int sample = 1000;
-    font.setPixelSize(sample);
-    return std::max(1, height * sample / lineHeight(QFontMetrics(font)));
+    int size = std::max(1, height * sample / lineHeightAt(font, sample) - 1);
+    while (lineHeightAt(font, size + 1) <= height)
+        ++size;
+    return size;
 }
 
 void setHeight(QFont& font, LONG height)
@@ -152,7 +160,7 @@ QFontMetrics metricsOf(const Context& context)
 
 QString toText(LPCSTR text, int length)
 {
-    return text ? QString::fromUtf8(text, length) : QString();
+    return text ? QString::fromUtf8(text, length).replace(u'\t', u' ') : QString();
 }
 
 int lineHeight(const QFontMetrics& metrics)
@@ -246,11 +254,11 @@ int GetTextFaceA(HDC dc, int size, LPSTR name)
     const auto context = findContext(dc);
     if (!context)
         return 0;
-    const QByteArray family = context->state.font->font.family().toUtf8();
+    const QByteArray family = QFontInfo(context->state.font->font).family().toUtf8();
     if (!name)
         return static_cast<int>(family.size()) + 1;
     if (size <= 0)
         return 0;
     qstrncpy(name, family.constData(), static_cast<std::size_t>(size));
-    return static_cast<int>(std::strlen(name)) + 1;
+    return static_cast<int>(std::strlen(name));
 }

@@ -12,7 +12,7 @@ namespace winapi {
 
 QFontMetrics metricsOf(const Context& context);
 
-// The 8-bit text of a call; `length` -1 counts up to its end.
+// The 8-bit text of a call, with blanks for tabs; `length` -1 counts up to its end.
 QString toText(LPCSTR text, int length);
 
 int lineHeight(const QFontMetrics& metrics);
