@@ -1,0 +1,35 @@
+// Menus as the calls see them.
+#pragma once
+
+#include "winmenu.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace winapi {
+
+struct MenuItem
+{
+    UINT type = MFT_STRING;
+    UINT state = MFS_ENABLED;
+    UINT id = 0;
+    HMENU subMenu = nullptr;
+    std::string text;
+    ULONG_PTR data = 0;
+
+    bool isSeparator() const { return (type & MFT_SEPARATOR) != 0; }
+    // The flags that messages and GetMenuState tell of an item that opens no menu.
+    UINT flags() const { return type | state | (subMenu ? MF_POPUP : 0); }
+};
+
+struct Menu
+{
+    std::vector<MenuItem> items;
+};
+
+// Null, and the last error set, when there is no such menu.
+std::shared_ptr<Menu> findMenu(HMENU handle);
+HMENU addMenu(Menu menu);
+
+}

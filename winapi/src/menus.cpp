@@ -1,0 +1,308 @@
+// Menus: their items and states.
+#include "menu.h"
+
+#include "errors.h"
+#include "handles.h"
+#include "winerror.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+namespace winapi {
+
+namespace {
+
+constexpr UINT stateFlags = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_HILITE;
+constexpr UINT typeFlags = MF_SEPARATOR | MF_OWNERDRAW | MF_MENUBREAK | MF_MENUBARBREAK;
+constexpr UINT notFound = static_cast<UINT>(-1);
+
+HandleTable<HMENU, Menu>& menus()
+{
+    static HandleTable<HMENU, Menu> table;
+    return table;
+}
+
+// An item where it stands: its menu may be a submenu of the one that was asked.
+struct Place
+{
+    std::shared_ptr<Menu> menu;
+    std::size_t position;
+
+    MenuItem& item() const { return menu->items[position]; }
+};
+
+std::optional<Place> findById(const std::shared_ptr<Menu>& menu, UINT id)
+{
+    if (!menu)
+        return std::nullopt;
+    for (std::size_t i = 0; i < menu->items.size(); ++i) {
+        const MenuItem& item = menu->items[i];
+        if (item.subMenu) {
+            if (const auto inside = findById(menus().find(item.subMenu), id))
+                return inside;
+        } else if (item.id == id)
+            return Place{menu, i};
+    }
+    return std::nullopt;
+}
+
+std::optional<Place> findItem(HMENU handle, UINT item, UINT flags)
+{
+    const auto menu = findMenu(handle);
+    if (!menu)
+        return std::nullopt;
+    std::optional<Place> place;
+    if (!(flags & MF_BYPOSITION))
+        place = findById(menu, item);
+    else if (item < menu->items.size())
+        place = Place{menu, item};
+    if (!place)
+        SetLastError(ERROR_MENU_ITEM_NOT_FOUND);
+    return place;
+}
+
+MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
+{
+    MenuItem item;
+    item.type = flags & typeFlags;
+    item.state = flags & stateFlags;
+    if (flags & MF_POPUP)
+        item.subMenu = reinterpret_cast<HMENU>(id);
+    else
+        item.id = static_cast<UINT>(id);
+    if (!item.isSeparator() && text)
+        item.text = text;
+    return item;
+}
+
+bool insertItem(HMENU handle, std::size_t position, MenuItem item)
+{
+    const auto menu = findMenu(handle);
+    if (!menu || (item.subMenu && !IsMenu(item.subMenu)))
+        return false;
+    auto& items = menu->items;
+    items.insert(items.begin() + static_cast<std::ptrdiff_t>(std::min(position, items.size())),
+                 std::move(item));
+    return true;
+}
+
+// Takes an item out of its menu.
+std::optional<MenuItem> takeItem(HMENU handle, UINT item, UINT flags)
+{
+    const auto place = findItem(handle, item, flags);
+    if (!place)
+        return std::nullopt;
+    MenuItem taken = std::move(place->item());
+    place->menu->items.erase(place->menu->items.begin() + static_cast<std::ptrdiff_t>(place->position));
+    return taken;
+}
+
+// Gives the item's old state within `mask`.
+UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
+{
+    const auto place = findItem(handle, item, flags);
+    if (!place)
+        return notFound;
+    UINT& state = place->item().state;
+    const UINT before = state & mask;
+    state = (state & ~mask) | (flags & mask);
+    return before;
+}
+
+void copyText(const std::string& text, MENUITEMINFOA& info)
+{
+    if (info.dwTypeData && info.cch > 0) {
+        const auto copied = std::min<std::size_t>(text.size(), info.cch - 1);
+        std::memcpy(info.dwTypeData, text.data(), copied);
+        info.dwTypeData[copied] = '\0';
+    }
+    info.cch = static_cast<UINT>(text.size());
+}
+
+}
+
+std::shared_ptr<Menu> findMenu(HMENU handle)
+{
+    auto menu = menus().find(handle);
+    if (!menu)
+        SetLastError(ERROR_INVALID_MENU_HANDLE);
+    return menu;
+}
+
+HMENU addMenu(Menu menu)
+{
+    return menus().add(std::make_shared<Menu>(std::move(menu)));
+}
+
+}
+
+using namespace winapi;
+
+HMENU CreateMenu()
+{
+    return addMenu({});
+}
+
+HMENU CreatePopupMenu()
+{
+    return addMenu({});
+}
+
+BOOL DestroyMenu(HMENU handle)
+{
+    const auto menu = menus().remove(handle);
+    if (!menu)
+        return fail(ERROR_INVALID_MENU_HANDLE);
+    for (const MenuItem& item : menu->items)
+        if (item.subMenu)
+            DestroyMenu(item.subMenu);
+    return TRUE;
+}
+
+BOOL IsMenu(HMENU menu)
+{
+    return findMenu(menu) != nullptr;
+}
+
+BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    return insertItem(menu, SIZE_MAX, makeItem(flags, id, text));
+}
+
+BOOL InsertMenuA(HMENU handle, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    const auto menu = findMenu(handle);
+    if (!menu)
+        return FALSE;
+    if (flags & MF_BYPOSITION)
+        return insertItem(handle, item, makeItem(flags, id, text));
+    const auto place = findItem(handle, item, flags);
+    if (!place)
+        return FALSE;
+    auto& items = place->menu->items;
+    items.insert(items.begin() + static_cast<std::ptrdiff_t>(place->position), makeItem(flags, id, text));
+    return TRUE;
+}
+
+BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return FALSE;
+    MenuItem modified = makeItem(flags, id, text);
+    if (place->item().subMenu && place->item().subMenu != modified.subMenu)
+        DestroyMenu(place->item().subMenu);
+    place->item() = std::move(modified);
+    return TRUE;
+}
+
+BOOL RemoveMenu(HMENU menu, UINT item, UINT flags)
+{
+    return takeItem(menu, item, flags).has_value();
+}
+
+BOOL DeleteMenu(HMENU menu, UINT item, UINT flags)
+{
+    const auto taken = takeItem(menu, item, flags);
+    if (taken && taken->subMenu)
+        DestroyMenu(taken->subMenu);
+    return taken.has_value();
+}
+
+int GetMenuItemCount(HMENU handle)
+{
+    const auto menu = findMenu(handle);
+    return menu ? static_cast<int>(menu->items.size()) : -1;
+}
+
+UINT GetMenuItemID(HMENU menu, int position)
+{
+    const auto place = findItem(menu, static_cast<UINT>(position), MF_BYPOSITION);
+    return !place || place->item().subMenu ? notFound : place->item().id;
+}
+
+UINT GetMenuState(HMENU menu, UINT item, UINT flags)
+{
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return notFound;
+    const MenuItem& found = place->item();
+    if (!found.subMenu)
+        return found.flags();
+    return static_cast<UINT>(GetMenuItemCount(found.subMenu)) << 8 | (found.flags() & 0xFF);
+}
+
+HMENU GetSubMenu(HMENU menu, int position)
+{
+    const auto place = findItem(menu, static_cast<UINT>(position), MF_BYPOSITION);
+    return place ? place->item().subMenu : nullptr;
+}
+
+int GetMenuStringA(HMENU menu, UINT item, LPSTR text, int size, UINT flags)
+{
+    const auto place = findItem(menu, item, flags);
+    if (text && size > 0)
+        text[0] = '\0';
+    if (!place)
+        return 0;
+    const std::string& full = place->item().text;
+    if (!text || size <= 0)
+        return static_cast<int>(full.size());
+    const auto copied = std::min(full.size(), static_cast<std::size_t>(size - 1));
+    std::memcpy(text, full.data(), copied);
+    text[copied] = '\0';
+    return static_cast<int>(copied);
+}
+
+BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags)
+{
+    return static_cast<BOOL>(changeState(menu, item, flags, MF_GRAYED | MF_DISABLED));
+}
+
+DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags)
+{
+    return changeState(menu, item, flags, MF_CHECKED);
+}
+
+BOOL GetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, MENUITEMINFOA* info)
+{
+    const auto place = findItem(menu, item, byPosition ? MF_BYPOSITION : MF_BYCOMMAND);
+    if (!place || !info)
+        return FALSE;
+    const MenuItem& found = place->item();
+    if (info->fMask & MIIM_FTYPE)
+        info->fType = found.type;
+    if (info->fMask & MIIM_STATE)
+        info->fState = found.state;
+    if (info->fMask & MIIM_ID)
+        info->wID = found.id;
+    if (info->fMask & MIIM_SUBMENU)
+        info->hSubMenu = found.subMenu;
+    if (info->fMask & MIIM_DATA)
+        info->dwItemData = found.data;
+    if (info->fMask & MIIM_STRING)
+        copyText(found.text, *info);
+    return TRUE;
+}
+
+BOOL SetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, const MENUITEMINFOA* info)
+{
+    const auto place = findItem(menu, item, byPosition ? MF_BYPOSITION : MF_BYCOMMAND);
+    if (!place || !info)
+        return FALSE;
+    MenuItem& found = place->item();
+    if (info->fMask & MIIM_FTYPE)
+        found.type = info->fType;
+    if (info->fMask & MIIM_STATE)
+        found.state = info->fState;
+    if (info->fMask & MIIM_ID)
+        found.id = info->wID;
+    if (info->fMask & MIIM_SUBMENU)
+        found.subMenu = info->hSubMenu;
+    if (info->fMask & MIIM_DATA)
+        found.data = info->dwItemData;
+    if ((info->fMask & MIIM_STRING) && info->dwTypeData)
+        found.text = info->dwTypeData;
+    return TRUE;
+}

@@ -1,0 +1,205 @@
+// The showing of a menu: a Qt menu in its own loop, and the messages that its owner hears.
+#include "application.h"
+#include "errors.h"
+#include "menu.h"
+#include "winerror.h"
+#include "winuser.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPointer>
+
+#include <vector>
+
+namespace winapi {
+
+namespace {
+
+// What all menus of one showing share.
+struct Showing
+{
+    HWND owner;
+    bool silent; // the owner hears nothing
+    UINT chosen = 0;
+
+    void tell(UINT message, WPARAM wParam, LPARAM lParam) const
+    {
+        if (!silent && IsWindow(owner))
+            SendMessageA(owner, message, wParam, lParam);
+    }
+};
+
+class PopupMenu : public QMenu
+{
+public:
+    PopupMenu(HMENU menu, Showing& showing, QWidget* parent = nullptr)
+        : QMenu(parent), m_menu(menu), m_showing(showing)
+    {
+        connect(this, &QMenu::hovered, this, &PopupMenu::tellSelection);
+        connect(this, &QMenu::aboutToHide, this, &PopupMenu::tellEnd);
+    }
+
+    // The owner may change the items before they are shown.
+    void prepare(int positionInParent)
+    {
+        m_showing.tell(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(m_menu),
+                       MAKELPARAM(positionInParent, FALSE));
+        clear();
+        if (const auto menu = findMenu(m_menu))
+            for (const MenuItem& item : menu->items)
+                addItem(item);
+    }
+
+protected:
+    // A letter goes to the next item that it stands for, and chooses it if there is no other.
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const std::vector<QAction*> matches = actionsFor(event->text());
+        if (matches.empty())
+            return QMenu::keyPressEvent(event);
+        const auto current = std::find(matches.begin(), matches.end(), activeAction());
+        const bool goOn = current != matches.end() && current + 1 != matches.end();
+        setActiveAction(goOn ? *(current + 1) : firstAfterActive(matches));
+        if (matches.size() == 1) {
+            QKeyEvent choose(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QMenu::keyPressEvent(&choose);
+        }
+    }
+
+private:
+    void addItem(const MenuItem& item)
+    {
+        const auto position = static_cast<int>(actions().size());
+        const QString text = QString::fromStdString(item.text);
+        QAction* action = nullptr;
+        if (item.isSeparator())
+            action = addSeparator();
+        else if (item.subMenu)
+            action = addMenu(makeSubMenu(item.subMenu, position));
+        else
+            action = addAction(text, this, [this, id = item.id] { m_showing.chosen = id; });
+        if (item.subMenu)
+            action->setText(text);
+        action->setEnabled(!(item.state & (MF_GRAYED | MF_DISABLED)));
+        action->setCheckable((item.state & MF_CHECKED) != 0);
+        action->setChecked(action->isCheckable());
+        action->setData(item.subMenu ? static_cast<UINT>(position) : item.id);
+        action->setProperty("flags", item.flags());
+    }
+
+    QMenu* makeSubMenu(HMENU menu, int position)
+    {
+        auto* const subMenu = new PopupMenu(menu, m_showing, this);
+        connect(subMenu, &QMenu::aboutToShow, subMenu, [subMenu, position] { subMenu->prepare(position); });
+        return subMenu;
+    }
+
+    void tellSelection(const QAction* action)
+    {
+        const UINT flags = action->property("flags").toUInt() | MF_HILITE;
+        m_showing.tell(WM_MENUSELECT, MAKEWPARAM(action->data().toUInt(), flags),
+                       reinterpret_cast<LPARAM>(m_menu));
+    }
+
+    void tellEnd() { m_showing.tell(WM_UNINITMENUPOPUP, reinterpret_cast<WPARAM>(m_menu), 0); }
+
+    // The letter of an item is the marked one, else its first.
+    static QChar letterOf(const QString& text)
+    {
+        for (qsizetype i = 0; i + 1 < text.size(); ++i)
+            if (text[i] == u'&' && text[++i] != u'&')
+                return text[i].toCaseFolded();
+        return text.isEmpty() ? QChar() : text[0].toCaseFolded();
+    }
+
+    std::vector<QAction*> actionsFor(const QString& typed) const
+    {
+        std::vector<QAction*> matches;
+        if (typed.size() != 1 || !typed[0].isLetterOrNumber())
+            return matches;
+        for (QAction* action : actions())
+            if (action->isEnabled() && !action->isSeparator() &&
+                letterOf(action->text()) == typed[0].toCaseFolded())
+                matches.push_back(action);
+        return matches;
+    }
+
+    QAction* firstAfterActive(const std::vector<QAction*>& matches) const
+    {
+        const auto active = actions().indexOf(activeAction());
+        for (QAction* action : matches)
+            if (actions().indexOf(action) > active)
+                return action;
+        return matches.front();
+    }
+
+    HMENU m_menu;
+    Showing& m_showing;
+};
+
+QPointer<PopupMenu>& shown()
+{
+    static QPointer<PopupMenu> menu;
+    return menu;
+}
+
+QPoint cornerFor(const QMenu& menu, UINT flags, QPoint place)
+{
+    const QSize size = menu.sizeHint();
+    if (flags & TPM_CENTERALIGN)
+        place.rx() -= size.width() / 2;
+    else if (flags & TPM_RIGHTALIGN)
+        place.rx() -= size.width();
+    if (flags & TPM_VCENTERALIGN)
+        place.ry() -= size.height() / 2;
+    else if (flags & TPM_BOTTOMALIGN)
+        place.ry() -= size.height();
+    return place;
+}
+
+void runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
+{
+    PopupMenu popup(menu, showing);
+    shown() = &popup;
+    showing.tell(WM_ENTERMENULOOP, TRUE, 0);
+    showing.tell(WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
+    popup.prepare(0);
+    popup.exec(cornerFor(popup, flags, place));
+    showing.tell(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    showing.tell(WM_EXITMENULOOP, TRUE, 0);
+}
+
+}
+
+}
+
+using namespace winapi;
+
+BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, const RECT*)
+{
+    return TrackPopupMenuEx(menu, flags, x, y, owner, nullptr);
+}
+
+BOOL TrackPopupMenuEx(HMENU menu, UINT flags, int x, int y, HWND owner, TPMPARAMS*)
+{
+    if (!IsMenu(menu))
+        return fail(ERROR_INVALID_MENU_HANDLE);
+    if (!IsWindow(owner))
+        return fail(ERROR_INVALID_WINDOW_HANDLE);
+    if (shown())
+        return fail(ERROR_POPUP_ALREADY_ACTIVE);
+    application();
+    Showing showing{owner, (flags & TPM_NONOTIFY) != 0};
+    runMenu(menu, flags, {x, y}, showing);
+    SetLastError(ERROR_SUCCESS);
+    if (flags & TPM_RETURNCMD)
+        return static_cast<BOOL>(showing.chosen);
+    if (showing.chosen != 0 && !showing.silent)
+        PostMessageA(owner, WM_COMMAND, showing.chosen, 0);
+    return TRUE;
+}
+
+BOOL EndMenu()
+{
+    return shown() && shown()->close();
+}
