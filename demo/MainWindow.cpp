@@ -9,7 +9,7 @@ constexpr UINT kCalendarId = 100;
 constexpr UINT kStatusId = 101;
 constexpr int kMargin = 12;
 constexpr int kStatusHeight = 20;
-constexpr CRect kWindowRect(80, 80, 80 + 360, 80 + 330);
+const CRect kWindowRect(CPoint(80, 80), CSize(360, 330));
 
 CString FormatDate(const DateTime& date)
 {
@@ -27,12 +27,12 @@ BEGIN_MESSAGE_MAP(MainWindow, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_ERASEBKGND()
     ON_WM_DESTROY()
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONSELCHANGE, OnSelChange)
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONNODATE, OnNoDate)
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ENTERKEY, OnEnterKey)
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ESCKEY, OnEscKey)
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_PROMPT_SAVEWEBPAGE, OnPromptSaveWebPage)
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_DATERANGE_CHANGED, OnDateRangeChanged)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONSELCHANGE, &MainWindow::OnSelChange)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONNODATE, &MainWindow::OnNoDate)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ENTERKEY, &MainWindow::OnEnterKey)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ESCKEY, &MainWindow::OnEscKey)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_PROMPT_SAVEWEBPAGE, &MainWindow::OnPromptSaveWebPage)
+    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_DATERANGE_CHANGED, &MainWindow::OnDateRangeChanged)
 END_MESSAGE_MAP()
 
 bool MainWindow::CreateMain()

@@ -113,11 +113,11 @@ int main(int argc, char** argv)
         return 2;
     }
     if (options->today)
-        Clock::SetToday(*options->today);
+        Clock::SetToday(options->today->GetYear(), options->today->GetMonth(), options->today->GetDay());
     if (!options->locale.empty())
         LocaleUtils::SetLocale(options->locale.c_str());
 
-    AfxWinInit(GetModuleHandle(nullptr), nullptr, GetCommandLine(), SW_SHOW);
+    AfxWinInit(GetModuleHandle(nullptr), nullptr, nullptr, SW_SHOW);
     const GdiPlusSession gdiPlus;
     DemoApp app(*options);
     if (!app.InitInstance())

@@ -53,6 +53,9 @@ using GpPointF = PointF;
 using GpGraphics = void;
 using GpBrush = void;
 using GpSolidFill = void;
+using GpImage = void;
+using GpBitmap = void;
+struct EncoderParameters;
 
 struct GdiplusStartupInput
 {
@@ -78,6 +81,13 @@ WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x,
                                     INT height);
 WINGDIAPI GpStatus GdipFillPolygon(GpGraphics* graphics, GpBrush* brush, const GpPointF* points, INT count,
                                    GpFillMode mode);
+
+// A copy of the bitmap's pixels; to be given to GdipDisposeImage. The palette is not used.
+WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image);
+WINGDIAPI GpStatus GdipDisposeImage(GpImage* image);
+// Writes a picture file; the one encoder there is writes PNG. The parameters are not used.
+WINGDIAPI GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder,
+                                       const EncoderParameters* parameters);
 
 }
 }

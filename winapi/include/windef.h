@@ -137,6 +137,15 @@ using LPRECT = RECT*;
 using PRECT = RECT*;
 using LPCRECT = const RECT*;
 
+struct GUID
+{
+    ULONG Data1;
+    USHORT Data2;
+    USHORT Data3;
+    BYTE Data4[8];
+};
+using CLSID = GUID;
+
 #define LOWORD(l) (static_cast<WORD>(static_cast<DWORD_PTR>(l) & 0xffff))
 #define HIWORD(l) (static_cast<WORD>((static_cast<DWORD_PTR>(l) >> 16) & 0xffff))
 #define LOBYTE(w) (static_cast<BYTE>(static_cast<DWORD_PTR>(w) & 0xff))
