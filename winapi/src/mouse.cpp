@@ -153,13 +153,6 @@ bool activateByPress(Window& window, UINT message, QPoint screen)
     return isAlive(window) && answer != MA_ACTIVATEANDEAT && answer != MA_NOACTIVATEANDEAT;
 }
 
-HWND targetOf(const MouseInput& input, const Window& under)
-{
-    if (!isWheel(input.message))
-        return under.handle;
-    return GetFocus() ? GetFocus() : under.handle;
-}
-
 UINT messageFor(const MouseInput& input, const Window& window)
 {
     const bool twice = input.doubleClick && (window.windowClass->info.style & CS_DBLCLKS);
@@ -217,11 +210,11 @@ std::optional<MSG> toMessage(const MouseInput& input)
                  MAKELPARAM(HTCLIENT, message));
     if (!isAlive(*under))
         return std::nullopt;
-    const HWND target = targetOf(input, *under);
+    // The wheel as well: the focus plays no part in it.
     if (isWheel(input.message))
-        return makeMessage(target, message, MAKEWPARAM(mouseKeys(), input.wheelDelta),
+        return makeMessage(under->handle, message, MAKEWPARAM(mouseKeys(), input.wheelDelta),
                            toLParam(input.screen));
-    return makeMessage(target, message, mouseKeys(), clientPoint(*under, input.screen));
+    return makeMessage(under->handle, message, mouseKeys(), clientPoint(*under, input.screen));
 }
 
 void mouseLeftHost()

@@ -1,0 +1,268 @@
+// Focus, activation, capture, mouse and keyboard.
+#include "Hands.h"
+#include "MessageRecorder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Input : public testing::Test
+{
+protected:
+    // A top-level window at 100, 100 of the screen with a child at 10, 20 of it, 100 x 80.
+    void SetUp() override
+    {
+        movePointer(600, 600);
+        top = recorder.createTop("t");
+        child = recorder.create("c", WS_CHILD | WS_VISIBLE, top, 5);
+        serveMessages();
+        recorder.clear();
+    }
+
+    std::string served()
+    {
+        serveMessages();
+        return recorder.take();
+    }
+
+    MessageRecorder recorder;
+    HWND top = nullptr;
+    HWND child = nullptr;
+};
+
+TEST_F(Input, FocusMovesAtOnce)
+{
+    EXPECT_EQ(SetFocus(child), top);
+    EXPECT_EQ(recorder.take(), "t.KILLFOCUS(c) c.SETFOCUS(t)");
+    EXPECT_EQ(SetFocus(child), child);
+    EXPECT_EQ(recorder.take(), "");
+    EXPECT_EQ(SetFocus(nullptr), child);
+    EXPECT_EQ(recorder.take(), "c.KILLFOCUS(-)");
+    EXPECT_EQ(GetFocus(), nullptr);
+}
+
+TEST_F(Input, DisabledWindowsTakeNoFocusAndLoseIt)
+{
+    SetFocus(child);
+    recorder.clear();
+    EXPECT_FALSE(EnableWindow(child, FALSE));
+    EXPECT_EQ(recorder.take(), "c.CANCELMODE c.KILLFOCUS(-) c.ENABLE(0)");
+    EXPECT_FALSE(IsWindowEnabled(child));
+    EXPECT_EQ(SetFocus(child), nullptr);
+    EXPECT_EQ(GetFocus(), nullptr);
+    EXPECT_TRUE(EnableWindow(child, TRUE));
+    EXPECT_EQ(recorder.take(), "c.ENABLE(1)");
+}
+
+TEST_F(Input, HidingTheFocusWindowGivesTheFocusToItsParent)
+{
+    SetFocus(child);
+    recorder.only({"KILLFOCUS", "SETFOCUS"});
+    ShowWindow(child, SW_HIDE);
+    EXPECT_EQ(recorder.take(), "c.KILLFOCUS(t) t.SETFOCUS(c)");
+}
+
+TEST_F(Input, ActivationGoesWithTheFocus)
+{
+    const HWND other = recorder.createTop("o");
+    EXPECT_EQ(GetActiveWindow(), other);
+    SetFocus(child);
+    EXPECT_EQ(recorder.take(),
+              "o.NCACTIVATE o.ACTIVATE(0) t.NCACTIVATE t.ACTIVATE(1) o.KILLFOCUS(t) t.SETFOCUS(o) "
+              "t.KILLFOCUS(c) c.SETFOCUS(t)");
+    EXPECT_EQ(SetActiveWindow(other), top);
+    EXPECT_EQ(recorder.take(),
+              "t.NCACTIVATE t.ACTIVATE(0) o.NCACTIVATE o.ACTIVATE(1) c.KILLFOCUS(o) o.SETFOCUS(c)");
+}
+
+TEST_F(Input, Capture)
+{
+    const HWND second = recorder.create("d", WS_CHILD | WS_VISIBLE, top, 6);
+    recorder.clear();
+    EXPECT_EQ(SetCapture(child), nullptr);
+    EXPECT_EQ(SetCapture(second), child);
+    EXPECT_EQ(recorder.take(), "c.CAPTURECHANGED");
+    EnableWindow(second, FALSE);
+    EXPECT_EQ(recorder.take(), "d.CANCELMODE d.CAPTURECHANGED d.ENABLE(0)");
+    EXPECT_EQ(GetCapture(), nullptr);
+    ReleaseCapture();
+    EXPECT_EQ(recorder.take(), "");
+}
+
+TEST_F(Input, MouseMessagesAndWhatComesBeforeThem)
+{
+    movePointer(120, 130);
+    EXPECT_EQ(served(), "c.SETCURSOR t.SETCURSOR c.MOUSEMOVE(10,10)");
+    pressButton(MouseButton::Left);
+    EXPECT_EQ(served(), "t.PARENTNOTIFY(513) c.MOUSEACTIVATE t.MOUSEACTIVATE c.SETCURSOR t.SETCURSOR "
+                        "c.LBUTTONDOWN(10,10)");
+    releaseButton(MouseButton::Left);
+    EXPECT_EQ(served(), "c.SETCURSOR t.SETCURSOR c.LBUTTONUP(10,10)");
+    pressButton(MouseButton::Right);
+    releaseButton(MouseButton::Right);
+    recorder.only({"RBUTTON", "CONTEXTMENU"});
+    serveMessages();
+    EXPECT_EQ(recorder.take(), "c.RBUTTONDOWN(10,10) c.RBUTTONUP(10,10) c.CONTEXTMENU t.CONTEXTMENU");
+}
+
+TEST_F(Input, ADisabledChildLetsTheMouseThroughToItsParent)
+{
+    EnableWindow(child, FALSE);
+    movePointer(120, 130);
+    serveMessages();
+    recorder.clear();
+    pressButton(MouseButton::Left);
+    EXPECT_EQ(served(), "t.SETCURSOR t.LBUTTONDOWN(20,30)");
+    releaseButton(MouseButton::Left);
+    serveMessages();
+    EXPECT_EQ(WindowFromPoint({120, 130}), top);
+    EXPECT_EQ(ChildWindowFromPoint(top, {20, 30}), child);
+}
+
+TEST_F(Input, TheCaptureGetsTheMouseFromEverywhere)
+{
+    movePointer(120, 130);
+    serveMessages();
+    pressButton(MouseButton::Left);
+    serveMessages();
+    SetCapture(child);
+    recorder.clear();
+    movePointer(105, 290);
+    EXPECT_EQ(served(), "c.MOUSEMOVE(-5,170)");
+    releaseButton(MouseButton::Left);
+    EXPECT_EQ(served(), "c.LBUTTONUP(-5,170)");
+    ReleaseCapture();
+    serveMessages();
+}
+
+TEST_F(Input, TheWheelGoesToTheWindowUnderThePointerAndUpFromThere)
+{
+    movePointer(120, 130);
+    serveMessages();
+    recorder.only({"WHEEL"});
+    turnWheel(WHEEL_DELTA);
+    EXPECT_EQ(served(), "c.WHEEL t.WHEEL");
+}
+
+TEST_F(Input, HoverAndLeave)
+{
+    movePointer(120, 130);
+    serveMessages();
+    recorder.only({"MOUSELEAVE", "MOUSEHOVER"});
+    TRACKMOUSEEVENT track{sizeof track, TME_HOVER | TME_LEAVE, child, 30};
+    ASSERT_TRUE(TrackMouseEvent(&track));
+    Sleep(60);
+    EXPECT_EQ(served(), "c.MOUSEHOVER");
+    movePointer(350, 280);
+    EXPECT_EQ(served(), "c.MOUSELEAVE");
+}
+
+TEST_F(Input, KeysAndTheirCharacters)
+{
+    SetFocus(child);
+    recorder.only({"KEY", "SYSKEY", "CHAR", "SYSCHAR"});
+    const struct
+    {
+        int key;
+        const char* expected;
+    } keys[] = {
+        {'A', "c.KEYDOWN(65) c.CHAR(97) c.KEYUP(65)"},
+        {VK_TAB, "c.KEYDOWN(9) c.CHAR(9) c.KEYUP(9)"},
+        {VK_PRIOR, "c.KEYDOWN(33) c.KEYUP(33)"},
+        {VK_DELETE, "c.KEYDOWN(46) c.KEYUP(46)"},
+        {VK_RETURN, "c.KEYDOWN(13) c.CHAR(13) c.KEYUP(13)"},
+        {VK_ESCAPE, "c.KEYDOWN(27) c.CHAR(27) c.KEYUP(27)"},
+        {VK_F5, "c.KEYDOWN(116) c.KEYUP(116)"},
+    };
+    for (const auto& [key, expected] : keys) {
+        pressKey(key);
+        releaseKey(key);
+        EXPECT_EQ(served(), expected);
+    }
+    SetFocus(nullptr);
+    recorder.clear();
+    pressKey('A');
+    releaseKey('A');
+    EXPECT_EQ(served(), "t.SYSKEYDOWN(65) t.SYSCHAR(97)");
+}
+
+TEST_F(Input, ModifiersAreKnownAtTheMessage)
+{
+    SetFocus(child);
+    serveMessages();
+    recorder.only({"KEYDOWN", "CHAR"});
+    EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
+    pressKey(VK_SHIFT);
+    pressKey('B');
+    EXPECT_EQ(served(), "c.KEYDOWN(16) c.KEYDOWN(66) c.CHAR(66)");
+    EXPECT_TRUE(GetKeyState(VK_SHIFT) & 0x8000);
+    EXPECT_TRUE(GetAsyncKeyState(VK_SHIFT) & 0x8000);
+    releaseKey('B');
+    releaseKey(VK_SHIFT);
+    serveMessages();
+    EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
+    recorder.clear();
+    pressKey(VK_CONTROL);
+    pressKey('C');
+    EXPECT_EQ(served(), "c.KEYDOWN(17) c.KEYDOWN(67) c.CHAR(3)");
+    releaseKey('C');
+    releaseKey(VK_CONTROL);
+    serveMessages();
+}
+
+TEST_F(Input, AltMakesSystemKeys)
+{
+    SetFocus(child);
+    recorder.only({"SYSKEYDOWN", "KEYDOWN", "CHAR", "SYSCHAR"});
+    pressKey(VK_MENU);
+    pressKey('X');
+    releaseKey('X');
+    EXPECT_EQ(served(), "c.SYSKEYDOWN(18) c.SYSKEYDOWN(88) c.SYSCHAR(120)");
+    releaseKey(VK_MENU);
+    serveMessages();
+}
+
+TEST_F(Input, KeyRepeatIsSeenInTheMessage)
+{
+    SetFocus(child);
+    serveMessages();
+    pressKey(VK_LEFT);
+    pressKey(VK_LEFT);
+    MSG first{};
+    MSG second{};
+    ASSERT_TRUE(PeekMessageA(&first, child, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
+    ASSERT_TRUE(PeekMessageA(&second, child, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
+    EXPECT_EQ(LOWORD(first.lParam), 1);
+    EXPECT_FALSE(HIWORD(first.lParam) & KF_REPEAT);
+    EXPECT_TRUE(HIWORD(second.lParam) & KF_REPEAT);
+    releaseKey(VK_LEFT);
+    serveMessages();
+}
+
+TEST_F(Input, ADoubleClickNeedsItsStyle)
+{
+    const HWND twice = recorder.create("d", WS_CHILD | WS_VISIBLE, top, 6, CS_DBLCLKS);
+    MoveWindow(twice, 150, 20, 100, 80, TRUE);
+    serveMessages();
+    recorder.only({"LBUTTON"});
+    const struct
+    {
+        int x;
+        const char* expected;
+    } places[] = {
+        {120, "c.LBUTTONDOWN(10,10) c.LBUTTONUP(10,10) c.LBUTTONDOWN(10,10) c.LBUTTONUP(10,10)"},
+        {260, "d.LBUTTONDOWN(10,10) d.LBUTTONUP(10,10) d.LBUTTONDBLCLK(10,10) d.LBUTTONUP(10,10)"},
+    };
+    for (const auto& [x, expected] : places) {
+        movePointer(x, 130);
+        serveMessages();
+        recorder.clear();
+        for (int i = 0; i < 2; ++i) {
+            pressButton(MouseButton::Left);
+            releaseButton(MouseButton::Left);
+        }
+        EXPECT_EQ(served(), expected);
+    }
+}
+
+}

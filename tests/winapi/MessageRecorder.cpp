@@ -1,0 +1,228 @@
+#include "MessageRecorder.h"
+
+#include <algorithm>
+#include <utility>
+
+MessageRecorder* MessageRecorder::s_current = nullptr;
+
+namespace {
+
+enum class Detail
+{
+    None,
+    WParam,
+    Size,
+    Point,
+    Window,
+    Command,
+    Item,
+    Event,
+};
+
+constexpr struct
+{
+    UINT message;
+    const char* name;
+    Detail detail;
+} known[] = {
+    {WM_NCCREATE, "NCCREATE", Detail::None},
+    {WM_NCCALCSIZE, "NCCALCSIZE", Detail::None},
+    {WM_CREATE, "CREATE", Detail::None},
+    {WM_SIZE, "SIZE", Detail::Size},
+    {WM_MOVE, "MOVE", Detail::Point},
+    {WM_PARENTNOTIFY, "PARENTNOTIFY", Detail::Event},
+    {WM_SHOWWINDOW, "SHOWWINDOW", Detail::WParam},
+    {WM_WINDOWPOSCHANGING, "POSCHANGING", Detail::None},
+    {WM_WINDOWPOSCHANGED, "POSCHANGED", Detail::None},
+    {WM_CHILDACTIVATE, "CHILDACTIVATE", Detail::None},
+    {WM_DESTROY, "DESTROY", Detail::None},
+    {WM_NCDESTROY, "NCDESTROY", Detail::None},
+    {WM_CLOSE, "CLOSE", Detail::None},
+    {WM_ENABLE, "ENABLE", Detail::WParam},
+    {WM_CANCELMODE, "CANCELMODE", Detail::None},
+    {WM_ACTIVATEAPP, "ACTIVATEAPP", Detail::WParam},
+    {WM_NCACTIVATE, "NCACTIVATE", Detail::None},
+    {WM_ACTIVATE, "ACTIVATE", Detail::WParam},
+    {WM_SETFOCUS, "SETFOCUS", Detail::Window},
+    {WM_KILLFOCUS, "KILLFOCUS", Detail::Window},
+    {WM_CAPTURECHANGED, "CAPTURECHANGED", Detail::None},
+    {WM_MOUSEACTIVATE, "MOUSEACTIVATE", Detail::None},
+    {WM_SETCURSOR, "SETCURSOR", Detail::None},
+    {WM_MOUSEMOVE, "MOUSEMOVE", Detail::Point},
+    {WM_LBUTTONDOWN, "LBUTTONDOWN", Detail::Point},
+    {WM_LBUTTONUP, "LBUTTONUP", Detail::Point},
+    {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", Detail::Point},
+    {WM_RBUTTONDOWN, "RBUTTONDOWN", Detail::Point},
+    {WM_RBUTTONUP, "RBUTTONUP", Detail::Point},
+    {WM_CONTEXTMENU, "CONTEXTMENU", Detail::None},
+    {WM_MOUSEWHEEL, "WHEEL", Detail::None},
+    {WM_MOUSELEAVE, "MOUSELEAVE", Detail::None},
+    {WM_MOUSEHOVER, "MOUSEHOVER", Detail::None},
+    {WM_KEYDOWN, "KEYDOWN", Detail::WParam},
+    {WM_KEYUP, "KEYUP", Detail::WParam},
+    {WM_SYSKEYDOWN, "SYSKEYDOWN", Detail::WParam},
+    {WM_CHAR, "CHAR", Detail::WParam},
+    {WM_SYSCHAR, "SYSCHAR", Detail::WParam},
+    {WM_COMMAND, "COMMAND", Detail::Command},
+    {WM_DRAWITEM, "DRAWITEM", Detail::Item},
+    {WM_PAINT, "PAINT", Detail::None},
+    {WM_ERASEBKGND, "ERASEBKGND", Detail::None},
+    {WM_TIMER, "TIMER", Detail::WParam},
+    {WM_USER, "USER", Detail::WParam},
+    {BM_SETSTATE, "BM_SETSTATE", Detail::WParam},
+};
+
+// Sent at times of its own on each platform; tests that want it ask for it.
+bool isOptional(UINT message)
+{
+    return message == WM_ERASEBKGND;
+}
+
+std::string numbers(long first, const char* between, long second)
+{
+    return std::to_string(first) + between + std::to_string(second);
+}
+
+std::string describe(const MessageRecorder& recorder, Detail detail, WPARAM wParam, LPARAM lParam)
+{
+    switch (detail) {
+    case Detail::WParam:
+        return std::to_string(wParam);
+    case Detail::Size:
+        return numbers(LOWORD(lParam), "x", HIWORD(lParam));
+    case Detail::Point:
+        return numbers(static_cast<short>(LOWORD(lParam)), ",", static_cast<short>(HIWORD(lParam)));
+    case Detail::Window:
+        return recorder.nameOf(reinterpret_cast<HWND>(wParam));
+    case Detail::Command:
+        return numbers(LOWORD(wParam), ":", HIWORD(wParam));
+    case Detail::Event:
+        return std::to_string(LOWORD(wParam));
+    case Detail::Item: {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        return numbers(item.itemAction, ":", item.itemState & (ODS_SELECTED | ODS_DISABLED | ODS_FOCUS));
+    }
+    default:
+        return {};
+    }
+}
+
+}
+
+MessageRecorder::MessageRecorder()
+{
+    s_current = this;
+}
+
+MessageRecorder::~MessageRecorder()
+{
+    while (!m_named.empty()) {
+        const HWND window = m_named.back().window;
+        m_named.pop_back();
+        if (IsWindow(window))
+            DestroyWindow(window);
+    }
+    s_current = nullptr;
+}
+
+HWND MessageRecorder::create(const char* name, DWORD style, HWND parent, int id, UINT classStyle)
+{
+    const std::string className = "Recorder" + std::to_string(classStyle);
+    WNDCLASSA windowClass{};
+    if (!GetClassInfoA(nullptr, className.c_str(), &windowClass)) {
+        windowClass = {};
+        windowClass.style = classStyle;
+        windowClass.lpfnWndProc = procedure;
+        windowClass.lpszClassName = className.c_str();
+        windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+        RegisterClassA(&windowClass);
+    }
+    m_creating = name;
+    const bool child = style & WS_CHILD;
+    const HWND window = CreateWindowExA(0, className.c_str(), name, style, child ? 10 : 100, child ? 20 : 100,
+                                        child ? 100 : 300, child ? 80 : 200, parent,
+                                        reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), nullptr, nullptr);
+    m_creating.clear();
+    return window;
+}
+
+HWND MessageRecorder::createTop(const char* name, DWORD style)
+{
+    const HWND window = create(name, style);
+    serveMessages();
+    clear();
+    return window;
+}
+
+void MessageRecorder::subclass(HWND window, const char* name)
+{
+    const auto original = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure)));
+    m_named.push_back({window, name, original});
+}
+
+std::string MessageRecorder::take()
+{
+    std::string all;
+    for (const std::string& one : m_notes)
+        all += (all.empty() ? "" : " ") + one;
+    m_notes.clear();
+    return all;
+}
+
+std::string MessageRecorder::nameOf(HWND window) const
+{
+    const auto found = std::find_if(m_named.begin(), m_named.end(),
+                                    [&](const Named& named) { return named.window == window; });
+    return found == m_named.end() ? "-" : found->name;
+}
+
+MessageRecorder::Named* MessageRecorder::find(HWND window)
+{
+    const auto found = std::find_if(m_named.begin(), m_named.end(),
+                                    [&](const Named& named) { return named.window == window; });
+    return found == m_named.end() ? nullptr : &*found;
+}
+
+void MessageRecorder::note(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto entry = std::find_if(std::begin(known), std::end(known),
+                                    [&](const auto& one) { return one.message == message; });
+    if (entry == std::end(known))
+        return;
+    const std::string name = entry->name;
+    const auto asked = [&](const std::string& one) { return name.starts_with(one); };
+    if (m_only.empty() ? isOptional(message) : std::none_of(m_only.begin(), m_only.end(), asked))
+        return;
+    const std::string detail = describe(*this, entry->detail, wParam, lParam);
+    m_notes.push_back(nameOf(window) + "." + name + (detail.empty() ? "" : "(" + detail + ")"));
+}
+
+LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!s_current)
+        return DefWindowProcA(window, message, wParam, lParam);
+    if (!s_current->find(window))
+        s_current->m_named.push_back({window, s_current->m_creating, nullptr});
+    s_current->note(window, message, wParam, lParam);
+    if (message == WM_CREATE && std::exchange(s_current->m_refuse, false))
+        return -1;
+    const WNDPROC original = s_current->find(window)->original;
+    return original ? CallWindowProcA(original, window, message, wParam, lParam)
+                    : DefWindowProcA(window, message, wParam, lParam);
+}
+
+void serveMessages()
+{
+    constexpr int rounds = 4;
+    constexpr DWORD pause = 5;
+    for (int quiet = 0; quiet < rounds; ++quiet) {
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+            quiet = 0;
+        }
+        Sleep(pause);
+    }
+}

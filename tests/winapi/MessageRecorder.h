@@ -1,0 +1,55 @@
+// Windows that note each message they get, in words.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+class MessageRecorder
+{
+public:
+    MessageRecorder();
+    ~MessageRecorder();
+
+    // Makes a window whose messages are noted under `name`. Children take `parent`, others may have an owner.
+    HWND create(const char* name, DWORD style, HWND parent = nullptr, int id = 0, UINT classStyle = 0);
+    HWND createTop(const char* name, DWORD style = WS_POPUP | WS_VISIBLE);
+    // Notes messages of a window of another class too.
+    void subclass(HWND window, const char* name);
+
+    // What was noted since the last call, parted by blanks.
+    std::string take();
+    void clear() { m_notes.clear(); }
+    // Only messages whose name begins with one of these are noted; all of the table by default.
+    void only(std::vector<std::string> names)
+    {
+        m_only = std::move(names);
+        clear();
+    }
+    // WM_CREATE of the next window fails.
+    void refuseCreation() { m_refuse = true; }
+
+    std::string nameOf(HWND window) const;
+
+private:
+    struct Named
+    {
+        HWND window;
+        std::string name;
+        WNDPROC original;
+    };
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void note(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    Named* find(HWND window);
+
+    std::vector<Named> m_named;
+    std::string m_creating;
+    std::vector<std::string> m_notes;
+    std::vector<std::string> m_only;
+    bool m_refuse = false;
+    static MessageRecorder* s_current;
+};
+
+// Serves messages until none has come for a while.
+void serveMessages();

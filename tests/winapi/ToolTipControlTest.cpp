@@ -1,0 +1,237 @@
+// The tool-tip control: its tools, its texts, and when a tip is up.
+#include "Hands.h"
+#include "MessageRecorder.h"
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+class ToolTipControl : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        movePointer(600, 600);
+        top = recorder.createTop("t");
+        child = recorder.create("c", WS_CHILD | WS_VISIBLE, top, 5);
+        tip = CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, "", WS_POPUP, 0, 0, 0, 0, top, nullptr, nullptr,
+                              nullptr);
+        serveMessages();
+    }
+
+    void TearDown() override { DestroyWindow(tip); }
+
+    TOOLINFOA tool(UINT_PTR toolId, const char* text, RECT rect = {0, 0, 20, 20})
+    {
+        TOOLINFOA info{};
+        info.cbSize = sizeof info;
+        info.hwnd = child;
+        info.uId = toolId;
+        info.rect = rect;
+        info.lpszText = const_cast<LPSTR>(text);
+        return info;
+    }
+
+    LRESULT send(UINT message, TOOLINFOA& info, WPARAM wParam = 0)
+    {
+        return SendMessageA(tip, message, wParam, reinterpret_cast<LPARAM>(&info));
+    }
+
+    std::string text(UINT_PTR toolId)
+    {
+        char buffer[200] = "untouched";
+        TOOLINFOA info = tool(toolId, buffer);
+        send(TTM_GETTEXTA, info, sizeof buffer);
+        return buffer;
+    }
+
+    LRESULT count() { return SendMessageA(tip, TTM_GETTOOLCOUNT, 0, 0); }
+
+    bool comesUp()
+    {
+        for (int i = 0; i < 60 && !IsWindowVisible(tip); ++i)
+            serveMessages();
+        return IsWindowVisible(tip);
+    }
+
+    bool goes()
+    {
+        for (int i = 0; i < 60 && IsWindowVisible(tip); ++i)
+            serveMessages();
+        return !IsWindowVisible(tip);
+    }
+
+    MessageRecorder recorder;
+    HWND top = nullptr;
+    HWND child = nullptr;
+    HWND tip = nullptr;
+};
+
+TEST_F(ToolTipControl, ToolsComeAndGo)
+{
+    TOOLINFOA first = tool(1, "A && B & C");
+    TOOLINFOA second = tool(2, "second", {20, 0, 40, 20});
+    EXPECT_TRUE(send(TTM_ADDTOOLA, first));
+    EXPECT_TRUE(send(TTM_ADDTOOLA, second));
+    EXPECT_EQ(count(), 2);
+    EXPECT_EQ(text(1), "A && B & C") << "as it was given";
+    EXPECT_EQ(text(9), "untouched");
+
+    TOOLINFOA seen = tool(0, nullptr);
+    seen.lpszText = nullptr;
+    EXPECT_TRUE(send(TTM_ENUMTOOLSA, seen, 1));
+    EXPECT_EQ(seen.uId, 2u);
+    EXPECT_EQ(seen.rect.left, 20);
+    EXPECT_FALSE(send(TTM_ENUMTOOLSA, seen, 2));
+
+    TOOLINFOA unknown = tool(9, "");
+    send(TTM_DELTOOLA, unknown);
+    EXPECT_EQ(count(), 2);
+    send(TTM_DELTOOLA, first);
+    EXPECT_EQ(count(), 1);
+    send(TTM_DELTOOLA, first);
+    EXPECT_EQ(count(), 1);
+}
+
+TEST_F(ToolTipControl, AToolOfOneNumberMayBeThereTwice)
+{
+    TOOLINFOA info = tool(1, "x");
+    send(TTM_ADDTOOLA, info);
+    send(TTM_ADDTOOLA, info);
+    EXPECT_EQ(count(), 2);
+    send(TTM_DELTOOLA, info);
+    EXPECT_EQ(count(), 1);
+}
+
+TEST_F(ToolTipControl, TextsAndPlacesChange)
+{
+    TOOLINFOA info = tool(1, "one");
+    send(TTM_ADDTOOLA, info);
+    TOOLINFOA changed = tool(1, "two\r\nlines");
+    send(TTM_UPDATETIPTEXTA, changed);
+    EXPECT_EQ(text(1), "two\r\nlines");
+
+    char buffer[200];
+    TTHITTESTINFOA hit{};
+    hit.hwnd = child;
+    hit.pt = {25, 5};
+    hit.ti = tool(0, buffer);
+    EXPECT_FALSE(SendMessageA(tip, TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&hit)));
+    TOOLINFOA moved = tool(1, "", {20, 0, 40, 20});
+    send(TTM_NEWTOOLRECTA, moved);
+    EXPECT_TRUE(SendMessageA(tip, TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&hit)));
+    EXPECT_EQ(hit.ti.uId, 1u);
+}
+
+TEST_F(ToolTipControl, DelaysFollowTheFirst)
+{
+    const auto delay = [&](WPARAM which) { return SendMessageA(tip, TTM_GETDELAYTIME, which, 0); };
+    EXPECT_EQ(delay(TTDT_INITIAL), 500);
+    EXPECT_EQ(delay(TTDT_RESHOW), 100);
+    EXPECT_EQ(delay(TTDT_AUTOPOP), 5000);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_AUTOMATIC, 100);
+    EXPECT_EQ(delay(TTDT_INITIAL), 100);
+    EXPECT_EQ(delay(TTDT_RESHOW), 20);
+    EXPECT_EQ(delay(TTDT_AUTOPOP), 1000);
+    EXPECT_EQ(SendMessageA(tip, TTM_GETMAXTIPWIDTH, 0, 0), -1);
+}
+
+int timesAsked;
+
+LRESULT CALLBACK answer(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == TTN_GETDISPINFOA) {
+        auto& info = *reinterpret_cast<NMTTDISPINFOA*>(lParam);
+        std::strcpy(info.szText, ("asked " + std::to_string(++timesAsked)).c_str());
+        return 0;
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+TEST_F(ToolTipControl, AnOwnerIsAskedEachTime)
+{
+    SetWindowLongPtrA(child, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&answer));
+    TOOLINFOA info = tool(3, LPSTR_TEXTCALLBACKA);
+    send(TTM_ADDTOOLA, info);
+    timesAsked = 0;
+    EXPECT_EQ(text(3), "asked 1");
+    EXPECT_EQ(text(3), "asked 2");
+}
+
+TEST_F(ToolTipControl, TheTipComesWhereThePointerRestsAndGoesWhenItLeaves)
+{
+    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
+    info.uFlags = TTF_SUBCLASS;
+    send(TTM_ADDTOOLA, info);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
+    movePointer(120, 130);
+    EXPECT_TRUE(comesUp());
+    RECT rect{};
+    GetWindowRect(tip, &rect);
+    EXPECT_GE(rect.top, 131) << "below the pointer";
+    EXPECT_GT(rect.right, rect.left);
+    movePointer(350, 280);
+    EXPECT_TRUE(goes());
+}
+
+TEST_F(ToolTipControl, APressEndsTheTip)
+{
+    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
+    info.uFlags = TTF_SUBCLASS;
+    send(TTM_ADDTOOLA, info);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
+    movePointer(120, 130);
+    ASSERT_TRUE(comesUp());
+    pressButton(MouseButton::Left);
+    serveMessages();
+    EXPECT_FALSE(IsWindowVisible(tip));
+    releaseButton(MouseButton::Left);
+    serveMessages();
+}
+
+TEST_F(ToolTipControl, RelayedMessagesDoTheSame)
+{
+    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
+    send(TTM_ADDTOOLA, info);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
+    movePointer(120, 130);
+    serveMessages();
+    MSG message{};
+    message.hwnd = child;
+    message.message = WM_MOUSEMOVE;
+    message.lParam = MAKELPARAM(10, 10);
+    SendMessageA(tip, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+    EXPECT_TRUE(comesUp());
+    SendMessageA(tip, TTM_ACTIVATE, FALSE, 0);
+    EXPECT_TRUE(goes());
+    SendMessageA(tip, TTM_RELAYEVENT, 0, 0);
+}
+
+TEST_F(ToolTipControl, AToolCanBeAWindow)
+{
+    TOOLINFOA info = tool(reinterpret_cast<UINT_PTR>(child), "window");
+    info.hwnd = top;
+    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    send(TTM_ADDTOOLA, info);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
+    movePointer(120, 130);
+    EXPECT_TRUE(comesUp());
+}
+
+TEST_F(ToolTipControl, AnEmptyTextShowsNoTip)
+{
+    TOOLINFOA info = tool(1, "", {0, 0, 60, 60});
+    info.uFlags = TTF_SUBCLASS;
+    send(TTM_ADDTOOLA, info);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 20);
+    movePointer(120, 130);
+    for (int i = 0; i < 5; ++i)
+        serveMessages();
+    EXPECT_FALSE(IsWindowVisible(tip));
+}
+
+}
