@@ -170,6 +170,8 @@ protected:
     // Options.
     void FilterOptionsMenu(HMENU hMenu) const;
     void ShowDateRange(RangeBase base, RangeUnit unit, int nCount);
+    static DateTime GetRangeStart(DateTime date, RangeUnit unit, int nCount);
+    static DateTime GetRangeEnd(DateTime start, RangeUnit unit); // of all units but weeks
 
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnPaint();

@@ -74,7 +74,21 @@ void TidySeparators(HMENU hMenu)
         RemoveItem(hMenu, nLast);
 }
 
-constexpr int kMonthsInQuarter = 3;
+// Goes to some day of this month (0), the month before (-1) or the month after (1).
+void StepToMonth(DateTime& date, int nCount)
+{
+    if (nCount < 0)
+        date.SetToFirstDay();
+    else if (nCount > 0)
+        date.SetToLastDay();
+    date.AddDays(nCount);
+}
+
+// The first month of the quarter that lies `nCount` quarters after that of the month, in the same year.
+int FirstMonthOfQuarter(int nMonth, int nCount)
+{
+    return ((nMonth - 1) / 3 + nCount + 4) % 4 * 3 + 1;
+}
 
 }
 
@@ -123,4 +137,49 @@ void CCalendarWnd::OnOptionsCopydatelongform()
 void CCalendarWnd::OnOptionsCopydateshortform()
 {
     ClipboardUtils::CopyTextToClipboard(DateTime::ConvertDateToText(m_date, false, false, false, true));
+}
+
+// Selects the first day of the range and hands its last day to the parent.
+void CCalendarWnd::ShowDateRange(RangeBase base, RangeUnit unit, int nCount)
+{
+    DateTime date = base == RangeBase::Shown ? m_date : DateTime();
+    if (!date.IsValid())
+        date.SetToCurrentDate();
+    if (unit == RangeUnit::Quarter && !date.IsValid())
+        return;
+    const DateTime start = GetRangeStart(date, unit, nCount);
+    SetDate(start);
+    NotifyParentWndDateRange(unit == RangeUnit::Weeks ? date : GetRangeEnd(start, unit));
+}
+
+// The month may lack the day of the date for a moment, until the day is set.
+DateTime CCalendarWnd::GetRangeStart(DateTime date, RangeUnit unit, int nCount)
+{
+    switch (unit) {
+    case RangeUnit::Weeks:
+        date.AddDays(1 - 7 * nCount);
+        return date;
+    case RangeUnit::Month:
+        StepToMonth(date, nCount);
+        break;
+    case RangeUnit::Quarter:
+        date.SetMonth(FirstMonthOfQuarter(date.GetMonth(), nCount));
+        break;
+    case RangeUnit::Year:
+        date.SetYear(date.GetYear() + nCount);
+        date.SetMonth(1);
+        break;
+    }
+    date.SetDay(1);
+    return date;
+}
+
+DateTime CCalendarWnd::GetRangeEnd(DateTime start, RangeUnit unit)
+{
+    if (unit == RangeUnit::Quarter)
+        start.SetMonth(start.GetMonth() + 2);
+    else if (unit == RangeUnit::Year)
+        start.SetMonth(12);
+    start.SetToLastDay();
+    return start;
 }

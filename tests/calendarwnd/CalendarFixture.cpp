@@ -1,0 +1,213 @@
+#include "CalendarFixture.h"
+
+#include <Clock.h>
+#include <LocaleUtils.h>
+#include <ZebrikUtils.h>
+#include <gdiplus.h>
+
+#include <random>
+
+namespace {
+
+class Session : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), SW_SHOW);
+        const Gdiplus::GdiplusStartupInput input;
+        ASSERT_EQ(Gdiplus::GdiplusStartup(&m_token, &input, nullptr), Gdiplus::Ok);
+    }
+    void TearDown() override { Gdiplus::GdiplusShutdown(m_token); }
+
+private:
+    ULONG_PTR m_token = 0;
+};
+
+const testing::Environment* const theSession = testing::AddGlobalTestEnvironment(new Session);
+
+const std::pair<UINT, const char*> kMessages[] = {
+    {CCalendarWnd::CALWND_ONSELCHANGE, "SELCHANGE"},
+    {CCalendarWnd::CALWND_ONNODATE, "NODATE"},
+    {CCalendarWnd::CALWND_ENTERKEY, "ENTER"},
+    {CCalendarWnd::CALWND_ESCKEY, "ESC"},
+    {CCalendarWnd::CALWND_PROMPT_SAVEWEBPAGE, "WEBPAGE"},
+    {CCalendarWnd::CALWND_DATERANGE_CHANGED, "RANGE"},
+};
+
+const char* FindName(UINT nMessage)
+{
+    for (const auto& [nKnown, strName] : kMessages)
+        if (nKnown == nMessage)
+            return strName;
+    return nullptr;
+}
+
+}
+
+DateTime Date(int nYear, int nMonth, int nDay)
+{
+    return {nYear, nMonth, nDay, 0, 0, 0};
+}
+
+std::string ToText(const DateTime& date)
+{
+    int nYear = 0, nMonth = 0, nDay = 0;
+    date.GetDate(nYear, nMonth, nDay);
+    return std::to_string(nYear) + "-" + std::to_string(nMonth) + "-" + std::to_string(nDay);
+}
+
+std::string NameOf(const Heard& heard)
+{
+    return std::string(FindName(heard.nMessage)) + " " + std::to_string(heard.lParam);
+}
+
+CString TestCalendar::GetTitle() const
+{
+    CString strTitle;
+    m_pMonthYearButton->GetWindowText(strTitle);
+    return strTitle;
+}
+
+CRect TestCalendar::GetDayRect(int nDay) const
+{
+    return GetCellRect(MonthBlock::PlaceOfDay(MonthBlock::ShapeOf(m_date)->nFirstColumn, nDay));
+}
+
+LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (FindName(message) == nullptr || m_pCalendar == nullptr)
+        return CWnd::WindowProc(message, wParam, lParam);
+    const bool bRange = message == CCalendarWnd::CALWND_DATERANGE_CHANGED;
+    m_heard.push_back({message, wParam, bRange ? 0 : lParam, m_pCalendar->GetDate(),
+                       bRange ? *reinterpret_cast<const DateTime*>(lParam) : DateTime(),
+                       m_pCalendar->m_bHaveDate, m_pCalendar->GetTitle(), m_pCalendar->m_rcSelection});
+    return 0;
+}
+
+Picture::Picture(CWnd& wnd)
+{
+    CRect rc;
+    wnd.GetClientRect(&rc);
+    CClientDC dc(&wnd);
+    m_dc.CreateCompatibleDC(&dc);
+    m_bitmap.CreateCompatibleBitmap(&dc, rc.Width(), rc.Height());
+    m_dc.SelectObject(&m_bitmap);
+    m_dc.BitBlt(0, 0, rc.Width(), rc.Height(), &dc, 0, 0, SRCCOPY);
+}
+
+int Picture::Darkest(const CRect& rc) const
+{
+    int nDarkest = 255;
+    for (int y = rc.top; y < rc.bottom; ++y)
+        for (int x = rc.left; x < rc.right; ++x)
+            nDarkest = std::min<int>(nDarkest, GetGValue(At(x, y)));
+    return nDarkest;
+}
+
+CalendarTest::CalendarTest()
+    : m_directory(std::filesystem::temp_directory_path() /
+                  ("zeb17_calendar_" + std::to_string(std::random_device{}()))),
+      calendar(std::make_unique<TestCalendar>())
+{
+    std::filesystem::create_directory(m_directory);
+    ZebrikUtils::SetDataDirectory(m_directory.string().c_str());
+    Clock::SetToday(2026, 7, 15);
+    LocaleUtils::SetLocale("en-US");
+    calendar->m_date.SetToCurrent(); // the object was made before the clock was set
+    const LPCTSTR strClass =
+        AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)), nullptr);
+    parent.CreateEx(0, strClass, "parent", WS_POPUP | WS_VISIBLE, CRect(0, 0, 500, 400), nullptr, 0);
+    parent.m_pCalendar = calendar.get();
+}
+
+CalendarTest::~CalendarTest()
+{
+    calendar.reset();
+    parent.DestroyWindow();
+    LocaleUtils::SetLocale("");
+    Clock::Release();
+    ZebrikUtils::SetDataDirectory("");
+    std::filesystem::remove_all(m_directory);
+}
+
+bool CalendarTest::Create(const Flags& flags, int nWidth, int nHeight)
+{
+    return calendar->Create(kCalendarId, CRect(CPoint(10, 20), CSize(nWidth, nHeight)),
+                            flags.bUseSpecialDates, &parent, flags.bAllowNoDate, flags.bShowOptions,
+                            flags.bAllowWebPage, flags.bAllowDateRanges);
+}
+
+void CalendarTest::Start(const Flags& flags)
+{
+    ASSERT_TRUE(Create(flags));
+    calendar->SetFocus();
+    Repaint();
+    parent.m_heard.clear();
+}
+
+void CalendarTest::Show(const DateTime& date, bool bHaveDate)
+{
+    calendar->m_date = date;
+    calendar->m_bHaveDate = bHaveDate;
+    calendar->RefreshMonth();
+    Repaint();
+}
+
+void CalendarTest::Repaint()
+{
+    calendar->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+CRect CalendarTest::GetInvalid()
+{
+    CRect rc;
+    ::GetUpdateRect(calendar->m_hWnd, &rc, FALSE);
+    return rc;
+}
+
+void CalendarTest::Press(CPoint point)
+{
+    calendar->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    calendar->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+}
+
+void CalendarTest::Key(WPARAM nKey, CWnd* pTarget)
+{
+    MSG msg{};
+    msg.hwnd = pTarget != nullptr ? pTarget->m_hWnd : ::GetFocus();
+    msg.message = WM_KEYDOWN;
+    msg.wParam = nKey;
+    msg.lParam = 1;
+    if (!CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg))
+        ::DispatchMessageA(&msg);
+}
+
+void CalendarTest::Command(UINT nId)
+{
+    calendar->SendMessage(WM_COMMAND, MAKEWPARAM(nId, 0));
+}
+
+void CalendarTest::AddSpecialDay(const char* strText, int nDay, int nMonth, COLORREF cr)
+{
+    auto* const pEntry = new CalendarDateEntry;
+    pEntry->SetDay(strText, nDay, nMonth);
+    pEntry->SetColor(cr);
+    calendar->m_settings.AddCustomEntry(pEntry);
+}
+
+void CalendarTest::HideNationalDays()
+{
+    for (const auto group :
+         {CalendarSettings::GroupUS, CalendarSettings::GroupCanada, CalendarSettings::GroupNetherlands})
+        calendar->m_settings.SetAllShow(group, false);
+}
+
+std::vector<std::string> CalendarTest::TakeHeard()
+{
+    std::vector<std::string> names;
+    for (const Heard& heard : parent.m_heard)
+        names.push_back(NameOf(heard));
+    parent.m_heard.clear();
+    return names;
+}

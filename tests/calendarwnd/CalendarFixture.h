@@ -1,0 +1,167 @@
+// A calendar in a real window, with a parent that records what it hears.
+#pragma once
+
+#include <afxwin.h>
+
+#include <AppLogger.h>
+#include <CalendarWnd.h>
+#include <DownArrowButton.h>
+#include <MonthBlock.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+inline constexpr UINT kCalendarId = 300;
+
+// Reaches the protected members.
+class TestCalendar : public CCalendarWnd
+{
+public:
+    using CCalendarWnd::ButtonId;
+    using CCalendarWnd::m_bAllowDateRanges;
+    using CCalendarWnd::m_bAllowNoDate;
+    using CCalendarWnd::m_bAllowWebPage;
+    using CCalendarWnd::m_bHaveDate;
+    using CCalendarWnd::m_bShowOptions;
+    using CCalendarWnd::m_bUseSpecialDates;
+    using CCalendarWnd::m_date;
+    using CCalendarWnd::m_nFirstDayColumn;
+    using CCalendarWnd::m_nNextToolId;
+    using CCalendarWnd::m_nTodayCell;
+    using CCalendarWnd::m_pClearButton;
+    using CCalendarWnd::m_pMonthYearButton;
+    using CCalendarWnd::m_pNextMonthButton;
+    using CCalendarWnd::m_pNextYearButton;
+    using CCalendarWnd::m_pOptionsButton;
+    using CCalendarWnd::m_pParent;
+    using CCalendarWnd::m_pPrevMonthButton;
+    using CCalendarWnd::m_pPrevYearButton;
+    using CCalendarWnd::m_pTodayButton;
+    using CCalendarWnd::m_rcGrid;
+    using CCalendarWnd::m_rcSelection;
+    using CCalendarWnd::m_rcToday;
+    using CCalendarWnd::m_settings;
+    using CCalendarWnd::m_toolTip;
+    using CCalendarWnd::m_vColumnEdges;
+    using CCalendarWnd::m_vDayColors;
+    using CCalendarWnd::m_vDayDescs;
+    using CCalendarWnd::m_vRowEdges;
+
+    using CCalendarWnd::DetermineSpecialDays;
+    using CCalendarWnd::FilterOptionsMenu;
+    using CCalendarWnd::GetCellRect;
+    using CCalendarWnd::MoveSelectionRect;
+    using CCalendarWnd::OnClearButton;
+    using CCalendarWnd::OnMouseHWheel;
+    using CCalendarWnd::OnOptionsButton;
+    using CCalendarWnd::OnSize;
+    using CCalendarWnd::OnTodayButton;
+    using CCalendarWnd::OnToolTipNotify;
+    using CCalendarWnd::PreTranslateMessage;
+    using CCalendarWnd::RefreshMonth;
+    using CCalendarWnd::SetValidDate;
+    using CCalendarWnd::UpdateMonthYearText;
+
+    CString GetTitle() const;
+    CRect GetDayRect(int nDay) const; // text rectangle of a day of the month shown
+};
+
+// One registered message, and what the control showed at that moment.
+struct Heard
+{
+    UINT nMessage;
+    WPARAM wParam;
+    LPARAM lParam; // 0 for a range, whose end is in dtEnd
+    DateTime date;
+    DateTime dtEnd;
+    bool bHaveDate;
+    CString strTitle;
+    CRect rcSelection;
+};
+
+class RecordingParent : public CWnd
+{
+public:
+    TestCalendar* m_pCalendar = nullptr;
+    std::vector<Heard> m_heard;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+class RecordingLogger : public AppLogger
+{
+public:
+    RecordingLogger() { m_pInstance = this; }
+    ~RecordingLogger() override { m_pInstance = nullptr; }
+    void AddLine(const CString& strLine) override { m_lines.emplace_back(strLine); }
+
+    std::vector<std::string> m_lines;
+};
+
+struct Flags
+{
+    bool bUseSpecialDates = true;
+    bool bAllowNoDate = true;
+    bool bShowOptions = true;
+    bool bAllowWebPage = true;
+    bool bAllowDateRanges = true;
+};
+
+// The pixels of a window's client area.
+class Picture
+{
+public:
+    explicit Picture(CWnd& wnd);
+    COLORREF At(int x, int y) const { return m_dc.GetPixel(x, y); }
+    // The darkest pixel inside a rectangle, by its green part.
+    int Darkest(const CRect& rc) const;
+
+private:
+    CDC m_dc;
+    CBitmap m_bitmap;
+};
+
+// Today is Wednesday, 15 July 2026; weeks begin on Sunday.
+class CalendarTest : public testing::Test
+{
+protected:
+    static constexpr int kWidth = 300;
+    static constexpr int kHeight = 240;
+
+    CalendarTest();
+    ~CalendarTest() override;
+
+    bool Create(const Flags& flags = {}, int nWidth = kWidth, int nHeight = kHeight);
+    // Creates the control, paints it, gives it the focus, and forgets what was heard.
+    void Start(const Flags& flags = {});
+    // Puts the control in a state without a word to the parent, and paints it.
+    void Show(const DateTime& date, bool bHaveDate);
+    void Repaint();
+    // What waits to be painted.
+    CRect GetInvalid();
+
+    void Press(CPoint point);
+    void PressDay(int nDay) { Press(calendar->GetDayRect(nDay).CenterPoint()); }
+    void Key(WPARAM nKey, CWnd* pTarget = nullptr); // goes to the focus, or to pTarget
+    void Command(UINT nId);
+    void AddSpecialDay(const char* strText, int nDay, int nMonth, COLORREF cr);
+    void HideNationalDays();
+
+    // Names of what was heard since the last call, such as "SELCHANGE 1".
+    std::vector<std::string> TakeHeard();
+
+    std::filesystem::path m_directory;
+    RecordingLogger logger;
+    RecordingParent parent;
+    std::unique_ptr<TestCalendar> calendar;
+};
+
+DateTime Date(int nYear, int nMonth, int nDay);
+std::string ToText(const DateTime& date);
+std::string NameOf(const Heard& heard);

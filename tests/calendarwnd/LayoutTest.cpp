@@ -1,0 +1,147 @@
+#include "CalendarFixture.h"
+
+#include <Clock.h>
+#include <LocaleUtils.h>
+
+#include <gmock/gmock.h>
+
+using testing::Each;
+using testing::ElementsAre;
+
+class LayoutTest : public CalendarTest
+{
+protected:
+    CRect GetPlace(const CWnd* pButton) const
+    {
+        CRect rc;
+        pButton->GetWindowRect(&rc);
+        calendar->ScreenToClient(&rc);
+        return rc;
+    }
+};
+
+TEST_F(LayoutTest, ButtonsFillHeadingAndFooter)
+{
+    Start();
+    for (const auto& [cx, cy] :
+         {std::pair(300, 240), std::pair(301, 241), std::pair(302, 90), std::pair(104, 400)}) {
+        calendar->MoveWindow(0, 0, cx, cy);
+        const TestCalendar& c = *calendar;
+        const std::pair<const CWnd*, CRect> places[] = {
+            {c.m_pPrevYearButton, {0, 0, 25, 23}},
+            {c.m_pPrevMonthButton, {25, 0, 50, 23}},
+            {c.m_pMonthYearButton, {50, 0, cx - 50, 23}},
+            {c.m_pNextMonthButton, {cx - 50, 0, cx - 25, 23}},
+            {c.m_pNextYearButton, {cx - 25, 0, cx, 23}},
+            {c.m_pTodayButton, {0, cy - 25, cx / 3, cy}},
+            {c.m_pOptionsButton, {cx / 3, cy - 25, cx / 3 * 2, cy}},
+            {c.m_pClearButton, {cx / 3 * 2, cy - 25, cx, cy}},
+        };
+        for (const auto& [pButton, rc] : places)
+            EXPECT_EQ(GetPlace(pButton), rc) << pButton->GetDlgCtrlID() << " in " << cx << 'x' << cy;
+        EXPECT_EQ(c.m_rcGrid, CRect(0, 23, cx, cy - 25));
+    }
+}
+
+TEST_F(LayoutTest, Edges)
+{
+    Start();
+    calendar->OnSize(0, 210, 200);
+    EXPECT_THAT(calendar->m_vRowEdges, ElementsAre(24, 43, 65, 87, 109, 131, 153, 174));
+    EXPECT_THAT(calendar->m_vColumnEdges, ElementsAre(1, 31, 61, 91, 121, 151, 181, 209));
+    calendar->OnSize(0, 300, 240);
+    EXPECT_THAT(calendar->m_vRowEdges, ElementsAre(24, 43, 71, 99, 127, 155, 183, 214));
+    EXPECT_EQ(calendar->GetCellRect({2, 1}), CRect(4, 45, 43 - 1, 70));
+    EXPECT_EQ(calendar->GetCellRect({7, 7}), CRect(253 + 4, 185, 298, 213));
+}
+
+// Nothing limits the size, and no size harms: each is laid out, painted, pressed on and steered through.
+TEST_F(LayoutTest, AnySize)
+{
+    for (const CSize size : {CSize(0, 0), CSize(1, 1), CSize(1, 300), CSize(300, 1), CSize(99, 48),
+                             CSize(99, 49), CSize(20, 75), CSize(480, 380), CSize(-30, -40)}) {
+        calendar = std::make_unique<TestCalendar>();
+        ASSERT_TRUE(Create({}, size.cx, size.cy));
+        calendar->SetFocus();
+        Repaint();
+        for (int i = -2; i < 60; i += 3)
+            Press(CPoint(i, i * 5));
+        for (const WPARAM nKey : {VK_DOWN, VK_HOME, VK_NEXT, VK_LEFT})
+            Key(nKey);
+        Command(2605);
+        Repaint();
+        EXPECT_EQ(calendar->m_vRowEdges.size(), 8u);
+        EXPECT_EQ(calendar->m_vColumnEdges.back(), size.cx - 1);
+        EXPECT_EQ(calendar->m_vRowEdges.back(), size.cy - 26);
+    }
+    for (const int n : {-1000, -1, 0, 7, 26, 51, 32767}) {
+        calendar->OnSize(0, n, 100 - n);
+        Repaint();
+    }
+}
+
+TEST_F(LayoutTest, ResizingInvalidatesTheGrid)
+{
+    Start();
+    calendar->OnSize(0, kWidth, kHeight);
+    EXPECT_EQ(GetInvalid(), calendar->m_rcGrid);
+}
+
+// Today is found in each cell in which it can lie, whatever day the week begins with.
+TEST_F(LayoutTest, TodayCell)
+{
+    Start({.bUseSpecialDates = false});
+    for (const char* strLocale : {"en-US", "nl-NL"}) {
+        ASSERT_TRUE(LocaleUtils::SetLocale(strLocale));
+        DateTime shown = Date(2026, 2, 15); // has 28 days and begins on a Sunday
+        for (int nMonth = 0; nMonth < 14; ++nMonth, shown.AddMonths(1)) {
+            calendar->m_date = shown;
+            DateTime today = shown;
+            today.SetDay(1);
+            while (today.GetDayOfWeek() != LocaleUtils::GetFirstDayOfWeek())
+                today.AddDays(-1);
+            today.AddDays(-1);
+            for (int nCell = -1; nCell <= 42; ++nCell, today.AddDays(1)) {
+                Clock::SetToday(today.GetYear(), today.GetMonth(), today.GetDay());
+                calendar->DetermineSpecialDays();
+                ASSERT_EQ(calendar->m_nTodayCell, nCell == 42 ? -1 : nCell) << strLocale << ToText(today);
+            }
+        }
+    }
+    EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
+}
+
+TEST_F(LayoutTest, SpecialDaysStandInTheirCells)
+{
+    Start();
+    HideNationalDays();
+    AddSpecialDay("Last", 28, 6, RGB(9, 8, 7)); // in the first row of July
+    AddSpecialDay("First", 1, 7, 0xFFFFFF);
+    AddSpecialDay("Next", 8, 8, RGB(1, 2, 3)); // in the last cell
+    calendar->DetermineSpecialDays();
+    for (int nCell = 0; nCell < 42; ++nCell) {
+        const char* const strDesc = nCell == 0 ? "Last" : nCell == 3 ? "First" : nCell == 41 ? "Next" : "";
+        const COLORREF cr = nCell == 0 ? RGB(9, 8, 7) : nCell == 41 ? RGB(1, 2, 3) : 0xFFFFFF;
+        EXPECT_EQ(calendar->m_vDayDescs[static_cast<size_t>(nCell)], strDesc) << nCell;
+        EXPECT_EQ(calendar->m_vDayColors[static_cast<size_t>(nCell)], cr) << nCell;
+    }
+    calendar->m_date = DateTime();
+    calendar->DetermineSpecialDays();
+    EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
+    EXPECT_THAT(calendar->m_vDayColors, Each(0xFFFFFFu));
+    EXPECT_EQ(calendar->m_nTodayCell, -1);
+}
+
+// The calendar has no 5 to 14 October 1582, and no day before the first or after the last.
+TEST_F(LayoutTest, OddMonthsDoNoHarm)
+{
+    Start();
+    for (const DateTime& date : {Date(1582, 10, 4), Date(1582, 10, 15), Date(1, 1, 1), Date(9999, 12, 31)}) {
+        Show(date, true);
+        for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
+            Show(date, true);
+            Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint());
+            EXPECT_TRUE(calendar->m_date.IsValid());
+        }
+    }
+}

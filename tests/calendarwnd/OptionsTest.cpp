@@ -1,0 +1,226 @@
+#include "CalendarFixture.h"
+
+#include <Clock.h>
+#include <ImageMenu.h>
+#include <resource.h>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+// The items of a menu, with 0 for a separator.
+std::vector<UINT> GetIds(HMENU hMenu)
+{
+    std::vector<UINT> ids;
+    for (int i = 0; i < ::GetMenuItemCount(hMenu); ++i)
+        ids.push_back(::GetMenuItemID(hMenu, i));
+    return ids;
+}
+
+// A menu of the given items, with 0 for a separator.
+void Append(CMenu& menu, const std::vector<UINT>& ids)
+{
+    menu.CreatePopupMenu();
+    for (const UINT nId : ids)
+        menu.AppendMenu(nId == 0 ? MF_SEPARATOR : MF_STRING, nId, nId == 0 ? nullptr : "Item");
+}
+
+const std::vector<UINT> kRanges = {42032, 42034, 42046, 42043, 42048, 42045, 42033, 42047, 42044,
+                                   42042, 42035, 42036, 42037, 42038, 42039, 42040, 42041};
+
+std::vector<UINT> WithRanges(std::vector<UINT> ids)
+{
+    ids.insert(ids.end(), kRanges.begin(), kRanges.end());
+    return ids;
+}
+
+}
+
+class OptionsTest : public CalendarTest
+{
+protected:
+    struct Range
+    {
+        DateTime today;
+        DateTime shown;
+        UINT nCommand;
+        DateTime first;
+        DateTime last;
+    };
+
+    void Check(const Range& range)
+    {
+        SCOPED_TRACE(std::to_string(range.nCommand) + " shown " + ToText(range.shown) + " on " +
+                     ToText(range.today));
+        Clock::SetToday(range.today.GetYear(), range.today.GetMonth(), range.today.GetDay());
+        Show(range.shown, false);
+        parent.m_heard.clear();
+        Command(range.nCommand);
+        ASSERT_EQ(parent.m_heard.size(), 2u);
+        EXPECT_EQ(NameOf(parent.m_heard[0]), "SELCHANGE 1");
+        EXPECT_EQ(parent.m_heard[1].nMessage, CCalendarWnd::CALWND_DATERANGE_CHANGED);
+        EXPECT_EQ(parent.m_heard[1].wParam, kCalendarId);
+        for (const Heard& heard : parent.m_heard)
+            EXPECT_EQ(ToText(heard.date), ToText(range.first));
+        EXPECT_EQ(ToText(parent.m_heard[1].dtEnd), ToText(range.last));
+        EXPECT_TRUE(calendar->m_bHaveDate);
+    }
+};
+
+TEST_F(OptionsTest, MenuForms)
+{
+    Start();
+    const std::vector<UINT> copyAndPrint = {42030, 42031, 0, 42050};
+    struct
+    {
+        bool bWebPage, bRanges;
+        std::vector<UINT> ids;
+    } const cases[] = {
+        {true, true, WithRanges({42030, 42031, 0, 42050, 42049, 0})},
+        {false, true, WithRanges({42030, 42031, 0, 42050, 0})},
+        {true, false, {42030, 42031, 0, 42050, 42049}},
+        {false, false, {42030, 42031, 0, 42050}},
+    };
+    for (const auto& c : cases) {
+        CImageMenu menu;
+        const std::unique_ptr<CImageMenu> popup(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, calendar.get()));
+        ASSERT_TRUE(popup);
+        calendar->m_bAllowWebPage = c.bWebPage;
+        calendar->m_bAllowDateRanges = c.bRanges;
+        calendar->FilterOptionsMenu(popup->m_hMenu);
+        EXPECT_EQ(GetIds(popup->m_hMenu), c.ids);
+    }
+}
+
+TEST_F(OptionsTest, SeparatorsAreTidied)
+{
+    Start();
+    const std::pair<std::vector<UINT>, std::vector<UINT>> cases[] = {{{0, 0, 1, 0, 0, 0, 2, 0, 0}, {1, 0, 2}},
+                                                                     {{0, 0}, {}},
+                                                                     {{}, {}},
+                                                                     {{1}, {1}},
+                                                                     {{0, 1}, {1}},
+                                                                     {{1, 0}, {1}}};
+    for (const auto& [before, after] : cases) {
+        CMenu menu;
+        Append(menu, before);
+        calendar->FilterOptionsMenu(menu);
+        EXPECT_EQ(GetIds(menu), after);
+    }
+
+    // The number of a popup's items stands where an item's state has the separator's bit.
+    CMenu menu, popup;
+    Append(menu, {1});
+    Append(popup, {1, 2, 3, 4, 5, 6, 7, 8});
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), "Popup");
+    calendar->FilterOptionsMenu(menu);
+    EXPECT_EQ(::GetMenuItemCount(menu), 2);
+}
+
+TEST_F(OptionsTest, ItemsAreEnabledByDateAndFlag)
+{
+    Start();
+    for (const bool bValid : {false, true}) {
+        calendar->m_date = bValid ? Date(2026, 7, 15) : DateTime();
+        calendar->m_bAllowWebPage = bValid;
+        CImageMenu menu;
+        const std::unique_ptr<CImageMenu> popup(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, calendar.get()));
+        ASSERT_TRUE(popup);
+        for (const UINT nId : {42030u, 42031u, 42049u})
+            EXPECT_EQ((::GetMenuState(popup->m_hMenu, nId, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0,
+                      bValid);
+        EXPECT_EQ(::GetMenuState(popup->m_hMenu, 42050, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED), 0u);
+    }
+}
+
+TEST_F(OptionsTest, RangesOfTheYear)
+{
+    Start();
+    const DateTime elsewhere = Date(2020, 2, 29);
+    const Range ranges[] = {
+        {Date(2026, 5, 31), elsewhere, 42032, Date(2026, 5, 1), Date(2026, 5, 31)},
+        {Date(2024, 2, 29), elsewhere, 42032, Date(2024, 2, 1), Date(2024, 2, 29)},
+        {Date(2026, 2, 28), elsewhere, 42034, Date(2026, 1, 1), Date(2026, 12, 31)},
+        {elsewhere, Date(2026, 3, 31), 42046, Date(2026, 2, 1), Date(2026, 2, 28)},
+        {elsewhere, Date(2026, 1, 31), 42046, Date(2025, 12, 1), Date(2025, 12, 31)},
+        {elsewhere, Date(2024, 1, 31), 42043, Date(2024, 2, 1), Date(2024, 2, 29)},
+        {elsewhere, Date(2025, 12, 5), 42043, Date(2026, 1, 1), Date(2026, 1, 31)},
+        {elsewhere, Date(2024, 2, 29), 42048, Date(2023, 1, 1), Date(2023, 12, 31)},
+        {elsewhere, Date(2024, 2, 29), 42045, Date(2025, 1, 1), Date(2025, 12, 31)},
+        {Date(2026, 5, 31), elsewhere, 42033, Date(2026, 4, 1), Date(2026, 6, 30)},
+        {elsewhere, Date(2021, 2, 14), 42047, Date(2021, 10, 1), Date(2021, 12, 31)}, // of the same year
+        {elsewhere, Date(2021, 11, 30), 42044, Date(2021, 1, 1), Date(2021, 3, 31)},
+        {elsewhere, DateTime(), 42046, Date(2020, 1, 1), Date(2020, 1, 31)}, // today where no date is shown
+        {elsewhere, DateTime(), 42045, Date(2021, 1, 1), Date(2021, 12, 31)},
+    };
+    for (const Range& range : ranges)
+        Check(range);
+}
+
+TEST_F(OptionsTest, QuarterOfEachMonth)
+{
+    Start();
+    const int current[] = {1, 4, 7, 10}, previous[] = {10, 1, 4, 7}, next[] = {4, 7, 10, 1};
+    const auto check = [this](UINT nCommand, int nMonth, int nFirst) {
+        DateTime base = Date(2024, nMonth, 1), last = Date(2024, nFirst + 2, 1);
+        base.SetToLastDay();
+        last.SetToLastDay();
+        Check({base, base, nCommand, Date(2024, nFirst, 1), last});
+    };
+    for (int nMonth = 1; nMonth <= 12; ++nMonth) {
+        const int nQuarter = (nMonth - 1) / 3;
+        check(42033, nMonth, current[nQuarter]);
+        check(42047, nMonth, previous[nQuarter]);
+        check(42044, nMonth, next[nQuarter]);
+    }
+}
+
+TEST_F(OptionsTest, LastWeeks)
+{
+    Start();
+    const UINT commands[] = {42042, 42035, 42036, 42037, 42038, 42039, 42040, 42041};
+    for (const DateTime& today : {Date(2026, 7, 15), Date(2024, 3, 1), Date(2026, 1, 3)})
+        for (int nWeeks = 1; nWeeks <= 8; ++nWeeks) {
+            DateTime first = today;
+            first.AddDays(-(7 * nWeeks - 1));
+            Check({today, Date(2020, 2, 29), commands[nWeeks - 1], first, today});
+        }
+}
+
+// Next month at the end of the range leads to no date: the parent hears of the range alone.
+TEST_F(OptionsTest, RangeOutOfTheRange)
+{
+    Start();
+    Show(Date(9999, 12, 31), true);
+    Command(42043);
+    EXPECT_THAT(TakeHeard(), ElementsAre("RANGE 0"));
+    EXPECT_FALSE(calendar->m_bHaveDate);
+    EXPECT_EQ(ToText(calendar->m_date), "2026-7-15");
+}
+
+TEST_F(OptionsTest, CopyPutsTheDateOnTheClipboard)
+{
+    Start();
+    Show(Date(2026, 3, 9), false);
+    for (const bool bShort : {false, true}) {
+        Command(bShort ? 42031 : 42030);
+        ASSERT_TRUE(::OpenClipboard(calendar->m_hWnd));
+        const HANDLE hText = ::GetClipboardData(CF_TEXT);
+        ASSERT_NE(hText, nullptr);
+        const CString strText(static_cast<const char*>(::GlobalLock(hText)));
+        ::GlobalUnlock(hText);
+        ::CloseClipboard();
+        EXPECT_EQ(strText, DateTime::ConvertDateToText(Date(2026, 3, 9), false, false, false, bShort));
+        EXPECT_FALSE(strText.IsEmpty());
+    }
+    EXPECT_THAT(TakeHeard(), testing::IsEmpty());
+}
+
+TEST_F(OptionsTest, ButtonWithoutOptions)
+{
+    Start({.bShowOptions = false});
+    calendar->OnOptionsButton();
+    EXPECT_THAT(logger.m_lines, testing::IsEmpty());
+}

@@ -1,0 +1,202 @@
+#include "CalendarFixture.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kLine = RGB(0xC4, 0xC4, 0xC4);
+constexpr COLORREF kHeader = RGB(0xF9, 0xF4, 0x9B);
+constexpr COLORREF kToday = RGB(0xFF, 0xD9, 0xB3);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kGray = RGB(0x80, 0x80, 0x80);
+
+}
+
+class PaintingTest : public CalendarTest
+{
+protected:
+    void SetUp() override
+    {
+        Start();
+        HideNationalDays();
+        calendar->RefreshMonth();
+    }
+
+    // The colours of the corner pixels of the frame around a cell's text rectangle.
+    void ExpectFrame(const CRect& rc, COLORREF cr)
+    {
+        const Picture picture(*calendar);
+        EXPECT_EQ(picture.At(rc.left - 3, rc.top - 1), cr);
+        EXPECT_EQ(picture.At(rc.right, rc.top - 1), cr);
+        EXPECT_EQ(picture.At(rc.left - 3, rc.bottom), cr);
+        EXPECT_EQ(picture.At(rc.right, rc.bottom), cr);
+        EXPECT_EQ(picture.At(rc.right, rc.CenterPoint().y), cr);
+    }
+    CRect GetInner(int nCell) const { return calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)); }
+    CString GetTip(UINT_PTR nId) const
+    {
+        CString strTip;
+        calendar->m_toolTip.GetText(strTip, calendar.get(), nId);
+        return strTip;
+    }
+};
+
+TEST_F(PaintingTest, LinesAndBands)
+{
+    Show(Date(2026, 1, 15), false);
+    const Picture picture(*calendar);
+    const CRect& grid = calendar->m_rcGrid;
+    for (const int x : {0, 1, 150, kWidth - 1}) {
+        EXPECT_EQ(picture.At(x, grid.top), kLine);
+        EXPECT_EQ(picture.At(x, grid.bottom - 1), kLine);
+        EXPECT_EQ(picture.At(x, grid.bottom - 2),
+                  x == 1 || x == 0 || x == 150 || x == kWidth - 1 ? kWhite : kLine);
+    }
+    for (size_t i = 1; i < 7; ++i) {
+        EXPECT_EQ(picture.At(0, calendar->m_vRowEdges[i]), kLine);
+        EXPECT_EQ(picture.At(kWidth - 1, calendar->m_vRowEdges[i]), kLine);
+        EXPECT_EQ(picture.At(calendar->m_vColumnEdges[i], grid.top + 1), kLine);
+        EXPECT_EQ(picture.At(calendar->m_vColumnEdges[i], grid.bottom - 2), kLine);
+        EXPECT_EQ(picture.At(calendar->m_vColumnEdges[i] + 1, grid.bottom - 2), kWhite);
+    }
+    EXPECT_EQ(picture.At(0, grid.top + 1), kHeader);
+    EXPECT_EQ(picture.At(0, calendar->m_vRowEdges[1] - 1), kHeader);
+    EXPECT_EQ(picture.At(kWidth - 1, calendar->m_vRowEdges[1] - 1), kHeader);
+    EXPECT_EQ(picture.At(0, calendar->m_vRowEdges[1] + 1), kWhite);
+    for (int c = 1; c <= 7; ++c)
+        EXPECT_LT(picture.Darkest(calendar->GetCellRect({1, c})), 100) << "name of day " << c;
+}
+
+TEST_F(PaintingTest, NumbersOfThreeMonths)
+{
+    Show(Date(2026, 5, 20), false);
+    const Picture picture(*calendar);
+    const auto shape = MonthBlock::ShapeOf(calendar->m_date);
+    for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
+        const int nDarkest = picture.Darkest(GetInner(nCell));
+        if (MonthBlock::CellAt(*shape, nCell).month == MonthBlock::Month::Shown)
+            EXPECT_LT(nDarkest, 100) << nCell;
+        else
+            EXPECT_TRUE(nDarkest >= 0xC4 && nDarkest < 0xF0) << nCell << ": " << nDarkest;
+    }
+    EXPECT_EQ(calendar->m_nFirstDayColumn, 6);
+}
+
+// Today keeps its highlight, also as a day of a neighbouring month, and the frame has the same outline.
+TEST_F(PaintingTest, TodayAndFrame)
+{
+    Show(Date(2026, 7, 15), true);
+    CRect rc = GetInner(calendar->m_nTodayCell);
+    EXPECT_EQ(calendar->m_rcSelection, rc);
+    EXPECT_EQ(calendar->m_rcToday, CRect(rc.left - 3, rc.top - 1, rc.right + 1, rc.bottom + 1));
+    ExpectFrame(rc, kBlack);
+    EXPECT_EQ(Picture(*calendar).At(rc.right - 3, rc.bottom - 3), kToday);
+
+    Key(VK_RIGHT); // the frame leaves, the highlight stays whole
+    ExpectFrame(rc, kToday);
+    ExpectFrame(GetInner(calendar->m_nTodayCell + 1), kBlack);
+    Key(VK_RIGHT);
+    ExpectFrame(GetInner(calendar->m_nTodayCell + 1), kWhite);
+    EXPECT_EQ(GetInvalid(), CRect());
+
+    Show(Date(2026, 7, 15), true);
+    Command(2605); // white on every cell
+    ExpectFrame(rc, kWhite);
+
+    calendar->m_date = Date(2026, 6, 1);
+    Show(Date(2026, 8, 1), false); // 15 July is outside
+    EXPECT_EQ(calendar->m_nTodayCell, -1);
+    EXPECT_EQ(calendar->m_rcToday.TopLeft(), CPoint(rc.left - 3, rc.top - 1)); // keeps what was painted last
+}
+
+TEST_F(PaintingTest, FrameFollowsTheFocus)
+{
+    Show(Date(2026, 7, 8), true);
+    const CRect rc = calendar->m_rcSelection;
+    ExpectFrame(rc, kBlack);
+    calendar->m_pTodayButton->SetFocus();
+    EXPECT_EQ(GetInvalid(), CRect(rc.left - 2, rc.top, rc.right, rc.bottom));
+    Repaint();
+    ExpectFrame(rc, kGray);
+    calendar->SetFocus(); // at once
+    ExpectFrame(rc, kBlack);
+    EXPECT_EQ(GetInvalid(), CRect(rc.left - 2, rc.top, rc.right, rc.bottom));
+
+    Show(Date(2026, 7, 8), false);
+    ExpectFrame(rc, kWhite);
+    EXPECT_EQ(calendar->m_rcSelection, rc);
+    calendar->m_pTodayButton->SetFocus();
+    Repaint();
+    calendar->SetFocus();
+    ExpectFrame(rc, kWhite);
+}
+
+TEST_F(PaintingTest, DotsAndTips)
+{
+    AddSpecialDay("Before", 28, 6, RGB(200, 10, 20));
+    AddSpecialDay("Salt & pepper", 4, 7, RGB(10, 120, 220));
+    AddSpecialDay("Second", 4, 7, RGB(10, 120, 220));
+    AddSpecialDay("White", 20, 7, kWhite);
+    for (int nPaint = 1; nPaint <= 3; ++nPaint) {
+        Show(Date(2026, 7, 9), true);
+        EXPECT_EQ(calendar->m_nNextToolId, 4u);
+        EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 3);
+        EXPECT_EQ(GetTip(1), "Before");
+        EXPECT_EQ(GetTip(2), "Salt && pepper && Second");
+        EXPECT_EQ(GetTip(3), "White");
+    }
+    const Picture picture(*calendar);
+    const std::pair<int, COLORREF> dots[] = {
+        {0, RGB(200, 10, 20)}, {6, RGB(10, 120, 220)}, {22, kWhite}, {23, kWhite}};
+    for (const auto& [nCell, cr] : dots) {
+        const CRect rc = GetInner(nCell);
+        const CPoint center(rc.right - 12 + 5, rc.top + 2 + 5);
+        EXPECT_EQ(picture.At(center.x, center.y), cr) << nCell;
+        EXPECT_EQ(picture.At(center.x - 3, center.y), cr) << nCell;
+        EXPECT_EQ(picture.At(center.x, center.y - 3), cr) << nCell;
+        EXPECT_EQ(picture.At(rc.right - 12, rc.top + 2), kWhite) << "corner of " << nCell;
+        EXPECT_EQ(picture.At(center.x, rc.top), kWhite) << "above " << nCell;
+    }
+
+    // No date is looked up for a paint: the tables stay as they were found.
+    calendar->m_settings.SetAllShow(CalendarSettings::GroupCustom, false);
+    AddSpecialDay("New", 21, 7, RGB(1, 1, 1));
+    Repaint();
+    EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 3);
+    EXPECT_EQ(GetTip(3), "White");
+
+    Show(Date(2026, 1, 9), true);
+    EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 0);
+    EXPECT_EQ(calendar->m_nNextToolId, 1u);
+}
+
+TEST_F(PaintingTest, WithoutADateTheGridIsEmpty)
+{
+    AddSpecialDay("Tip", 4, 7, RGB(10, 120, 220));
+    Show(Date(2026, 7, 9), true);
+    const int nColumn = calendar->m_nFirstDayColumn;
+    Show(DateTime(), true);
+    const Picture picture(*calendar);
+    EXPECT_EQ(picture.Darkest(calendar->GetCellRect({1, 4})), GetGValue(kHeader));
+    for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell)
+        EXPECT_EQ(picture.Darkest(GetInner(nCell)), 255) << nCell;
+    EXPECT_EQ(calendar->m_rcSelection, CRect());
+    EXPECT_EQ(calendar->m_nFirstDayColumn, nColumn);
+    EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 1);
+}
+
+TEST_F(PaintingTest, WithoutSpecialDatesThereAreNoTools)
+{
+    calendar = std::make_unique<TestCalendar>();
+    parent.m_pCalendar = calendar.get();
+    Start({.bUseSpecialDates = false});
+    AddSpecialDay("Tip", 4, 7, RGB(10, 120, 220));
+    Show(Date(2026, 7, 9), true);
+    EXPECT_EQ(calendar->m_nNextToolId, 0u);
+    const CRect rc = GetInner(6);
+    EXPECT_EQ(Picture(*calendar).At(rc.right - 7, rc.top + 7), kWhite);
+    ExpectFrame(calendar->m_rcSelection, kBlack);
+}
