@@ -89,8 +89,9 @@
 #define PHYSICALOFFSETX 112
 #define PHYSICALOFFSETY 113
 
-// Mapping modes: a logical unit is always a pixel.
+// Mapping modes: a logical unit is a pixel, or what the extents of window and viewport say.
 #define MM_TEXT 1
+#define MM_ANISOTROPIC 8
 
 // Bitmaps.
 #define BI_RGB 0
@@ -279,6 +280,8 @@ WINGDIAPI BOOL RestoreDC(HDC dc, int level);
 WINGDIAPI int GetDeviceCaps(HDC dc, int index);
 WINGDIAPI int SetMapMode(HDC dc, int mode);
 WINGDIAPI int GetMapMode(HDC dc);
+WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old);
+WINGDIAPI BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old);
 WINGDIAPI BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL GetViewportOrgEx(HDC dc, POINT* origin);
 WINGDIAPI BOOL OffsetViewportOrgEx(HDC dc, int x, int y, POINT* old);

@@ -36,19 +36,19 @@ QRectF toPixels(const QRect& rect, qreal devicePixelRatio)
 
 QPoint toPixel(const Context& context, int x, int y)
 {
-    const QPointF point = QPointF(QPoint(x, y) + context.toSurface()) * context.image()->devicePixelRatio();
-    return point.toPoint();
+    const QPointF point = context.toDevice().map(QPointF(x, y)) + context.origin();
+    return (point * context.image()->devicePixelRatio()).toPoint();
 }
 
 bool isVisible(const Context& context, int x, int y)
 {
-    return context.image() && context.drawable().contains(QPoint(x, y) + context.toDevice());
+    return context.image() && context.drawable().contains(context.toDevice().map(QPoint(x, y)));
 }
 
 // The part that a copy can be taken from, in logical coordinates.
 QRect available(const Context& context)
 {
-    return context.visible().boundingRect().translated(-context.toDevice());
+    return context.toDevice().inverted().mapRect(context.visible().boundingRect());
 }
 
 // Larger bitmaps are refused, as by a system that is out of memory.
@@ -126,7 +126,8 @@ BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int
     if (!painter)
         return TRUE;
     // A copy of the part, since source and target may be one image.
-    const QRectF wanted = toPixels(part.translated(source->toSurface()), source->image()->devicePixelRatio());
+    const QRect onSurface = source->toDevice().mapRect(part).translated(source->origin());
+    const QRectF wanted = toPixels(onSurface, source->image()->devicePixelRatio());
     const QImage pixels = source->image()->copy(wanted.toRect());
     painter->drawImage(QRectF(area), pixels, QRectF(pixels.rect()));
     return TRUE;

@@ -136,7 +136,7 @@ int IntersectClipRect(HDC dc, int left, int top, int right, int bottom)
     const auto context = findContext(dc);
     if (!context)
         return ERROR;
-    const QRegion rect = fromSides(left, top, right, bottom).translated(context->toDevice());
+    const QRegion rect = context->toDevice().map(fromSides(left, top, right, bottom));
     return setClip(*context, context->state.clip.value_or(context->visible()) & rect);
 }
 
@@ -145,7 +145,7 @@ int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom)
     const auto context = findContext(dc);
     if (!context)
         return ERROR;
-    const QRegion rect = fromSides(left, top, right, bottom).translated(context->toDevice());
+    const QRegion rect = context->toDevice().map(fromSides(left, top, right, bottom));
     return setClip(*context, context->state.clip.value_or(context->visible()) - rect);
 }
 
@@ -155,18 +155,18 @@ int GetClipBox(HDC dc, RECT* box)
     if (!context || !box)
         return ERROR;
     const QRegion drawable = context->drawable();
-    *box = toRect(drawable.boundingRect().translated(-context->toDevice()));
+    *box = toRect(context->toDevice().inverted().mapRect(drawable.boundingRect()));
     return kindOf(drawable);
 }
 
 BOOL RectVisible(HDC dc, const RECT* rect)
 {
     const auto context = findContext(dc);
-    return context && rect && context->drawable().intersects(toQRect(*rect).translated(context->toDevice()));
+    return context && rect && context->drawable().intersects(context->toDevice().mapRect(toQRect(*rect)));
 }
 
 BOOL PtVisible(HDC dc, int x, int y)
 {
     const auto context = findContext(dc);
-    return context && context->drawable().contains(QPoint(x, y) + context->toDevice());
+    return context && context->drawable().contains(context->toDevice().map(QPoint(x, y)));
 }

@@ -36,8 +36,11 @@ struct DrawingState
     int backgroundMode = OPAQUE;
     UINT textAlign = TA_LEFT | TA_TOP;
     QPoint position; // logical
+    int mapMode = MM_TEXT;
     QPoint windowOrigin;
     QPoint viewportOrigin;
+    QSize windowExtent{1, 1};    // so many logical units are as long as
+    QSize viewportExtent{1, 1};  // so many pixels
     std::optional<QRegion> clip; // device units; none: all that is visible
 };
 
@@ -63,9 +66,11 @@ public:
     void selectBitmap(const Selected<Bitmap>& bitmap);
     void restore(int level);
 
-    // Logical units to device units (the origin of the context is device 0, 0) and to pixels of the surface.
-    QPoint toDevice() const { return state.viewportOrigin - state.windowOrigin; }
-    QPoint toSurface() const { return m_origin + toDevice(); }
+    // From logical units to device units (the origin of the context is device 0, 0), and on to the surface.
+    QTransform toDevice() const;
+    QPoint origin() const { return m_origin; }
+    // Device units a logical unit.
+    QSizeF scale() const;
 
     // Where drawing shows, in device units.
     QRegion drawable() const;

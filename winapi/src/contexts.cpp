@@ -139,16 +139,28 @@ void Context::restore(int level)
         applyBitmap();
 }
 
+QSizeF Context::scale() const
+{
+    return {qreal(state.viewportExtent.width()) / state.windowExtent.width(),
+            qreal(state.viewportExtent.height()) / state.windowExtent.height()};
+}
+
+QTransform Context::toDevice() const
+{
+    return QTransform::fromTranslate(state.viewportOrigin.x(), state.viewportOrigin.y())
+        .scale(scale().width(), scale().height())
+        .translate(-state.windowOrigin.x(), -state.windowOrigin.y());
+}
+
 QRegion Context::drawable() const
 {
     return state.clip ? visible() & *state.clip : visible();
 }
 
 ContextPainter::ContextPainter(Context& context, const QRect& touched)
-    : m_context(context), m_touched(touched.translated(context.toSurface()))
+    : m_context(context), m_touched(context.toDevice().mapRect(touched).translated(context.origin()))
 {
-    const QPoint origin = context.toSurface() - context.toDevice();
-    const QRegion clip = context.drawable().translated(origin);
+    const QRegion clip = context.drawable().translated(context.origin());
     m_touched &= clip.boundingRect();
     if (m_touched.isEmpty())
         return;
@@ -159,7 +171,8 @@ ContextPainter::ContextPainter(Context& context, const QRect& touched)
     }
     m_painter->save();
     m_painter->setClipRegion(clip);
-    m_painter->translate(context.toSurface());
+    m_painter->translate(context.origin());
+    m_painter->setTransform(context.toDevice(), true);
 }
 
 ContextPainter::~ContextPainter()
@@ -212,12 +225,29 @@ BOOL readOrigin(HDC dc, QPoint DrawingState::*member, POINT* origin)
     return TRUE;
 }
 
-void translatePoints(POINT* points, int count, QPoint offset)
+void mapPoints(POINT* points, int count, const QTransform& transform)
 {
-    std::for_each_n(points, std::max(count, 0), [offset](POINT& point) {
-        point.x += offset.x();
-        point.y += offset.y();
+    std::for_each_n(points, std::max(count, 0), [&transform](POINT& point) {
+        const QPoint mapped = transform.map(QPointF(point.x, point.y)).toPoint();
+        point = {mapped.x(), mapped.y()};
     });
+}
+
+BOOL setExtent(HDC dc, QSize DrawingState::*member, QSize extent, SIZE* old)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return FALSE;
+    const QSize before = context->state.*member;
+    if (old)
+        *old = {before.width(), before.height()};
+    // With pixels as units the extents are fixed, which is no failure.
+    if (context->state.mapMode != MM_ANISOTROPIC)
+        return TRUE;
+    if (extent.width() == 0 || extent.height() == 0)
+        return FALSE;
+    context->state.*member = extent;
+    return TRUE;
 }
 
 int screenCapability(int index)
@@ -312,12 +342,27 @@ int GetDeviceCaps(HDC dc, int index)
 
 int SetMapMode(HDC dc, int mode)
 {
-    return findContext(dc) && mode == MM_TEXT ? MM_TEXT : 0;
+    const auto context = findContext(dc);
+    if (!context || (mode != MM_TEXT && mode != MM_ANISOTROPIC))
+        return 0;
+    if (mode == MM_TEXT)
+        context->state.windowExtent = context->state.viewportExtent = {1, 1};
+    return std::exchange(context->state.mapMode, mode);
+}
+
+BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old)
+{
+    return setExtent(dc, &DrawingState::windowExtent, {width, height}, old);
+}
+
+BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old)
+{
+    return setExtent(dc, &DrawingState::viewportExtent, {width, height}, old);
 }
 
 int GetMapMode(HDC dc)
 {
-    return findContext(dc) ? MM_TEXT : 0;
+    return readState(dc, &DrawingState::mapMode, 0);
 }
 
 BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old)
@@ -351,7 +396,7 @@ BOOL LPtoDP(HDC dc, POINT* points, int count)
     const auto context = findContext(dc);
     if (!context)
         return FALSE;
-    translatePoints(points, count, context->toDevice());
+    mapPoints(points, count, context->toDevice());
     return TRUE;
 }
 
@@ -360,7 +405,7 @@ BOOL DPtoLP(HDC dc, POINT* points, int count)
     const auto context = findContext(dc);
     if (!context)
         return FALSE;
-    translatePoints(points, count, -context->toDevice());
+    mapPoints(points, count, context->toDevice().inverted());
     return TRUE;
 }
 

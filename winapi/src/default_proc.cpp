@@ -130,6 +130,7 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEACTIVATE:
         return mouseActivate(*window, wParam, lParam);
     case WM_CANCELMODE:
+        EndMenu();
         if (GetCapture() == handle)
             ReleaseCapture();
         return 0;

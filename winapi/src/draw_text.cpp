@@ -55,23 +55,23 @@ QStringList splitLines(QString text, UINT format)
 }
 
 // How much of `text` goes on a line of `width`: up to the last blank that fits, but at least one word.
-qsizetype breakPosition(const QString& text, const QFontMetrics& metrics, int width)
+qsizetype breakPosition(const QString& text, const TextMeasure& measure, int width)
 {
     qsizetype best = -1;
     for (qsizetype blank = text.indexOf(u' '); blank >= 0; blank = text.indexOf(u' ', blank + 1)) {
-        if (best >= 0 && metrics.horizontalAdvance(text.left(blank)) > width)
+        if (best >= 0 && measure.width(text.left(blank)) > width)
             return best;
         best = blank;
     }
-    return best >= 0 && metrics.horizontalAdvance(text) > width ? best : text.size();
+    return best >= 0 && measure.width(text) > width ? best : text.size();
 }
 
-QStringList breakLines(const QStringList& lines, const QFontMetrics& metrics, int width)
+QStringList breakLines(const QStringList& lines, const TextMeasure& measure, int width)
 {
     QStringList broken;
     for (QString rest : lines) {
-        for (qsizetype end = breakPosition(rest, metrics, width); end < rest.size();
-             end = breakPosition(rest, metrics, width)) {
+        for (qsizetype end = breakPosition(rest, measure, width); end < rest.size();
+             end = breakPosition(rest, measure, width)) {
             broken += rest.left(end);
             rest = rest.mid(end + 1);
         }
@@ -80,32 +80,31 @@ QStringList breakLines(const QStringList& lines, const QFontMetrics& metrics, in
     return broken;
 }
 
-void shorten(Line& line, const QFontMetrics& metrics, int width)
+void shorten(Line& line, const TextMeasure& measure, int width)
 {
-    if (metrics.horizontalAdvance(line.text) <= width)
+    if (measure.width(line.text) <= width)
         return;
     static const QString dots = "...";
     qsizetype kept = line.text.size();
-    while (kept > 0 && metrics.horizontalAdvance(line.text.left(kept) + dots) > width)
+    while (kept > 0 && measure.width(line.text.left(kept) + dots) > width)
         --kept;
     line.text = line.text.left(kept) + dots;
     if (line.underlined >= kept)
         line.underlined = -1;
 }
 
-Layout layOut(const QString& text, UINT format, const QFontMetrics& metrics, int width)
+Layout layOut(const QString& text, UINT format, const TextMeasure& measure, int width)
 {
     QStringList texts = splitLines(text, format);
     if ((format & DT_WORDBREAK) && !(format & DT_SINGLELINE))
-        texts = breakLines(texts, metrics, width);
+        texts = breakLines(texts, measure, width);
     Layout layout;
-    layout.lineHeight =
-        lineHeight(metrics) + (format & DT_EXTERNALLEADING ? std::max(0, metrics.leading()) : 0);
+    layout.lineHeight = measure.height() + (format & DT_EXTERNALLEADING ? measure.leading() : 0);
     for (const QString& one : texts) {
         Line line = makeLine(one, format);
         if (format & DT_END_ELLIPSIS)
-            shorten(line, metrics, width);
-        line.width = metrics.horizontalAdvance(line.text);
+            shorten(line, measure, width);
+        line.width = measure.width(line.text);
         layout.width = std::max(layout.width, line.width);
         layout.lines.push_back(std::move(line));
     }
@@ -131,20 +130,20 @@ int textTop(const Layout& layout, const RECT& rect, UINT format)
 
 void underline(QPainter& painter, const Context& context, QPoint position, const Line& line)
 {
-    const QFontMetrics metrics = metricsOf(context);
-    const int left = position.x() + metrics.horizontalAdvance(line.text.left(line.underlined));
-    const int width = metrics.horizontalAdvance(line.text[line.underlined]);
-    const int top = position.y() + metrics.ascent() + metrics.underlinePos();
-    painter.fillRect(left, top, width, std::max(1, metrics.lineWidth()), toColor(context.state.textColor));
+    const TextMeasure measure(context);
+    const int left = position.x() + measure.width(line.text.left(line.underlined));
+    const int width = measure.width(line.text[line.underlined]);
+    const int top = position.y() + measure.ascent() + measure.underlinePosition();
+    painter.fillRect(left, top, width, measure.lineWidth(), toColor(context.state.textColor));
 }
 
 void drawLayout(Context& context, const Layout& layout, const RECT& rect, UINT format)
 {
-    const QFontMetrics metrics = metricsOf(context);
+    const TextMeasure measure(context);
     const int top = textTop(layout, rect, format);
     const QRect extent(rect.left, top, rect.right - rect.left, layout.height());
     const int overhang = std::max(0, layout.width - extent.width());
-    const QRect touched = touchedByText(extent.adjusted(-overhang, 0, overhang, 0), metrics);
+    const QRect touched = touchedByText(extent.adjusted(-overhang, 0, overhang, 0), measure);
     ContextPainter painter(context, format & DT_NOCLIP ? touched : toQRect(rect));
     if (!painter)
         return;
@@ -171,8 +170,8 @@ int DrawTextA(HDC dc, LPCSTR text, int length, RECT* rect, UINT format)
     const auto context = findContext(dc);
     if (!context || !text || !rect || length < -1)
         return 0;
-    const QFontMetrics metrics = metricsOf(*context);
-    const Layout layout = layOut(toText(text, length), format, metrics, rect->right - rect->left);
+    const TextMeasure measure(*context);
+    const Layout layout = layOut(toText(text, length), format, measure, rect->right - rect->left);
     const int bottom = textTop(layout, *rect, format) + layout.height();
     const int height = bottom - rect->top;
     if (!(format & DT_CALCRECT)) {

@@ -71,7 +71,9 @@ MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
         item.subMenu = reinterpret_cast<HMENU>(id);
     else
         item.id = static_cast<UINT>(id);
-    if (!item.isSeparator() && text)
+    if (item.isSeparator())
+        item.state |= MF_GRAYED | MF_DISABLED;
+    else if (text)
         item.text = text;
     return item;
 }
@@ -177,9 +179,9 @@ BOOL InsertMenuA(HMENU handle, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
         return FALSE;
     if (flags & MF_BYPOSITION)
         return insertItem(handle, item, makeItem(flags, id, text));
-    const auto place = findItem(handle, item, flags);
+    const auto place = findById(menu, item);
     if (!place)
-        return FALSE;
+        return AppendMenuA(handle, flags, id, text);
     auto& items = place->menu->items;
     items.insert(items.begin() + static_cast<std::ptrdiff_t>(place->position), makeItem(flags, id, text));
     return TRUE;

@@ -94,8 +94,11 @@ private:
         return subMenu;
     }
 
-    void tellSelection(const QAction* action)
+    // Qt tells a menu of its submenus' items as well.
+    void tellSelection(QAction* action)
     {
+        if (!actions().contains(action))
+            return;
         const UINT flags = action->property("flags").toUInt() | MF_HILITE;
         m_showing.tell(WM_MENUSELECT, MAKEWPARAM(action->data().toUInt(), flags),
                        reinterpret_cast<LPARAM>(m_menu));
@@ -157,16 +160,94 @@ QPoint cornerFor(const QMenu& menu, UINT flags, QPoint place)
     return place;
 }
 
-void runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
+int toQtKey(WPARAM key)
+{
+    switch (key) {
+    case VK_UP:
+        return Qt::Key_Up;
+    case VK_DOWN:
+        return Qt::Key_Down;
+    case VK_LEFT:
+        return Qt::Key_Left;
+    case VK_RIGHT:
+        return Qt::Key_Right;
+    case VK_HOME:
+        return Qt::Key_Home;
+    case VK_END:
+        return Qt::Key_End;
+    case VK_RETURN:
+        return Qt::Key_Return;
+    case VK_ESCAPE:
+        return Qt::Key_Escape;
+    default:
+        return 0;
+    }
+}
+
+void sendKey(int key, const QString& text)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(QApplication::activePopupWidget(), &event);
+}
+
+// The keys of the message queue go to the menu while it is shown, wherever the focus is.
+bool takeKey(const MSG& message)
+{
+    if (message.message == WM_KEYDOWN) {
+        const int key = toQtKey(message.wParam);
+        if (key != 0)
+            sendKey(key, QString());
+        return key != 0;
+    }
+    const bool isLetter = message.message == WM_CHAR && message.wParam > ' ';
+    if (isLetter)
+        sendKey(0, QChar(static_cast<ushort>(message.wParam)));
+    return isLetter;
+}
+
+LRESULT filterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
+{
+    if (code >= 0 && QApplication::activePopupWidget() && takeKey(*reinterpret_cast<const MSG*>(lParam)))
+        return TRUE;
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+class MenuFilter
+{
+public:
+    MenuFilter() : m_hook(SetWindowsHookExA(WH_MSGFILTER, filterMenuMessage, nullptr, GetCurrentThreadId()))
+    {
+    }
+    ~MenuFilter() { UnhookWindowsHookEx(m_hook); }
+    MenuFilter(const MenuFilter&) = delete;
+    MenuFilter& operator=(const MenuFilter&) = delete;
+
+private:
+    HHOOK m_hook;
+};
+
+void show(PopupMenu& popup, UINT flags, QPoint place)
+{
+    const MenuFilter filter;
+    popup.exec(cornerFor(popup, flags, place));
+}
+
+// False when there is nothing to show.
+bool runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
 {
     PopupMenu popup(menu, showing);
     shown() = &popup;
     showing.tell(WM_ENTERMENULOOP, TRUE, 0);
     showing.tell(WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
     popup.prepare(0);
-    popup.exec(cornerFor(popup, flags, place));
+    const bool filled = !popup.isEmpty();
+    if (filled)
+        show(popup, flags, place);
+    else
+        showing.tell(WM_UNINITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0);
     showing.tell(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
     showing.tell(WM_EXITMENULOOP, TRUE, 0);
+    return filled;
 }
 
 }
@@ -190,8 +271,10 @@ BOOL TrackPopupMenuEx(HMENU menu, UINT flags, int x, int y, HWND owner, TPMPARAM
         return fail(ERROR_POPUP_ALREADY_ACTIVE);
     application();
     Showing showing{owner, (flags & TPM_NONOTIFY) != 0};
-    runMenu(menu, flags, {x, y}, showing);
+    const bool wasShown = runMenu(menu, flags, {x, y}, showing);
     SetLastError(ERROR_SUCCESS);
+    if (!wasShown)
+        return FALSE;
     if (flags & TPM_RETURNCMD)
         return static_cast<BOOL>(showing.chosen);
     if (showing.chosen != 0 && !showing.silent)

@@ -50,7 +50,8 @@ QFont::StyleHint styleHint(BYTE pitchAndFamily)
 int lineHeightAt(QFont font, int pixelSize)
 {
     font.setPixelSize(pixelSize);
-    return lineHeight(QFontMetrics(font));
+    const QFontMetrics metrics(font);
+    return metrics.ascent() + metrics.descent();
 }
 
 // The largest size of the letters at which a line is no higher than asked for.
@@ -72,6 +73,12 @@ void setHeight(QFont& font, LONG height)
         font.setPixelSize(pixelSizeForLine(font, height == 0 ? defaultHeight : height));
 }
 
+QFont scaledFont(QFont font, qreal scale)
+{
+    font.setPixelSize(std::max(1, qRound(font.pixelSize() * scale)));
+    return font;
+}
+
 // Text that is used to find the average width of a letter, as Windows does.
 const QString& alphabet()
 {
@@ -79,13 +86,13 @@ const QString& alphabet()
     return letters;
 }
 
-int averageWidth(const QFontMetrics& metrics)
+int averageWidth(const TextMeasure& measure)
 {
-    return (metrics.horizontalAdvance(alphabet()) / 26 + 1) / 2;
+    return (measure.width(alphabet()) / 26 + 1) / 2;
 }
 
 // The upper left corner of a line that is placed at `reference`, as the alignment says.
-QPoint aligned(QPoint reference, UINT align, int width, const QFontMetrics& metrics)
+QPoint aligned(QPoint reference, UINT align, int width, const TextMeasure& measure)
 {
     const UINT horizontal = align & TA_CENTER;
     if (horizontal == TA_CENTER)
@@ -94,9 +101,9 @@ QPoint aligned(QPoint reference, UINT align, int width, const QFontMetrics& metr
         reference.rx() -= width;
     const UINT vertical = align & TA_BASELINE;
     if (vertical == TA_BASELINE)
-        reference.ry() -= metrics.ascent();
+        reference.ry() -= measure.ascent();
     else if (vertical == TA_BOTTOM)
-        reference.ry() -= lineHeight(metrics);
+        reference.ry() -= measure.height();
     return reference;
 }
 
@@ -118,12 +125,12 @@ void fillBackground(Context& context, const RECT& rect)
 
 void placeText(Context& context, QPoint position, const QString& text, const QRect* clip)
 {
-    const QFontMetrics metrics = metricsOf(context);
-    const int width = metrics.horizontalAdvance(text);
+    const TextMeasure measure(context);
+    const int width = measure.width(text);
     const QPoint reference = context.state.textAlign & TA_UPDATECP ? context.state.position : position;
-    const QPoint corner = aligned(reference, context.state.textAlign, width, metrics);
+    const QPoint corner = aligned(reference, context.state.textAlign, width, measure);
     advancePosition(context.state, width);
-    ContextPainter painter(context, touchedByText(QRect(corner, QSize(width, lineHeight(metrics))), metrics));
+    ContextPainter painter(context, touchedByText(QRect(corner, QSize(width, measure.height())), measure));
     if (!painter)
         return;
     if (clip)
@@ -153,9 +160,15 @@ QFont toFont(const LOGFONTA& description)
     return font;
 }
 
-QFontMetrics metricsOf(const Context& context)
+TextMeasure::TextMeasure(const Context& context)
+    : m_scale(context.scale()), m_font(scaledFont(context.state.font->font, m_scale.height())),
+      m_metrics(m_font, &context.surface().device())
 {
-    return QFontMetrics(context.state.font->font, &context.surface().device());
+}
+
+int TextMeasure::width(const QString& text) const
+{
+    return qRound(m_metrics.horizontalAdvance(text) / m_scale.width());
 }
 
 QString toText(LPCSTR text, int length)
@@ -163,28 +176,27 @@ QString toText(LPCSTR text, int length)
     return text ? QString::fromUtf8(text, length).replace(u'\t', u' ') : QString();
 }
 
-int lineHeight(const QFontMetrics& metrics)
+QRect touchedByText(const QRect& area, const TextMeasure& measure)
 {
-    return metrics.ascent() + metrics.descent();
-}
-
-QRect touchedByText(const QRect& area, const QFontMetrics& metrics)
-{
-    const int overhang = lineHeight(metrics);
+    const int overhang = measure.height();
     return area.adjusted(-overhang, 0, overhang, 0);
 }
 
 void drawTextLine(QPainter& painter, const Context& context, QPoint position, const QString& text)
 {
     const DrawingState& state = context.state;
-    const QFontMetrics metrics = metricsOf(context);
+    const TextMeasure measure(context);
     if (state.backgroundMode == OPAQUE) {
-        const QSize extent(metrics.horizontalAdvance(text), lineHeight(metrics));
+        const QSize extent(measure.width(text), measure.height());
         painter.fillRect(QRect(position, extent), toColor(state.backgroundColor));
     }
-    painter.setFont(state.font->font);
+    painter.save();
+    painter.translate(position + QPoint(0, measure.ascent()));
+    painter.scale(1 / measure.scale().width(), 1 / measure.scale().height());
+    painter.setFont(measure.deviceFont());
     painter.setPen(toColor(state.textColor));
-    painter.drawText(position + QPoint(0, metrics.ascent()), text);
+    painter.drawText(QPoint(0, 0), text);
+    painter.restore();
 }
 
 }
@@ -216,8 +228,8 @@ BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size)
     const auto context = findContext(dc);
     if (!context || !size || length < 0 || (length > 0 && !text))
         return FALSE;
-    const QFontMetrics metrics = metricsOf(*context);
-    *size = length == 0 ? SIZE{} : SIZE{metrics.horizontalAdvance(toText(text, length)), lineHeight(metrics)};
+    const TextMeasure measure(*context);
+    *size = length == 0 ? SIZE{} : SIZE{measure.width(toText(text, length)), measure.height()};
     return TRUE;
 }
 
@@ -227,15 +239,15 @@ BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
     if (!context || !result)
         return FALSE;
     const QFont& font = context->state.font->font;
-    const QFontMetrics metrics = metricsOf(*context);
+    const TextMeasure measure(*context);
     *result = {};
-    result->tmHeight = lineHeight(metrics);
-    result->tmAscent = metrics.ascent();
-    result->tmDescent = metrics.descent();
+    result->tmHeight = measure.height();
+    result->tmAscent = measure.ascent();
+    result->tmDescent = measure.descent();
     result->tmInternalLeading = std::max(0, result->tmHeight - font.pixelSize());
-    result->tmExternalLeading = std::max(0, metrics.leading());
-    result->tmAveCharWidth = averageWidth(metrics);
-    result->tmMaxCharWidth = metrics.maxWidth();
+    result->tmExternalLeading = std::max(0, measure.leading());
+    result->tmAveCharWidth = averageWidth(measure);
+    result->tmMaxCharWidth = measure.maxWidth();
     result->tmWeight = font.weight();
     result->tmDigitizedAspectX = result->tmDigitizedAspectY = 96;
     result->tmFirstChar = 0x20;
