@@ -92,7 +92,7 @@ void DateEntry::Serialize(CArchive& archive)
 
     archive >> wForm;
     if (wForm != kFirstForm && wForm != kCurrentForm)
-        AfxThrowArchiveException(CArchiveException::badSchema);
+        AfxThrowArchiveException(CArchiveException::badSchema, archive.GetFile()->GetFilePath());
     m_bRuleFlag = false;
     m_nStartYear = 0;
     archive >> m_nRuleWord >> m_nKind;

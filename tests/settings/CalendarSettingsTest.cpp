@@ -1,0 +1,160 @@
+// The groups as one object, with the to-do list not in use.
+#include "DataDirectory.h"
+
+#include <CalendarSettings.h>
+
+#include <algorithm>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using enum CalendarSettings::Group;
+
+constexpr auto kNoGroup = static_cast<CalendarSettings::Group>(5);
+
+CalendarDateEntry* NewEntry(const char* szDesc, int nDay, int nMonth, DWORD dwColor)
+{
+    auto pEntry = std::make_unique<CalendarDateEntry>();
+    pEntry->SetDay(szDesc, nDay, nMonth);
+    pEntry->SetColor(dwColor);
+    return pEntry.release();
+}
+
+class Settings : public DataDirectory
+{
+protected:
+    CalendarSettings m_settings;
+};
+
+}
+
+TEST_F(Settings, NameAndCountTheGroups)
+{
+    const struct
+    {
+        CalendarSettings::Group group;
+        const char* szName;
+        size_t nCount;
+    } groups[] = {{GroupUS, "United States", 41},
+                  {GroupCanada, "Canada", 39},
+                  {GroupNetherlands, "The Netherlands", 22},
+                  {GroupCustom, "Custom dates", 0},
+                  {GroupToDo, "To-do list", 0},
+                  {kNoGroup, "", 0},
+                  {static_cast<CalendarSettings::Group>(-1), "", 0}};
+    for (const auto& c : groups) {
+        EXPECT_EQ(CalendarSettings::GetName(c.group), c.szName);
+        EXPECT_EQ(m_settings.GetCount(c.group), c.nCount) << c.szName;
+    }
+    EXPECT_FALSE(std::filesystem::exists(m_directory)) << "construction touches no file";
+}
+
+TEST_F(Settings, GiveEntriesUpToTheEnd)
+{
+    EXPECT_EQ(m_settings.GetAt(GroupUS, 16)->m_nID, 17);
+    for (const auto group : {GroupUS, GroupCanada, GroupNetherlands})
+        EXPECT_EQ(m_settings.GetAt(group, m_settings.GetCount(group)), nullptr);
+    EXPECT_EQ(m_settings.GetAt(kNoGroup, 0), nullptr);
+    for (const auto group : {GroupCustom, GroupToDo}) {
+        try {
+            m_settings.GetAt(group, 0);
+            ADD_FAILURE() << "an entry of an empty list";
+        } catch (const std::out_of_range& e) {
+            EXPECT_STREQ(e.what(), "invalid vector subscript");
+        }
+    }
+}
+
+TEST_F(Settings, JoinTheGroupsAndTakeTheColourOfTheLast)
+{
+    m_settings.SetAllColor(GroupUS, 1);
+    m_settings.SetAllColor(GroupCanada, 2);
+    m_settings.SetAllColor(GroupNetherlands, 3);
+    const struct
+    {
+        int nDay, nMonth, nYear;
+        const char* szDesc;
+        DWORD dwColor;
+    } dates[] = {
+        {1, 1, 2026, "Nieuwjaar\r\nNew Year's Day", 1}, // a text that two groups share stands once
+        {21, 12, 2026, "Winter", 1},                    // and one that three share
+        {26, 12, 2026, "Boxing Day", 2},
+        {12, 10, 2026, "Thanksgiving\r\nColumbus Day", 1},
+        {24, 5, 2021, "Tweede Pinksterdag", 3},
+        {4, 4, 2021, "Eerste Paasdag\r\nEaster", 1},
+        {3, 1, 2026, "", 7},
+    };
+    for (const auto& date : dates) {
+        DWORD dwColor = 7;
+        EXPECT_EQ(m_settings.GetDateDesc(date.nDay, date.nMonth, date.nYear, dwColor), date.szDesc);
+        EXPECT_EQ(dwColor, date.dwColor) << date.szDesc;
+    }
+
+    m_settings.AddCustomEntry(NewEntry("Mine", 26, 12, 4));
+    DWORD dwColor = 7;
+    EXPECT_EQ(m_settings.GetDateDesc(26, 12, 2026, dwColor), "Boxing Day\r\nMine");
+    EXPECT_EQ(dwColor, 4U);
+
+    m_settings.SetAllShow(GroupCustom, false);
+    EXPECT_EQ(m_settings.GetDateDesc(26, 12, 2026, dwColor), "Boxing Day");
+    m_settings.SetAllShow(GroupCustom, true);
+    EXPECT_EQ(m_settings.GetDateDesc(26, 12, 2026, dwColor), "Boxing Day\r\nMine");
+}
+
+// A hidden calculated date is a special date without an entry to report: its group sets no colour.
+TEST_F(Settings, KeepTheColourOverAHiddenCalculatedDate)
+{
+    m_settings.SetAllColor(GroupNetherlands, 3);
+    m_settings.SetAllShow(GroupUS, false);
+    m_settings.SetAllShow(GroupCanada, false);
+    DWORD dwColor = 7;
+    EXPECT_EQ(m_settings.GetDateDesc(4, 4, 2021, dwColor), "Eerste Paasdag");
+    EXPECT_EQ(dwColor, 3U);
+
+    m_settings.SetAllShow(GroupNetherlands, false);
+    dwColor = 7;
+    EXPECT_TRUE(m_settings.GetDateDesc(4, 4, 2021, dwColor).IsEmpty());
+    EXPECT_EQ(dwColor, 7U);
+}
+
+TEST_F(Settings, NumberTheUsersDatesAndNeverReuseANumber)
+{
+    m_settings.AddCustomEntry(nullptr);
+    EXPECT_EQ(m_settings.GetCount(GroupCustom), 0U);
+    for (int i = 0; i < 3; ++i)
+        m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
+    m_settings.DeleteCustomEntry(m_settings.GetAt(GroupCustom, 1));
+    CalendarSettings other; // of the same process
+    other.AddCustomEntry(NewEntry("x", 1, 1, 0));
+    m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
+
+    const int ids[] = {10000, 10002, 10004};
+    ASSERT_EQ(m_settings.GetCount(GroupCustom), std::size(ids));
+    for (size_t i = 0; i < std::size(ids); ++i)
+        EXPECT_EQ(m_settings.GetAt(GroupCustom, i)->m_nID, ids[i]);
+    EXPECT_EQ(other.GetAt(GroupCustom, 0)->m_nID, 10003);
+}
+
+TEST_F(Settings, DeleteOnlyWhatIsInTheList)
+{
+    m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
+    CalendarDateEntry foreign;
+    m_settings.DeleteCustomEntry(&foreign);
+    m_settings.DeleteCustomEntry(nullptr);
+    m_settings.DeleteCustomEntry(m_settings.GetAt(GroupUS, 0));
+    EXPECT_EQ(m_settings.GetCount(GroupCustom), 1U);
+    EXPECT_EQ(m_settings.GetCount(GroupUS), 41U);
+}
+
+TEST_F(Settings, IgnoreAGroupThatIsNone)
+{
+    m_settings.SetAllColor(kNoGroup, 5);
+    m_settings.SetAllShow(kNoGroup, false);
+    for (const auto group : {GroupUS, GroupCanada, GroupNetherlands}) {
+        for (size_t i = 0; i < m_settings.GetCount(group); ++i) {
+            EXPECT_EQ(m_settings.GetAt(group, i)->GetColor(), 0xFFFFFFU);
+            EXPECT_TRUE(m_settings.GetAt(group, i)->GetShow());
+        }
+    }
+}

@@ -1,0 +1,67 @@
+// A data directory of the test's own, and the files in it.
+#pragma once
+
+#include <DatesCustom.h>
+#include <DatesToDo.h>
+#include <ZebrikUtils.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+class DataDirectory : public testing::Test
+{
+protected:
+    DataDirectory()
+    {
+        static int nCount = 0;
+        m_root = std::filesystem::temp_directory_path() /
+                 ("zeb17-test-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++nCount));
+        UseDirectory(m_root / "data");
+        DatesCustom::s_nNextCustomID = 10000;
+        DatesToDo::s_nNextToDoID = 11000;
+    }
+    ~DataDirectory() override
+    {
+        ZebrikUtils::SetDataDirectory("");
+        std::filesystem::remove_all(m_root);
+    }
+
+    void UseDirectory(const std::filesystem::path& directory)
+    {
+        m_directory = directory;
+        ZebrikUtils::SetDataDirectory(directory.string().c_str());
+    }
+
+    static std::filesystem::path PathOf(unsigned short nVersion)
+    {
+        return ZebrikUtils::GetCalendarSettingsPath(nVersion).GetString();
+    }
+
+    void WriteFile(unsigned short nVersion, const std::string& strContent) const
+    {
+        std::filesystem::create_directories(m_directory);
+        std::ofstream(PathOf(nVersion), std::ios::binary) << strContent;
+    }
+
+    static std::string ReadFile(unsigned short nVersion)
+    {
+        std::ifstream file(PathOf(nVersion), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    std::vector<std::string> NamesInDirectory() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_directory))
+            names.push_back(entry.path().filename().string());
+        return names;
+    }
+
+    std::filesystem::path m_root;
+    std::filesystem::path m_directory;
+};

@@ -1,0 +1,282 @@
+// Files that are damaged or made to do harm: what Load answers, what it keeps, and what it costs.
+#include "DataDirectory.h"
+#include "FileBytes.h"
+
+#include <CalendarSettings.h>
+
+#include <cstdlib>
+#include <new>
+#include <stdexcept>
+
+namespace {
+
+using enum CalendarSettings::Group;
+
+// What was asked of the heap since the last reset. The tests of this program run on one thread.
+std::size_t g_nAllocated = 0;
+
+enum class Outcome
+{
+    Loaded,
+    EndOfFile,
+    BadSchema,
+    TooLong
+};
+
+Outcome Load(CalendarSettings& settings)
+{
+    try {
+        EXPECT_TRUE(settings.Load());
+        return Outcome::Loaded;
+    } catch (CArchiveException* pException) {
+        const int nCause = pException->m_cause;
+        EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
+        pException->Delete();
+        EXPECT_TRUE(nCause == CArchiveException::endOfFile || nCause == CArchiveException::badSchema);
+        return nCause == CArchiveException::endOfFile ? Outcome::EndOfFile : Outcome::BadSchema;
+    } catch (const std::length_error& error) {
+        EXPECT_STREQ(error.what(), "vector too long");
+        return Outcome::TooLong;
+    }
+}
+
+FileBytes NationalSections()
+{
+    return FileBytes().U16(3).Overlay({{0, 5, false}, {1, 6, true}}).Overlay({{100, 7, true}}).Overlay({});
+}
+
+std::string MakeFile()
+{
+    EntryRecord entry;
+    return NationalSections().Custom({entry, entry, entry}).ToDo({entry}).U32(12345);
+}
+
+class HostileFile : public DataDirectory
+{
+};
+
+}
+
+// Replaced to keep count; the size of a freed block doesn't matter here.
+void* operator new(std::size_t nSize)
+{
+    g_nAllocated += nSize;
+    if (void* p = std::malloc(nSize))
+        return p;
+    throw std::bad_alloc();
+}
+void operator delete(void* p) noexcept
+{
+    std::free(p);
+}
+void operator delete(void* p, std::size_t) noexcept
+{
+    std::free(p);
+}
+
+TEST_F(HostileFile, CutAtAnyByte)
+{
+    const std::string strFile = MakeFile();
+    for (std::size_t nLength = 1; nLength < strFile.size(); ++nLength) {
+        CalendarSettings settings;
+        WriteFile(4, strFile.substr(0, nLength));
+        ASSERT_EQ(Load(settings), Outcome::EndOfFile) << nLength;
+        ASSERT_EQ(DatesCustom::s_nNextCustomID, 10000U);
+    }
+    CalendarSettings settings;
+    WriteFile(4, strFile + "more");
+    EXPECT_EQ(Load(settings), Outcome::Loaded);
+    EXPECT_EQ(DatesCustom::s_nNextCustomID, 12345U);
+}
+
+TEST_F(HostileFile, KeepsWhatWasReadBeforeItEnded)
+{
+    EntryRecord entry;
+    const FileBytes threeEntries = NationalSections().Custom({entry, entry, entry});
+    const struct
+    {
+        std::size_t nLength;
+        size_t nCustom;
+        DWORD dwCanada; // of the first entry
+    } cuts[] = {
+        {NationalSections().Size() - 10 - 1, 1,
+         0xFFFFFF},                            // in the only record of Canada; the old list is whole
+        {NationalSections().Size() + 1, 1, 7}, // in the word of the custom section
+        {NationalSections().Size() + 2, 0, 7}, // behind it: the old entries are gone
+        {threeEntries.Size() - 1, 2, 7},       // in the third entry
+        {threeEntries.Size(), 3, 7},
+    };
+    for (const auto& cut : cuts) {
+        CalendarSettings settings;
+        settings.AddCustomEntry(new CalendarDateEntry);
+        WriteFile(4, MakeFile().substr(0, cut.nLength));
+        EXPECT_EQ(Load(settings), Outcome::EndOfFile);
+        EXPECT_EQ(settings.GetCount(GroupCustom), cut.nCustom) << cut.nLength;
+        EXPECT_EQ(settings.GetAt(GroupCanada, 0)->GetColor(), cut.dwCanada) << cut.nLength;
+        EXPECT_EQ(settings.GetAt(GroupUS, 0)->GetColor(), 5U);
+
+        // The file and the mutex are free again.
+        EXPECT_TRUE(settings.Save());
+        EXPECT_EQ(Load(settings), Outcome::Loaded);
+    }
+}
+
+TEST_F(HostileFile, CountsMoreThanThereIs)
+{
+    const std::uint64_t nMaxCount = std::vector<CalendarDateEntry*>().max_size();
+    const struct
+    {
+        std::uint64_t nCount;
+        Outcome outcome;
+    } counts[] = {{4, Outcome::EndOfFile},
+                  {0x10000000, Outcome::EndOfFile},
+                  {nMaxCount, Outcome::EndOfFile},
+                  {nMaxCount + 1, Outcome::TooLong},
+                  {UINT64_MAX, Outcome::TooLong}};
+    EntryRecord entry;
+    const std::string strEntry = FileBytes().Entry(entry);
+    for (const auto& c : counts) {
+        const bool bTooLong = c.outcome == Outcome::TooLong;
+        CalendarSettings settings;
+        WriteFile(4, NationalSections().U16(3).U64(c.nCount).Raw(strEntry));
+        EXPECT_EQ(Load(settings), c.outcome);
+        EXPECT_EQ(settings.GetCount(GroupCustom), bTooLong ? 0U : 1U);
+
+        WriteFile(4, NationalSections().Custom({}).U16(1).U64(c.nCount).Raw(strEntry));
+        EXPECT_EQ(Load(settings), c.outcome);
+        EXPECT_EQ(settings.GetCount(GroupToDo), bTooLong ? 0U : 1U);
+
+        WriteFile(4, FileBytes().U16(3).U16(2).U64(c.nCount).I32(0).U32(9).U8(1));
+        EXPECT_EQ(Load(settings), Outcome::EndOfFile) << "an overlay makes no list";
+        EXPECT_EQ(settings.GetAt(GroupUS, 0)->GetColor(), 9U);
+    }
+}
+
+TEST_F(HostileFile, HoldsAnUnknownFormOfADate)
+{
+    EntryRecord entry;
+    for (const unsigned nForm : {0, 3, 0xFFFF}) {
+        CalendarSettings settings;
+        WriteFile(4, NationalSections().U16(3).U64(1).Entry(entry, nForm).ToDo({}).U32(1));
+        EXPECT_EQ(Load(settings), Outcome::BadSchema);
+    }
+}
+
+// Any byte may be any other: the answer is one of the four, and the dates can be looked up afterwards.
+TEST_F(HostileFile, HasAByteThatIsAnother)
+{
+    const std::string strFile = MakeFile();
+    for (std::size_t i = 0; i < strFile.size(); ++i) {
+        for (const unsigned nFlip : {0x01, 0x80, 0xFF}) {
+            std::string strDamaged = strFile;
+            strDamaged[i] = static_cast<char>(static_cast<unsigned char>(strDamaged[i]) ^ nFlip);
+            WriteFile(4, strDamaged);
+            CalendarSettings settings;
+            Load(settings);
+            for (int nDay = 1; nDay <= 31; ++nDay) {
+                DWORD dwColor = 0;
+                settings.GetDateDesc(nDay, 7, 2026, dwColor);
+            }
+        }
+    }
+}
+
+// Nothing is set aside on the word of a count or a length, and what is read takes a small multiple of its
+// bytes.
+TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
+{
+    EntryRecord entry;
+    entry.date.strDesc = "";
+    const std::string strEntry = FileBytes().Entry(entry);
+    std::string strEntries;
+    for (int i = 0; i < 20000; ++i)
+        strEntries += strEntry;
+    const DateRecord date{.strDesc = ""};
+    const FileBytes beforeText = FileBytes().Date(date);
+    const std::string strBeforeLength =
+        static_cast<const std::string&>(beforeText).substr(0, beforeText.Size() - 1);
+
+    const struct
+    {
+        const char* szWhat;
+        unsigned short nVersion;
+        std::string strFile;
+    } files[] = {
+        {"a count of entries", 4, NationalSections().U16(3).U64(0x0FFFFFFFFFFFFFFF).Raw(strEntry)},
+        {"many entries", 4, NationalSections().U16(3).U64(1000000).Raw(strEntries)},
+        {"the length of a text", 4,
+         NationalSections()
+             .U16(3)
+             .U64(1)
+             .Raw(strBeforeLength)
+             .U8(255)
+             .U16(0xFFFF)
+             .U32(0x7FFFFFFF)
+             .Raw("abc")},
+        {"a longer length", 4,
+         NationalSections()
+             .U16(3)
+             .U64(1)
+             .Raw(strBeforeLength)
+             .U8(255)
+             .U16(0xFFFF)
+             .U32(0xFFFFFFFF)
+             .U64(1ULL << 40)},
+        {"the length of a wide text", 4,
+         NationalSections()
+             .U16(3)
+             .U64(1)
+             .Raw(strBeforeLength)
+             .U8(255)
+             .U16(0xFFFE)
+             .U8(255)
+             .U16(0xFFFF)
+             .U32(0x7FFFFFFF)},
+        {"a count of names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(0xFFFFFFFE).Text("Canada")},
+        {"a count of rows", 1, FileBytes().U16(1).I32(INT32_MAX).Text("Canada").U32(1)},
+    };
+    for (const auto& file : files) {
+        UseDirectory(m_root / std::to_string(file.nVersion));
+        WriteFile(file.nVersion, file.strFile);
+        CalendarSettings settings;
+        bool bThrew = false;
+        g_nAllocated = 0;
+        try {
+            settings.Load();
+        } catch (CArchiveException* pException) {
+            bThrew = true;
+            pException->Delete();
+        }
+        const std::size_t nAllocated = g_nAllocated;
+        EXPECT_TRUE(bThrew) << file.szWhat;
+        EXPECT_LT(nAllocated, 16 * file.strFile.size() + 64 * 1024) << file.szWhat;
+    }
+}
+
+TEST_F(HostileFile, BringsTextsOfEveryForm)
+{
+    const std::string strWide("F\0o\0u\0r\0", 8);
+    const DateRecord date{.strDesc = ""};
+    const FileBytes beforeText = FileBytes().Date(date);
+    const std::string strBeforeLength =
+        static_cast<const std::string&>(beforeText).substr(0, beforeText.Size() - 1);
+    const struct
+    {
+        std::string text;
+        const char* szDesc;
+    } texts[] = {
+        {FileBytes().U8(255).U16(4).Raw("Four"), "Four"}, // longer forms than need be
+        {FileBytes().U8(255).U16(0xFFFF).U32(4).Raw("Four"), "Four"},
+        {FileBytes().U8(255).U16(0xFFFF).U32(0xFFFFFFFF).U64(4).Raw("Four"), "Four"},
+        {FileBytes().U8(255).U16(0xFFFE).U8(4).Raw(strWide), "Four"},
+        {FileBytes().U8(255).U16(0xFFFE).U8(255).U16(4).Raw(strWide), "Four"},
+        {FileBytes().U8(255).U16(0xFFFE).U8(0), ""},
+    };
+    for (const auto& c : texts) {
+        FileBytes file = NationalSections().U16(3).U64(1).Raw(strBeforeLength).Raw(c.text);
+        WriteFile(4, file.U16(1).U8(1).U32(0).ToDo({}).U32(1));
+        CalendarSettings settings;
+        ASSERT_EQ(Load(settings), Outcome::Loaded);
+        EXPECT_EQ(settings.GetAt(GroupCustom, 0)->m_strDesc, c.szDesc);
+    }
+}

@@ -1,0 +1,237 @@
+// What a save leaves when it fails or dies on the way, and when others work on the same file.
+#include "DataDirectory.h"
+#include "MarkedSettings.h"
+
+#include <FileFault.h>
+#include <FileUtils.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <future>
+#include <iostream>
+#include <vector>
+
+namespace {
+
+constexpr int kOld = 1;
+constexpr int kNew = 3;
+
+int g_nOperationsLeft = 0;
+FileOperation g_failed;
+
+DWORD FailAtLast(FileOperation operation)
+{
+    if (--g_nOperationsLeft != 0)
+        return ERROR_SUCCESS;
+    g_failed = operation;
+    return ERROR_DISK_FULL;
+}
+
+int RunWorker(const std::filesystem::path& directory, const std::string& strArguments)
+{
+    const auto worker = std::filesystem::path(DATA_FILE_WORKER).make_preferred();
+    std::string strCommand = '"' + worker.string() + "\" \"" + directory.string() + "\" " + strArguments;
+#ifdef _WIN32
+    strCommand = '"' + strCommand + '"'; // the shell takes the outer pair off
+#endif
+    const int nStatus = std::system(strCommand.c_str());
+    return nStatus > 0xFF ? nStatus >> 8 : nStatus;
+}
+
+class Save : public DataDirectory
+{
+protected:
+    ~Save() override { g_fileFault = nullptr; }
+
+    // What a save of that mark writes.
+    std::string ContentOf(int nMark)
+    {
+        UseDirectory(m_root / ("mark" + std::to_string(nMark)));
+        CalendarSettings settings;
+        SetMark(settings, nMark);
+        EXPECT_TRUE(settings.Save());
+        return ReadFile(4);
+    }
+
+    int LoadMark()
+    {
+        CalendarSettings settings;
+        return settings.Load() ? MarkOf(settings) : 0;
+    }
+
+    // From another thread, since the mutex lets the same one in.
+    bool IsMutexFree()
+    {
+        auto load = std::async(std::launch::async, [] { CalendarSettings().Load(); });
+        if (load.wait_for(std::chrono::seconds(20)) == std::future_status::ready)
+            return true;
+        std::cerr << "The mutex is held." << std::endl;
+        std::_Exit(EXIT_FAILURE); // the thread can't be ended
+    }
+
+    // The cause of the failure with which the save ended, none if it came through.
+    int SaveAndCatch(CalendarSettings& settings)
+    {
+        try {
+            EXPECT_TRUE(settings.Save());
+            return CFileException::none;
+        } catch (CFileException* pException) {
+            const int nCause = pException->m_cause;
+            EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
+            pException->Delete();
+            return nCause;
+        }
+    }
+};
+
+}
+
+TEST_F(Save, KeepsTheOldFileWhenAnyOperationFails)
+{
+    const std::string strOld = ContentOf(kOld);
+    const std::string strNew = ContentOf(kNew);
+    UseDirectory(m_root / "data");
+    WriteFile(4, strOld);
+
+    CalendarSettings settings;
+    SetMark(settings, kNew);
+    std::vector<FileOperation> failed;
+    g_fileFault = FailAtLast;
+    for (int nOperation = 1;; ++nOperation) {
+        g_nOperationsLeft = nOperation;
+        const int nCause = SaveAndCatch(settings);
+        if (nCause == CFileException::none)
+            break;
+        failed.push_back(g_failed);
+        ASSERT_EQ(nCause, CFileException::diskFull);
+        ASSERT_EQ(ReadFile(4), strOld) << "operation " << nOperation;
+        ASSERT_EQ(NamesInDirectory().size(), 1U) << "what was written beside is gone";
+        ASSERT_TRUE(IsMutexFree());
+    }
+    EXPECT_EQ(ReadFile(4), strNew);
+    EXPECT_EQ(NamesInDirectory().size(), 1U);
+
+    ASSERT_GE(failed.size(), 7U);
+    EXPECT_EQ(failed.front(), FileOperation::Create);
+    EXPECT_EQ(std::count(failed.begin(), failed.end(), FileOperation::Write),
+              static_cast<std::ptrdiff_t>((strNew.size() + 4095) / 4096));
+    const std::vector end(failed.end() - 3, failed.end());
+    EXPECT_EQ(end, (std::vector{FileOperation::Flush, FileOperation::Close, FileOperation::Rename}));
+}
+
+TEST_F(Save, LeavesTheOldOrTheNewFileWhenItsProcessDies)
+{
+    const std::string strOld = ContentOf(kOld);
+    const std::string strNew = ContentOf(kNew);
+    UseDirectory(m_root / "data");
+    int nOperation = 1;
+    for (;; ++nOperation) {
+        WriteFile(4, strOld);
+        const int nExit =
+            RunWorker(m_directory, "die " + std::to_string(kNew) + ' ' + std::to_string(nOperation));
+        if (nExit == 0)
+            break;
+        ASSERT_EQ(nExit, 9);
+        ASSERT_EQ(ReadFile(4), strOld) << "operation " << nOperation;
+        ASSERT_EQ(LoadMark(), kOld) << "and the mutex is free";
+    }
+    EXPECT_GE(nOperation, 8);
+    EXPECT_EQ(ReadFile(4), strNew);
+    EXPECT_EQ(LoadMark(), kNew);
+}
+
+TEST_F(Save, SharesTheFileWithOtherProcesses)
+{
+    ContentOf(kOld);
+    constexpr int kWorkers = 4;
+    std::vector<std::future<int>> workers;
+    for (int nMark = 1; nMark <= kWorkers; ++nMark) {
+        workers.push_back(std::async(std::launch::async, [this, nMark] {
+            return RunWorker(m_directory, "share " + std::to_string(nMark) + " 25");
+        }));
+    }
+    for (int i = 0; i < 25; ++i) {
+        const int nMark = LoadMark();
+        EXPECT_TRUE(nMark >= 1 && nMark <= kWorkers) << "a torn file, or a counter of another save";
+    }
+    for (auto& worker : workers)
+        EXPECT_EQ(worker.get(), 0);
+    EXPECT_EQ(NamesInDirectory().size(), 1U);
+}
+
+TEST_F(Save, MakesTheDirectoriesThatAreMissing)
+{
+    UseDirectory(m_root / "several" / "levels" / "deep");
+    CalendarSettings settings;
+    SetMark(settings, kNew);
+    EXPECT_EQ(SaveAndCatch(settings), CFileException::none);
+    EXPECT_EQ(LoadMark(), kNew);
+}
+
+TEST_F(Save, OverwritesAFileThatIsReadOnly)
+{
+    const std::string strOld = ContentOf(kOld);
+    SetFileAttributesA(PathOf(4).string().c_str(), FILE_ATTRIBUTE_READONLY);
+    CalendarSettings settings;
+    SetMark(settings, kNew);
+    EXPECT_EQ(SaveAndCatch(settings), CFileException::none);
+    EXPECT_EQ(LoadMark(), kNew);
+}
+
+TEST_F(Save, FailsWhereADirectoryStandsInThePlaceOfTheFile)
+{
+    UseDirectory(m_root / "data");
+    std::filesystem::create_directories(PathOf(4) / "inside");
+    CalendarSettings settings;
+    EXPECT_NE(SaveAndCatch(settings), CFileException::none);
+    EXPECT_TRUE(std::filesystem::is_directory(PathOf(4) / "inside"));
+    EXPECT_EQ(NamesInDirectory().size(), 1U);
+    EXPECT_TRUE(IsMutexFree());
+    EXPECT_FALSE(settings.Load()) << "a directory is no file";
+}
+
+TEST_F(Save, FailsWhereAFileStandsInThePlaceOfADirectory)
+{
+    std::filesystem::create_directories(m_root);
+    std::ofstream(m_root / "file") << "x";
+    UseDirectory(m_root / "file" / "data");
+    CalendarSettings settings;
+    EXPECT_NE(SaveAndCatch(settings), CFileException::none);
+}
+
+// A user's list is short, but a long one must do no harm.
+TEST_F(Save, ServesALongList)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr int kEntries = 100000;
+    constexpr int kCells = 42;
+    CalendarSettings settings;
+    for (int i = 0; i < kEntries; ++i) {
+        auto pEntry = std::make_unique<CalendarDateEntry>();
+        if (i % 2 == 0)
+            pEntry->SetDay("A fixed date", 1 + i % 28, 1 + i % 12);
+        else
+            pEntry->SetBeforeAfterDayOfWeek("A moving date", DateEntry::OCCURRENCE_LAST, 6, 1 + i % 12, -4);
+        settings.AddCustomEntry(pEntry.release());
+    }
+
+    const auto measure = [](const char* szWhat, const auto& action) {
+        const auto start = Clock::now();
+        action();
+        const double dSeconds = std::chrono::duration<double>(Clock::now() - start).count();
+        std::cout << szWhat << ": " << dSeconds << " s\n";
+        return dSeconds;
+    };
+    // A pause that is noticed is far below these bounds, which a busy machine and the sanitizers must keep
+    // too.
+    EXPECT_LT(measure("save", [&] { settings.Save(); }), 5);
+    EXPECT_LT(measure("load", [&] { EXPECT_TRUE(settings.Load()); }), 5);
+    EXPECT_EQ(settings.GetCount(CalendarSettings::GroupCustom), static_cast<size_t>(kEntries));
+    EXPECT_LT(measure("a month",
+                      [&] {
+                          DWORD dwColor = 0;
+                          for (int nCell = 0; nCell < kCells; ++nCell)
+                              settings.GetDateDesc(1 + nCell % 28, 4 + nCell / 28, 2026, dwColor);
+                      }),
+              2);
+}
