@@ -3,8 +3,9 @@
 
 #include <zeb17_qt.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QCursor>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -113,8 +114,17 @@ void movePointer(int x, int y)
 
 void pressButton(MouseButton button)
 {
+    static QElapsedTimer sinceLast;
+    static QPoint lastPlace;
+    const bool twice = sinceLast.isValid() && sinceLast.elapsed() < QApplication::doubleClickInterval() &&
+                       lastPlace == QCursor::pos();
+    if (twice)
+        sinceLast.invalidate();
+    else
+        sinceLast.start();
+    lastPlace = QCursor::pos();
     held |= toQt(button);
-    sendMouse(QEvent::MouseButtonPress, toQt(button));
+    sendMouse(twice ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, toQt(button));
 }
 
 void releaseButton(MouseButton button)

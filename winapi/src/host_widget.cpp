@@ -194,7 +194,8 @@ void HostWidget::focusInEvent(QFocusEvent* event)
 void HostWidget::focusOutEvent(QFocusEvent* event)
 {
     const WindowPtr window = served();
-    if (!window || event->reason() == Qt::PopupFocusReason || GetActiveWindow() != m_handle)
+    // When we hide it, the tree has decided already who is next.
+    if (!window || m_following || event->reason() == Qt::PopupFocusReason || GetActiveWindow() != m_handle)
         return;
     window->lastFocus = GetFocus();
     if (!dynamic_cast<HostWidget*>(QApplication::focusWidget()))
