@@ -165,10 +165,12 @@ ContextPainter::ContextPainter(Context& context, const QRect& touched)
     if (m_touched.isEmpty())
         return;
     m_painter = context.surface().heldPainter();
-    if (!m_painter) {
-        m_own = std::make_unique<QPainter>(&context.surface().device());
+    if (!m_painter && context.image()) {
+        m_own = std::make_unique<QPainter>(context.image());
         m_painter = m_own.get();
     }
+    if (!m_painter)
+        return; // a printer between two pages
     m_painter->save();
     m_painter->setClipRegion(clip);
     m_painter->translate(context.origin());
@@ -288,11 +290,11 @@ qreal devicePixelRatio(HDC dc)
 
 }
 
-HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR, const DEVMODEA* mode)
+HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR port, const DEVMODEA* mode)
 {
     if (driver && qstricmp(driver, "DISPLAY") == 0)
         return createScreenContext();
-    return device ? createPrinterContext(device, mode) : nullptr;
+    return device ? createPrinterContext(device, port, mode) : nullptr;
 }
 
 HDC CreateCompatibleDC(HDC dc)
