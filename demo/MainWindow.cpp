@@ -1,15 +1,29 @@
 #include "MainWindow.h"
 
+#include <GraphicsUtils.h>
+
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 constexpr UINT kCalendarId = 100;
 constexpr UINT kStatusId = 101;
 constexpr int kMargin = 12;
 constexpr int kStatusHeight = 20;
 const CRect kWindowRect(CPoint(80, 80), CSize(360, 330));
+
+struct GroupColor
+{
+    CalendarSettings::Group group;
+    COLORREF color;
+};
+constexpr GroupColor kGroupColors[] = {
+    {CalendarSettings::GroupUS, RGB(0x2a, 0x6f, 0xc9)},
+    {CalendarSettings::GroupCanada, RGB(0xd0, 0x3a, 0x3a)},
+    {CalendarSettings::GroupNetherlands, RGB(0xe8, 0x80, 0x1a)},
+    {CalendarSettings::GroupCustom, RGB(0x2e, 0x9b, 0x4f)},
+    {CalendarSettings::GroupToDo, RGB(0x8a, 0x4f, 0xbf)},
+};
 
 CString FormatDate(const DateTime& date)
 {
@@ -20,6 +34,12 @@ CString FormatDate(const DateTime& date)
     return text;
 }
 
+}
+
+DemoCalendar::DemoCalendar()
+{
+    for (const GroupColor& entry : kGroupColors)
+        m_settings.SetAllColor(entry.group, entry.color);
 }
 
 BEGIN_MESSAGE_MAP(MainWindow, CWnd)
@@ -40,9 +60,21 @@ bool MainWindow::CreateMain()
     const LPCTSTR windowClass =
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, LoadCursor(nullptr, IDC_ARROW),
                             reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_BTNFACE + 1)), nullptr);
-    if (!CreateEx(0, windowClass, "zeb17 demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, kWindowRect, nullptr, 0))
+    if (!CreateEx(0, windowClass, "zeb17 demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, kWindowRect, nullptr,
+                  0))
         return false;
-    return m_status.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), this, kStatusId) && CreateCalendar();
+    return CreateStatus() && CreateCalendar();
+}
+
+bool MainWindow::CreateStatus()
+{
+    if (!m_status.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), this, kStatusId))
+        return false;
+    LOGFONT lf = {};
+    GraphicsUtils::SetDefaultFont(lf, "", 13, -1, false, false, false);
+    m_font.CreateFontIndirect(&lf);
+    m_status.SetFont(&m_font);
+    return true;
 }
 
 bool MainWindow::CreateCalendar()

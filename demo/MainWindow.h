@@ -5,6 +5,13 @@
 
 #include <CalendarWnd.h>
 
+// The calendar with a colour of its own for each group of dates, until the user's data file says otherwise.
+class DemoCalendar : public CCalendarWnd
+{
+public:
+    DemoCalendar();
+};
+
 class MainWindow : public CWnd
 {
 public:
@@ -25,10 +32,12 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool CreateStatus();
     bool CreateCalendar();
     void ShowHeard(const char* message, const CString& details);
     CString CurrentDate() const;
 
+    CFont m_font;
     CStatic m_status;
-    CCalendarWnd m_calendar;
+    DemoCalendar m_calendar;
 };

@@ -14,8 +14,7 @@
 #include <optional>
 #include <string>
 
-namespace
-{
+namespace {
 
 struct Options
 {
@@ -29,8 +28,8 @@ std::optional<DateTime> ParseDate(const char* text)
 {
     int year = 0, month = 0, day = 0;
     char rest = 0;
-    if (std::sscanf(text, "%4d-%2d-%2d%c", &year, &month, &day, &rest) != 3 || year < 1 || month < 1 || month > 12 ||
-        day < 1 || day > DateTime::GetDaysInMonth(year, month))
+    if (std::sscanf(text, "%4d-%2d-%2d%c", &year, &month, &day, &rest) != 3 || year < 1 || month < 1 ||
+        month > 12 || day < 1 || day > DateTime::GetDaysInMonth(year, month))
         return std::nullopt;
     return DateTime(year, month, day, 0, 0, 0);
 }
@@ -106,8 +105,7 @@ private:
 int main(int argc, char** argv)
 {
     const std::optional<Options> options = ParseOptions(argc, argv);
-    if (!options)
-    {
+    if (!options) {
         std::fprintf(stderr, "usage: zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME]"
                              " [--select YYYY-MM-DD]\n");
         return 2;
@@ -120,8 +118,7 @@ int main(int argc, char** argv)
     AfxWinInit(GetModuleHandle(nullptr), nullptr, nullptr, SW_SHOW);
     const GdiPlusSession gdiPlus;
     DemoApp app(*options);
-    if (!app.InitInstance())
-    {
+    if (!app.InitInstance()) {
         std::fprintf(stderr, "zeb17_demo: the window could not be created\n");
         return 1;
     }
