@@ -4,8 +4,8 @@
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
-ON_WM_DRAWITEM()
-ON_WM_NCDESTROY()
+    ON_WM_DRAWITEM()
+    ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
 // ---- Handle and object ----
@@ -39,12 +39,11 @@ BOOL CWnd::Attach(HWND hWnd)
 
 HWND CWnd::Detach()
 {
-    const HWND hWnd = std::exchange(m_hWnd, nullptr);
-    if (hWnd) {
-        EnableToolTips(FALSE);
-        ThreadState::Current().windows.Detach(hWnd);
-    }
-    return hWnd;
+    if (!m_hWnd)
+        return nullptr;
+    EnableToolTips(FALSE); // while the tip's tool can still be told by the handle
+    ThreadState::Current().windows.Detach(m_hWnd);
+    return std::exchange(m_hWnd, nullptr);
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd)

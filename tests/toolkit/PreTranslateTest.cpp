@@ -1,0 +1,166 @@
+#include "TestWnd.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+/// Writes down which messages are offered to it and which reach it, by its name.
+class Stop : public CWnd
+{
+public:
+    Stop(Log& log, const char* name) : m_log(log), m_name(name) {}
+
+    bool m_keep = false;
+    bool m_throw = false;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        if (pMsg->message != WM_APP)
+            return CWnd::PreTranslateMessage(pMsg);
+        if (m_throw)
+            AfxThrowResourceException();
+        m_log.push_back(m_name);
+        return m_keep || CWnd::PreTranslateMessage(pMsg);
+    }
+
+protected:
+    LRESULT OnApp(WPARAM, LPARAM)
+    {
+        m_log.push_back(m_name + " got it");
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+
+    Log& m_log;
+    std::string m_name;
+};
+
+BEGIN_MESSAGE_MAP(Stop, CWnd)
+    ON_MESSAGE(WM_APP, &Stop::OnApp)
+END_MESSAGE_MAP()
+
+class PreTranslate : public testing::Test
+{
+protected:
+    PreTranslate()
+    {
+        EXPECT_TRUE(
+            m_top.CreateEx(0, AfxRegisterWndClass(0), "top", WS_POPUP, CRect(0, 0, 90, 90), nullptr, 0));
+        EXPECT_TRUE(CreateChild(m_middle, m_top, 1));
+        // A window without an object stands between.
+        m_plain =
+            CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 40, 40, m_middle, nullptr, nullptr, nullptr);
+        EXPECT_TRUE(
+            m_leaf.CreateEx(0, AfxRegisterWndClass(0), "leaf", WS_CHILD, 0, 0, 9, 9, m_plain, nullptr));
+    }
+
+    MSG MakeMessage() const
+    {
+        MSG message{};
+        message.hwnd = m_leaf.m_hWnd;
+        message.message = WM_APP;
+        return message;
+    }
+
+    Log m_log;
+    Stop m_top{m_log, "top"};
+    Stop m_middle{m_log, "middle"};
+    HWND m_plain = nullptr;
+    Stop m_leaf{m_log, "leaf"};
+};
+
+/// Ends its loop with an exit code, and says when it is idle.
+class LoopApp : public CWinApp
+{
+public:
+    explicit LoopApp(Log& log) : m_log(log) {}
+
+    BOOL OnIdle(LONG count) override
+    {
+        m_log.push_back("idle " + std::to_string(count));
+        CWinApp::OnIdle(count);
+        if (count == 1)
+            ::PostQuitMessage(5);
+        return count == 0;
+    }
+
+    Log& m_log;
+};
+}
+
+TEST_F(PreTranslate, OffersAMessageToTheWindowAndThenToItsAncestors)
+{
+    MSG message = MakeMessage();
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top"));
+}
+
+TEST_F(PreTranslate, StopsAtTheWindowThatKeepsTheMessageAndAtTheGivenOne)
+{
+    MSG message = MakeMessage();
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(m_middle, &message));
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle"));
+    m_log.clear();
+    m_leaf.m_keep = true;
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_THAT(m_log, ElementsAre("leaf"));
+    m_log.clear();
+    message.hwnd = nullptr; // a message of the thread
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_THAT(m_log, ElementsAre());
+}
+
+TEST_F(PreTranslate, TakesNoMessageForNoMessage)
+{
+    CWnd window;
+    EXPECT_FALSE(window.PreTranslateMessage(nullptr));
+    window.EnableToolTips(TRUE);
+    EXPECT_FALSE(window.PreTranslateMessage(nullptr));
+}
+
+TEST_F(PreTranslate, TheLoopOffersBeforeItDispatchesAndEndsWithTheExitCode)
+{
+    LoopApp app(m_log);
+    app.m_pMainWnd = &m_top;
+    EXPECT_EQ(AfxGetApp(), &app);
+    EXPECT_EQ(AfxGetMainWnd(), &m_top);
+    m_leaf.PostMessage(WM_APP);
+    EXPECT_EQ(app.Run(), 5);
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top", "leaf got it", "idle 0", "idle 1"));
+
+    m_log.clear();
+    m_middle.m_keep = true;
+    m_leaf.PostMessage(WM_APP);
+    EXPECT_EQ(app.Run(), 5);
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "idle 0", "idle 1"));
+}
+
+TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
+{
+    ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE));
+    ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE)) << "again does no harm";
+    MSG message = MakeMessage();
+    EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER));
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top"));
+    m_log.clear();
+    m_middle.m_keep = true;
+    EXPECT_TRUE(CallMsgFilterA(&message, MSGF_USER));
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle"));
+    m_log.clear();
+    EXPECT_FALSE(CallMsgFilterA(&message, MSGF_MENU)) << "a menu's keys are the menu's";
+    EXPECT_THAT(m_log, ElementsAre());
+    m_leaf.m_throw = true;
+    EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER)) << "no exception crosses the filter";
+}
+
+TEST_F(PreTranslate, TemporaryObjectsEndWithoutTheirWindows)
+{
+    ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE));
+    CWnd* temporary = CWnd::FromHandle(m_plain);
+    EXPECT_EQ(CWnd::FromHandle(m_plain), temporary);
+    MSG message = MakeMessage();
+    CallMsgFilterA(&message, MSGF_USER); // no handler is at work: the temporary objects end here
+    EXPECT_TRUE(IsWindow(m_plain));
+    EXPECT_EQ(CWnd::FromHandle(m_plain)->m_hWnd, m_plain);
+}

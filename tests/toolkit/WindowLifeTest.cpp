@@ -1,0 +1,339 @@
+#include "TestWnd.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+/// Writes the turns of its window's life down.
+class Witness : public CWnd
+{
+public:
+    explicit Witness(Log& log) : m_log(log) {}
+    ~Witness() override { m_log.push_back("end"); }
+
+    bool m_refuseStyle = false;
+    bool m_failCreate = false;
+    bool m_deleteSelf = false;
+
+protected:
+    void PreSubclassWindow() override { m_log.push_back("subclass"); }
+    BOOL PreCreateWindow(CREATESTRUCTA& cs) override
+    {
+        m_log.push_back("precreate");
+        return !m_refuseStyle && CWnd::PreCreateWindow(cs);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        static const std::pair<UINT, const char*> names[] = {{WM_NCCREATE, "nccreate"},
+                                                             {WM_CREATE, "create"},
+                                                             {WM_DESTROY, "destroy"},
+                                                             {WM_NCDESTROY, "ncdestroy"}};
+        for (const auto& [number, name] : names)
+            if (number == message)
+                m_log.push_back(name);
+        if (message == WM_CREATE && m_failCreate)
+            return -1;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override
+    {
+        m_log.push_back(m_hWnd ? "still a handle" : "postncdestroy");
+        if (m_deleteSelf)
+            delete this;
+    }
+
+    Log& m_log;
+};
+
+class WindowLife : public testing::Test
+{
+protected:
+    TestFrame m_frame;
+    Log m_log;
+};
+}
+
+TEST_F(WindowLife, CreationReachesTheObjectFromTheFirstMessageOn)
+{
+    Witness window(m_log);
+    ASSERT_TRUE(CreateChild(window, m_frame, 8));
+    EXPECT_THAT(m_log, ElementsAre("precreate", "subclass", "nccreate", "create"));
+    EXPECT_TRUE(IsWindow(window.m_hWnd));
+    EXPECT_EQ(window.GetDlgCtrlID(), 8);
+    EXPECT_EQ(window.GetParent(), &m_frame);
+    EXPECT_EQ(m_frame.GetDlgItem(8), &window);
+
+    m_log.clear();
+    EXPECT_FALSE(CreateChild(window, m_frame, 9)) << "the object has a window already";
+    EXPECT_THAT(m_log, ElementsAre());
+    EXPECT_EQ(window.GetDlgCtrlID(), 8);
+
+    EXPECT_TRUE(window.DestroyWindow());
+    EXPECT_THAT(m_log, ElementsAre("destroy", "ncdestroy", "postncdestroy"));
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_FALSE(window.DestroyWindow());
+    EXPECT_TRUE(CreateChild(window, m_frame, 9)) << "a window can be created again";
+}
+
+TEST_F(WindowLife, FailedCreationLeavesNoHandle)
+{
+    Witness refusing(m_log);
+    refusing.m_refuseStyle = true;
+    EXPECT_FALSE(CreateChild(refusing, m_frame, 8));
+    EXPECT_EQ(refusing.m_hWnd, nullptr);
+    EXPECT_THAT(m_log, ElementsAre("precreate", "postncdestroy"));
+
+    m_log.clear();
+    Witness failing(m_log);
+    failing.m_failCreate = true;
+    EXPECT_FALSE(CreateChild(failing, m_frame, 8));
+    EXPECT_EQ(failing.m_hWnd, nullptr);
+    EXPECT_EQ(m_log.back(), "postncdestroy");
+    EXPECT_EQ(m_frame.GetDlgItem(8), nullptr);
+
+    m_log.clear();
+    Witness unknown(m_log);
+    EXPECT_FALSE(unknown.CreateEx(0, "no such class", "", WS_CHILD, CRect(0, 0, 1, 1), &m_frame, 8));
+    EXPECT_THAT(m_log, ElementsAre("precreate", "postncdestroy"));
+
+    m_log.clear();
+    EXPECT_FALSE(unknown.Create(nullptr, "", WS_CHILD, CRect(0, 0, 1, 1), nullptr, 8))
+        << "a child needs a parent";
+    EXPECT_EQ(m_log.back(), "postncdestroy");
+}
+
+TEST_F(WindowLife, ObjectAndWindowMayEndInAnyOrder)
+{
+    HWND hWnd = nullptr;
+    {
+        Witness window(m_log);
+        ASSERT_TRUE(CreateChild(window, m_frame, 8));
+        hWnd = window.m_hWnd;
+    }
+    EXPECT_FALSE(IsWindow(hWnd)) << "the end of the object ends the window";
+    EXPECT_EQ(CWnd::FromHandlePermanent(hWnd), nullptr);
+
+    Witness outliving(m_log);
+    ASSERT_TRUE(CreateChild(outliving, m_frame, 8));
+    m_frame.DestroyWindow();
+    EXPECT_EQ(outliving.m_hWnd, nullptr) << "the end of the parent ends the child's window";
+
+    TestFrame other;
+    m_log.clear();
+    auto* own = new Witness(m_log);
+    own->m_deleteSelf = true;
+    ASSERT_TRUE(CreateChild(*own, other, 8));
+    other.DestroyWindow();
+    EXPECT_EQ(m_log.back(), "end") << "an object may end itself with its window";
+}
+
+TEST_F(WindowLife, HandlesLeadToTheirObject)
+{
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(m_frame), &m_frame);
+    EXPECT_EQ(CWnd::FromHandlePermanent(m_frame), &m_frame);
+
+    const HWND plain =
+        CreateWindowExA(0, "BUTTON", "plain", WS_CHILD, 0, 0, 9, 9, m_frame, nullptr, nullptr, nullptr);
+    CWnd* temporary = CWnd::FromHandle(plain);
+    ASSERT_NE(temporary, nullptr);
+    EXPECT_EQ(temporary->m_hWnd, plain);
+    EXPECT_EQ(CWnd::FromHandle(plain), temporary);
+    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
+
+    CButton button;
+    EXPECT_TRUE(button.Attach(plain));
+    EXPECT_FALSE(button.Attach(m_frame));
+    EXPECT_EQ(CWnd::FromHandle(plain), &button);
+    EXPECT_EQ(button.Detach(), plain);
+    EXPECT_TRUE(IsWindow(plain));
+    EXPECT_NE(CWnd::FromHandle(plain), &button);
+}
+
+TEST_F(WindowLife, ASubclassedWindowGetsItsProcedureBack)
+{
+    const HWND plain =
+        CreateWindowExA(0, "BUTTON", "", WS_CHILD, 0, 0, 9, 9, m_frame, nullptr, nullptr, nullptr);
+    const LONG_PTR procedure = GetWindowLongPtrA(plain, GWLP_WNDPROC);
+    Witness window(m_log);
+    ASSERT_TRUE(window.SubclassWindow(plain));
+    EXPECT_NE(GetWindowLongPtrA(plain, GWLP_WNDPROC), procedure);
+    EXPECT_EQ(window.SendMessage(WM_GETDLGCODE) & DLGC_BUTTON, DLGC_BUTTON) << "the button still answers";
+    EXPECT_EQ(window.UnsubclassWindow(), plain);
+    EXPECT_EQ(GetWindowLongPtrA(plain, GWLP_WNDPROC), procedure);
+    EXPECT_THAT(m_log, ElementsAre("subclass"));
+}
+
+namespace {
+/// Sends itself another message in the middle of one, and then asks for the default of the first.
+class Defaulting : public CWnd
+{
+public:
+    LRESULT CallByHand() { return Default(); }
+
+    std::string m_textInside;
+    UINT m_messageAtHand = 0;
+
+protected:
+    LRESULT OnSetText(WPARAM, LPARAM)
+    {
+        SendMessage(WM_APP);
+        m_messageAtHand = GetCurrentMessage()->message;
+        const LRESULT result = Default();
+        CString text;
+        GetWindowText(text);
+        m_textInside = text;
+        return result;
+    }
+    LRESULT OnApp(WPARAM, LPARAM) { return Default(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Defaulting, CWnd)
+    ON_MESSAGE(WM_SETTEXT, &Defaulting::OnSetText)
+    ON_MESSAGE(WM_APP, &Defaulting::OnApp)
+END_MESSAGE_MAP()
+
+/// Closes itself by hand-calling another window's handler from WM_CLOSE.
+class Caller : public CWnd
+{
+public:
+    Defaulting* m_other = nullptr;
+
+protected:
+    void OnClose() { m_other->CallByHand(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Caller, CWnd)
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+}
+
+TEST_F(WindowLife, DefaultRunsTheMessageAtHand)
+{
+    Defaulting window;
+    ASSERT_TRUE(CreateChild(window, m_frame, 8));
+    window.SetWindowText("new text");
+    EXPECT_EQ(window.m_messageAtHand, UINT(WM_SETTEXT));
+    EXPECT_EQ(window.m_textInside, "new text");
+}
+
+TEST_F(WindowLife, DefaultIgnoresAMessageOfAnotherWindow)
+{
+    Defaulting window;
+    ASSERT_TRUE(CreateChild(window, m_frame, 8));
+    EXPECT_EQ(window.CallByHand(), 0);
+    Caller caller;
+    ASSERT_TRUE(CreateChild(caller, m_frame, 9));
+    caller.m_other = &window;
+    caller.SendMessage(WM_CLOSE);
+    EXPECT_TRUE(IsWindow(window.m_hWnd)) << "the close was not the other window's";
+}
+
+namespace {
+class Throwing : public CWnd
+{
+public:
+    UINT m_throwOn = WM_APP;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == m_throwOn)
+            AfxThrowResourceException();
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+class CatchingApp : public CWinApp
+{
+public:
+    LRESULT ProcessWndProcException(CException* e, const MSG* message) override
+    {
+        m_caught = message->message;
+        m_isResource = e->IsKindOf(RUNTIME_CLASS(CResourceException));
+        e->Delete();
+        return 42;
+    }
+
+    UINT m_caught = 0;
+    BOOL m_isResource = FALSE;
+};
+}
+
+TEST_F(WindowLife, AnExceptionOfAHandlerEndsAtTheWindowProcedure)
+{
+    Throwing window;
+    ASSERT_TRUE(CreateChild(window, m_frame, 8));
+    EXPECT_EQ(window.SendMessage(WM_APP), 0);
+    {
+        CatchingApp app;
+        EXPECT_EQ(window.SendMessage(WM_APP), 42);
+        EXPECT_EQ(app.m_caught, UINT(WM_APP));
+        EXPECT_TRUE(app.m_isResource);
+    }
+
+    Throwing unborn;
+    unborn.m_throwOn = WM_CREATE;
+    EXPECT_FALSE(CreateChild(unborn, m_frame, 9));
+
+    m_frame.ShowWindow(SW_SHOW);
+    window.m_throwOn = WM_PAINT;
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE)) << "a failed paint is not asked for again";
+}
+
+TEST_F(WindowLife, RunTimeClassesNameTheLineOfDescent)
+{
+    CButton button;
+    CWnd window;
+    EXPECT_TRUE(button.IsKindOf(RUNTIME_CLASS(CWnd)));
+    EXPECT_TRUE(button.IsKindOf(RUNTIME_CLASS(CCmdTarget)));
+    EXPECT_FALSE(window.IsKindOf(RUNTIME_CLASS(CButton)));
+    EXPECT_STREQ(button.GetRuntimeClass()->m_lpszClassName, "CButton");
+}
+
+namespace {
+class DrawnButton : public CButton
+{
+public:
+    std::vector<UINT> m_drawn;
+    void DrawItem(LPDRAWITEMSTRUCT lpDIS) override { m_drawn.push_back(lpDIS->CtlID); }
+};
+
+class OwnDrawer : public CWnd
+{
+public:
+    int m_drawn = 0;
+
+protected:
+    void OnDrawItem(int, LPDRAWITEMSTRUCT) { ++m_drawn; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(OwnDrawer, CWnd)
+    ON_WM_DRAWITEM()
+END_MESSAGE_MAP()
+}
+
+TEST_F(WindowLife, AnOwnerDrawnButtonDrawsItselfUnlessItsParentDoes)
+{
+    m_frame.ShowWindow(SW_SHOW);
+    DrawnButton button;
+    ASSERT_TRUE(button.Create("x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 40, 20), &m_frame, 12));
+    button.Invalidate();
+    button.UpdateWindow();
+    EXPECT_EQ(button.m_drawn.back(), 12U);
+
+    OwnDrawer parent;
+    ASSERT_TRUE(CreateChild(parent, m_frame, 13));
+    DrawnButton silent;
+    ASSERT_TRUE(silent.Create("x", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 40, 20), &parent, 14));
+    silent.Invalidate();
+    silent.UpdateWindow();
+    EXPECT_GT(parent.m_drawn, 0);
+    EXPECT_TRUE(silent.m_drawn.empty());
+}
