@@ -1,0 +1,229 @@
+// Windows in a Qt application: its own loop, its layouts, its events.
+#include "MessageRecorder.h"
+
+#include <zeb17_qt.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+namespace {
+
+void runQt()
+{
+    for (int i = 0; i < 20; ++i)
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+std::vector<UINT> offered;
+UINT swallowed;
+
+LRESULT CALLBACK filter(int code, WPARAM, LPARAM lParam)
+{
+    const auto& message = *reinterpret_cast<const MSG*>(lParam);
+    if (code == MSGF_USER)
+        offered.push_back(message.message);
+    return message.message == swallowed;
+}
+
+class QtHost : public testing::Test
+{
+protected:
+    MessageRecorder recorder;
+};
+
+TEST_F(QtHost, OnlyTopLevelWindowsHaveAWidget)
+{
+    const HWND top = recorder.create("t", WS_POPUP);
+    const HWND child = recorder.create("c", WS_CHILD, top, 5);
+    EXPECT_EQ(QWidgetFromWindow(child), nullptr);
+    EXPECT_EQ(QWidgetFromWindow(GetDesktopWindow()), nullptr);
+    EXPECT_EQ(QWidgetFromWindow(nullptr), nullptr);
+    QWidget* const widget = QWidgetFromWindow(top);
+    ASSERT_NE(widget, nullptr);
+    EXPECT_EQ(QWidgetFromWindow(top), widget);
+    EXPECT_EQ(widget->size(), QSize(300, 200));
+    EXPECT_FALSE(widget->isVisible());
+}
+
+TEST_F(QtHost, AQtLoopServesMessagesPaintsAndTimers)
+{
+    const HWND top = recorder.createTop("t");
+    recorder.only({"USER", "PAINT", "TIMER"});
+    const HHOOK hook = SetWindowsHookExA(WH_MSGFILTER, filter, nullptr, GetCurrentThreadId());
+    offered.clear();
+    swallowed = WM_USER + 1;
+    PostMessageA(top, WM_USER, 1, 0);
+    PostMessageA(top, WM_USER + 1, 2, 0);
+    InvalidateRect(top, nullptr, FALSE);
+    SetTimer(top, 3, 10, nullptr);
+    QTimer::singleShot(100, qApp, [top] {
+        KillTimer(top, 3);
+        PostQuitMessage(7);
+    });
+    EXPECT_EQ(QApplication::exec(), 7);
+    EXPECT_EQ(recorder.take().substr(0, 28), "t.USER(1) t.PAINT t.TIMER(3)");
+    ASSERT_GE(offered.size(), 2u);
+    EXPECT_EQ(offered[0], UINT(WM_USER));
+    EXPECT_EQ(offered[1], UINT(WM_USER + 1));
+    UnhookWindowsHookEx(hook);
+    MSG message;
+    PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE); // the quit that a loop of ours would have seen
+}
+
+TEST_F(QtHost, ThePixelsOfTheWindowAreTheWidgets)
+{
+    const HWND top = recorder.createTop("t");
+    const HWND child = recorder.create("c", WS_CHILD | WS_VISIBLE, top, 5);
+    serveMessages();
+    const HDC dc = GetDC(child);
+    const HBRUSH brush = CreateSolidBrush(RGB(10, 20, 200));
+    const RECT rect{0, 0, 100, 80};
+    FillRect(dc, &rect, brush);
+    DeleteObject(brush);
+    ReleaseDC(child, dc);
+    const QImage image = QWidgetFromWindow(top)->grab().toImage();
+    EXPECT_EQ(image.pixelColor(10, 20), QColor(10, 20, 200));
+    EXPECT_EQ(image.pixelColor(109, 99), QColor(10, 20, 200));
+    EXPECT_EQ(image.pixelColor(9, 20), QColor(Qt::white));
+}
+
+TEST_F(QtHost, ALayoutSizesTheWindow)
+{
+    QWidget around;
+    auto* const layout = new QVBoxLayout(&around);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const HWND top = recorder.create("t", WS_POPUP);
+    layout->addWidget(QWidgetFromWindow(top));
+    recorder.only({"SIZE", "SHOWWINDOW", "PAINT"});
+    around.resize(420, 330);
+    around.show();
+    runQt();
+    EXPECT_TRUE(IsWindowVisible(top));
+    EXPECT_EQ(recorder.take(), "t.SIZE(420x330) t.SHOWWINDOW(1) t.PAINT");
+    around.resize(200, 100);
+    runQt();
+    RECT client{};
+    GetClientRect(top, &client);
+    EXPECT_EQ(client.right, 200);
+    EXPECT_EQ(client.bottom, 100);
+    around.move(50, 60);
+    runQt();
+    POINT origin{0, 0};
+    ClientToScreen(top, &origin);
+    EXPECT_EQ(origin.x, around.geometry().x());
+    EXPECT_EQ(origin.y, around.geometry().y());
+}
+
+TEST_F(QtHost, WidgetAndWindowGoTogether)
+{
+    auto* around = new QWidget;
+    auto* const layout = new QVBoxLayout(around);
+    const HWND first = recorder.create("f", WS_POPUP);
+    const HWND second = recorder.create("s", WS_POPUP);
+    layout->addWidget(QWidgetFromWindow(first));
+    layout->addWidget(QWidgetFromWindow(second));
+    around->show();
+    runQt();
+    DestroyWindow(first);
+    runQt();
+    EXPECT_EQ(layout->count(), 1);
+    EXPECT_TRUE(IsWindow(second));
+    delete around;
+    EXPECT_FALSE(IsWindow(second));
+}
+
+TEST_F(QtHost, TheKeyboardGoesInAndOut)
+{
+    QWidget around;
+    auto* const layout = new QVBoxLayout(&around);
+    auto* const before = new QLineEdit;
+    auto* const after = new QLineEdit;
+    const HWND top = recorder.create("t", WS_POPUP);
+    const HWND child = recorder.create("c", WS_CHILD | WS_VISIBLE, top, 5);
+    QWidget* const widget = QWidgetFromWindow(top);
+    layout->addWidget(before);
+    layout->addWidget(widget);
+    layout->addWidget(after);
+    around.show();
+    around.activateWindow();
+    before->setFocus();
+    runQt();
+    EXPECT_EQ(GetFocus(), nullptr);
+
+    widget->setFocus();
+    runQt();
+    EXPECT_EQ(GetFocus(), top);
+    SetFocus(child);
+    before->setFocus();
+    runQt();
+    EXPECT_EQ(GetFocus(), nullptr);
+    EXPECT_EQ(GetActiveWindow(), nullptr);
+    widget->setFocus();
+    runQt();
+    EXPECT_EQ(GetFocus(), child) << "the child that had it last";
+
+    SetFocus(top);
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, "\t");
+    QCoreApplication::sendEvent(widget, &tab);
+    runQt();
+    EXPECT_TRUE(after->hasFocus());
+}
+
+TEST_F(QtHost, ClosingAsksTheWindow)
+{
+    const HWND top = recorder.createTop("t");
+    recorder.only({"CLOSE", "DESTROY"});
+    QWidgetFromWindow(top)->close();
+    EXPECT_TRUE(IsWindow(top));
+    serveMessages();
+    EXPECT_EQ(recorder.take(), "t.CLOSE t.DESTROY");
+}
+
+TEST_F(QtHost, SmallWheelStepsMakeOneNotch)
+{
+    const HWND top = recorder.createTop("t");
+    QWidget* const widget = QWidgetFromWindow(top);
+    recorder.only({"WHEEL"});
+    const QPointF inside(30, 30);
+    for (int i = 0; i < 8; ++i) {
+        QWheelEvent step(inside, widget->mapToGlobal(inside), {}, {0, 20}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(widget, &step);
+    }
+    serveMessages();
+    EXPECT_EQ(recorder.take(), "t.WHEEL");
+}
+
+TEST_F(QtHost, AMenuTakesNoFocusAway)
+{
+    const HWND top = recorder.createTop("t");
+    QWidget* const widget = QWidgetFromWindow(top);
+    recorder.only({"KILLFOCUS", "ACTIVATE", "SETFOCUS"});
+    QFocusEvent out(QEvent::FocusOut, Qt::PopupFocusReason);
+    QFocusEvent in(QEvent::FocusIn, Qt::PopupFocusReason);
+    QCoreApplication::sendEvent(widget, &out);
+    QCoreApplication::sendEvent(widget, &in);
+    EXPECT_EQ(recorder.take(), "");
+    EXPECT_EQ(GetFocus(), top);
+}
+
+TEST_F(QtHost, AModalQtLoopInsideAHandlerServesTheOthers)
+{
+    const HWND top = recorder.createTop("t");
+    recorder.only({"USER"});
+    QEventLoop loop;
+    QTimer::singleShot(0, [&] { PostMessageA(top, WM_USER, 4, 0); });
+    QTimer::singleShot(50, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_EQ(recorder.take(), "t.USER(4)");
+}
+
+}
