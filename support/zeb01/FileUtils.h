@@ -11,6 +11,9 @@ public:
     // True for a file; a directory is none.
     static bool DoesFileExist(const CString& strPath);
 
+    // The path of the file that a link leads to; any other path as it is, also that of a link to nowhere.
+    static CString FollowLink(const CString& strPath);
+
     // Takes the read-only mark off a file that has it. False if the file then is not writable.
     static bool EnsureFileIsWritable(const CString& strPath);
 

@@ -1,11 +1,12 @@
 #include "CArchive.h"
 
+#include "WideText.h"
+
 #include <algorithm>
 #include <climits>
 #include <cstring>
 #include <exception>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -20,19 +21,11 @@ constexpr DWORD kLongerCount = 0xFFFFFFFF;
 // From UTF-16, little-endian.
 CString ToText(const std::string& bytes)
 {
-    std::vector<WCHAR> wide(bytes.size() / 2);
+    WideText wide(bytes.size() / 2, WCHAR());
     for (std::size_t i = 0; i < wide.size(); ++i)
         wide[i] =
             static_cast<WCHAR>(static_cast<BYTE>(bytes[2 * i]) | static_cast<BYTE>(bytes[2 * i + 1]) << 8);
-    const auto length = static_cast<int>(wide.size());
-    if (length == 0)
-        return {};
-
-    const int size = WideCharToMultiByte(CP_ACP, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
-    CString text;
-    WideCharToMultiByte(CP_ACP, 0, wide.data(), length, text.GetBuffer(size), size, nullptr, nullptr);
-    text.ReleaseBuffer(size);
-    return text;
+    return FromWide(wide);
 }
 
 }

@@ -16,12 +16,6 @@ namespace {
     AfxThrowFileException(CFileException::OsErrorToException(osError), osError, path);
 }
 
-// The error that a test wants from this operation, or 0.
-DWORD GetFault(FileOperation operation)
-{
-    return g_fileFault ? g_fileFault(operation) : ERROR_SUCCESS;
-}
-
 struct OpenMode
 {
     DWORD access;
@@ -81,7 +75,7 @@ UINT CFile::Read(void* buffer, UINT count)
 
 void CFile::Write(const void* buffer, UINT count)
 {
-    if (const DWORD fault = GetFault(FileOperation::Write))
+    if (const DWORD fault = GetFileFault(FileOperation::Write))
         Fail(fault);
     DWORD written = 0;
     if (!WriteFile(m_hFile, buffer, count, &written, nullptr))
@@ -120,7 +114,7 @@ ULONGLONG CFile::GetLength() const
 
 void CFile::Flush()
 {
-    if (const DWORD fault = GetFault(FileOperation::Flush))
+    if (const DWORD fault = GetFileFault(FileOperation::Flush))
         Fail(fault);
     if (!FlushFileBuffers(m_hFile))
         Fail(GetLastError());
@@ -130,7 +124,7 @@ void CFile::Close()
 {
     if (!IsOpen())
         return;
-    const DWORD fault = GetFault(FileOperation::Close);
+    const DWORD fault = GetFileFault(FileOperation::Close);
     const bool closed = CloseHandle(std::exchange(m_hFile, INVALID_HANDLE_VALUE));
     if (fault)
         Fail(fault);

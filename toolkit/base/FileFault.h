@@ -17,3 +17,9 @@ enum class FileOperation
 // tests: no fault.
 using FileFault = DWORD (*)(FileOperation operation);
 extern FileFault g_fileFault;
+
+// The error that is wanted from this operation, or 0.
+inline DWORD GetFileFault(FileOperation operation)
+{
+    return g_fileFault ? g_fileFault(operation) : ERROR_SUCCESS;
+}

@@ -252,6 +252,8 @@ DWORD GetFileAttributesA(LPCSTR path)
         return FILE_ATTRIBUTE_REPARSE_POINT | (isDirectory(path) ? FILE_ATTRIBUTE_DIRECTORY : 0);
     if (isDirectory(status))
         return FILE_ATTRIBUTE_DIRECTORY;
+    if (!S_ISREG(status.st_mode))
+        return FILE_ATTRIBUTE_DEVICE;
     return status.st_mode & kAllWrite ? FILE_ATTRIBUTE_NORMAL : FILE_ATTRIBUTE_READONLY;
 }
 

@@ -1,0 +1,3 @@
+#include "AppLogger.h"
+
+AppLogger* AppLogger::m_pInstance = nullptr;

@@ -1,0 +1,76 @@
+#include "FileUtils.h"
+
+#include "ReplacedFile.h"
+#include "TextArray.h"
+
+#include <WideText.h>
+
+namespace {
+
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+constexpr const char* kLineEnd = "\r\n";
+
+CString ToUtf8(const CString& strText)
+{
+    return FromWide(ToWide(strText), CP_UTF8);
+}
+
+CString JoinLines(const TextArray& lines, int nIndent)
+{
+    const CString strIndent(' ', nIndent);
+    CString strContent;
+    for (std::size_t i = 0; i < lines.GetSize(); ++i)
+        strContent += strIndent + ToUtf8(lines.GetAt(i)) + kLineEnd;
+    return strContent;
+}
+
+}
+
+bool FileUtils::DoesFileExist(const CString& strPath)
+{
+    const DWORD dwAttributes = GetFileAttributesA(strPath);
+    return dwAttributes != INVALID_FILE_ATTRIBUTES && !(dwAttributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+CString FileUtils::FollowLink(const CString& strPath)
+{
+    const DWORD dwAttributes = GetFileAttributesA(strPath);
+    CFile file;
+    if (dwAttributes == INVALID_FILE_ATTRIBUTES || !(dwAttributes & FILE_ATTRIBUTE_REPARSE_POINT) ||
+        !file.Open(strPath, CFile::modeRead))
+        return strPath;
+
+    CString strTarget;
+    constexpr DWORD kFlags = FILE_NAME_NORMALIZED | VOLUME_NAME_DOS;
+    const DWORD nSize = GetFinalPathNameByHandleA(file.m_hFile, nullptr, 0, kFlags);
+    char* const szTarget = strTarget.GetBuffer(static_cast<int>(nSize));
+    const DWORD nLength = GetFinalPathNameByHandleA(file.m_hFile, szTarget, nSize, kFlags);
+    strTarget.ReleaseBuffer(nLength < nSize ? static_cast<int>(nLength) : 0);
+    return strTarget.IsEmpty() ? strPath : strTarget;
+}
+
+bool FileUtils::EnsureFileIsWritable(const CString& strPath)
+{
+    const CString strFile = FollowLink(strPath);
+    const DWORD dwAttributes = GetFileAttributesA(strFile);
+    if (dwAttributes == INVALID_FILE_ATTRIBUTES || dwAttributes & FILE_ATTRIBUTE_DIRECTORY)
+        return false;
+    if (!(dwAttributes & FILE_ATTRIBUTE_READONLY))
+        return true;
+    return SetFileAttributesA(strFile, dwAttributes & ~FILE_ATTRIBUTE_READONLY) != FALSE;
+}
+
+bool FileUtils::WriteFileContent(const CString& strPath, const TextArray& lines, bool bByteOrderMark,
+                                 int nIndent)
+{
+    const CString strContent = (bByteOrderMark ? kByteOrderMark : "") + JoinLines(lines, nIndent);
+    try {
+        ReplacedFile file(strPath);
+        file.Write(strContent.GetString(), static_cast<UINT>(strContent.GetLength()));
+        file.Commit();
+        return true;
+    } catch (CFileException* pException) {
+        pException->Delete();
+        return false;
+    }
+}

@@ -1,0 +1,8 @@
+#include "Keyboard.h"
+
+#include <windows.h>
+
+bool Keyboard::IsShiftKeyDown()
+{
+    return GetKeyState(VK_SHIFT) < 0;
+}

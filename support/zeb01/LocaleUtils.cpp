@@ -1,0 +1,169 @@
+#include "LocaleUtils.h"
+
+#include <WideText.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+WideText g_strLocale; // empty: the user's
+
+const WCHAR* GetLocaleName()
+{
+    return g_strLocale.empty() ? LOCALE_NAME_USER_DEFAULT : g_strLocale.c_str();
+}
+
+// Empty if the locale has no such information.
+WideText GetInfo(LCTYPE nType)
+{
+    const int nLength = GetLocaleInfoEx(GetLocaleName(), nType, nullptr, 0);
+    if (nLength <= 0)
+        return {};
+    WideText strInfo(static_cast<std::size_t>(nLength), WCHAR());
+    GetLocaleInfoEx(GetLocaleName(), nType, strInfo.data(), nLength);
+    strInfo.pop_back(); // the null
+    return strInfo;
+}
+
+WideText GetDayInfo(int nDayOfWeek, bool bShort)
+{
+    if (nDayOfWeek < 1 || nDayOfWeek > 7)
+        return {};
+    // The system counts from Monday.
+    const auto nIndex = static_cast<LCTYPE>((nDayOfWeek + 5) % 7);
+    return GetInfo((bShort ? LOCALE_SABBREVDAYNAME1 : LOCALE_SDAYNAME1) + nIndex);
+}
+
+WideText GetMonthInfo(int nMonth, bool bShort, bool bBesideDay)
+{
+    if (nMonth < 1 || nMonth > 12)
+        return {};
+    const LCTYPE nType =
+        (bShort ? LOCALE_SABBREVMONTHNAME1 : LOCALE_SMONTHNAME1) + static_cast<LCTYPE>(nMonth - 1);
+    const WideText strName = bBesideDay ? GetInfo(nType | LOCALE_RETURN_GENITIVE_NAMES) : WideText();
+    return strName.empty() ? GetInfo(nType) : strName;
+}
+
+// A piece of a date pattern: a run of one pattern letter, or text that stands for itself.
+struct PatternPiece
+{
+    WCHAR letter; // 0: text
+    std::size_t nCount;
+    WideText strText;
+};
+
+constexpr bool IsPatternLetter(WCHAR ch)
+{
+    return ch == 'd' || ch == 'M' || ch == 'y';
+}
+
+void AddText(std::vector<PatternPiece>& vPieces, WideTextView strText)
+{
+    vPieces.push_back({0, 0, WideText(strText)});
+}
+
+// Takes quoted text off the pattern; a doubled quote stands for one.
+WideTextView TakeQuoted(WideTextView& strPattern)
+{
+    const std::size_t nEnd = std::min(strPattern.find('\'', 1), strPattern.size());
+    const WideTextView strText = nEnd == 1 ? strPattern.substr(0, 1) : strPattern.substr(1, nEnd - 1);
+    strPattern.remove_prefix(std::min(nEnd + 1, strPattern.size()));
+    return strText;
+}
+
+std::vector<PatternPiece> SplitPattern(WideTextView strPattern)
+{
+    std::vector<PatternPiece> vPieces;
+    while (!strPattern.empty()) {
+        const WCHAR ch = strPattern.front();
+        if (ch == '\'') {
+            AddText(vPieces, TakeQuoted(strPattern));
+            continue;
+        }
+        const std::size_t nRun = std::min(strPattern.find_first_not_of(ch), strPattern.size());
+        if (IsPatternLetter(ch))
+            vPieces.push_back({ch, nRun, {}});
+        else
+            AddText(vPieces, strPattern.substr(0, nRun));
+        strPattern.remove_prefix(nRun);
+    }
+    return vPieces;
+}
+
+WideText ToDigits(int nNumber, std::size_t nMinDigits)
+{
+    std::string strDigits = std::to_string(nNumber);
+    if (strDigits.size() < nMinDigits)
+        strDigits.insert(0, nMinDigits - strDigits.size(), '0');
+    return WideText(strDigits.begin(), strDigits.end());
+}
+
+struct DateParts
+{
+    int nYear;
+    int nMonth;
+    int nDay;
+    int nDayOfWeek;
+};
+
+// Runs of one or two letters are numbers, longer ones names; a year of more than two has its century.
+WideText FormatPiece(const PatternPiece& piece, const DateParts& date, bool bBesideDay)
+{
+    switch (piece.letter) {
+    case 'd':
+        return piece.nCount < 3 ? ToDigits(date.nDay, piece.nCount)
+                                : GetDayInfo(date.nDayOfWeek, piece.nCount == 3);
+    case 'M':
+        return piece.nCount < 3 ? ToDigits(date.nMonth, piece.nCount)
+                                : GetMonthInfo(date.nMonth, piece.nCount == 3, bBesideDay);
+    case 'y':
+        return piece.nCount < 3 ? ToDigits(date.nYear % 100, piece.nCount) : ToDigits(date.nYear, 4);
+    default:
+        return piece.strText;
+    }
+}
+
+bool IsDayNumber(const PatternPiece& piece)
+{
+    return piece.letter == 'd' && piece.nCount < 3;
+}
+
+}
+
+int LocaleUtils::GetFirstDayOfWeek()
+{
+    const WideText strDay = GetInfo(LOCALE_IFIRSTDAYOFWEEK);
+    const int nFromMonday = strDay.empty() ? 6 : strDay.front() - '0';
+    return (nFromMonday + 1) % 7 + 1;
+}
+
+CString LocaleUtils::GetDayName(int nDayOfWeek, bool bShort)
+{
+    return FromWide(GetDayInfo(nDayOfWeek, bShort));
+}
+
+CString LocaleUtils::GetMonthName(int nMonth, bool bShort)
+{
+    return FromWide(GetMonthInfo(nMonth, bShort, false));
+}
+
+CString LocaleUtils::FormatDate(int nYear, int nMonth, int nDay, int nDayOfWeek, bool bShort)
+{
+    const auto vPieces = SplitPattern(GetInfo(bShort ? LOCALE_SSHORTDATE : LOCALE_SLONGDATE));
+    const bool bBesideDay = std::any_of(vPieces.begin(), vPieces.end(), IsDayNumber);
+    WideText strDate;
+    for (const PatternPiece& piece : vPieces)
+        strDate += FormatPiece(piece, {nYear, nMonth, nDay, nDayOfWeek}, bBesideDay);
+    return FromWide(strDate);
+}
+
+bool LocaleUtils::SetLocale(const CString& strName)
+{
+    const WideText strLocale = ToWide(strName);
+    if (!strLocale.empty() && !IsValidLocaleName(strLocale.c_str()))
+        return false;
+    g_strLocale = strLocale;
+    return true;
+}
