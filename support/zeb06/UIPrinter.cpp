@@ -18,6 +18,12 @@ constexpr COLORREF TEXT_COLOR = RGB(0, 0, 0);
 
 CString s_strOutputFile;
 
+// `nValue` times a fraction of positive numbers, rounded to the nearest.
+int Scale(int nValue, int nNumerator, int nDenominator)
+{
+    return (nValue * nNumerator + nDenominator / 2) / nDenominator;
+}
+
 struct DialogError
 {
     DWORD dwCode;
@@ -81,7 +87,7 @@ struct UIPrinter::Job
     // The distance of the edge of the paper's printable area, and what is left of a margin inside it.
     int GetDeviceMargin(int nMargin, int nDpi, int nUnprintable) const
     {
-        return std::max(::MulDiv(nMargin, nDpi, MARGIN_UNITS_PER_INCH) - nUnprintable, 0);
+        return std::max(Scale(nMargin, nDpi, MARGIN_UNITS_PER_INCH) - nUnprintable, 0);
     }
 
     // The page within its margins, in logical units from the corner of the printable area.
@@ -102,7 +108,7 @@ struct UIPrinter::Job
     void CreatePointFont(CFont& font, int nPoints, int nWeight) const
     {
         LOGFONTA lf = {};
-        lf.lfHeight = -::MulDiv(nPoints, m_sizeUnits.cy, POINTS_PER_INCH);
+        lf.lfHeight = -Scale(nPoints, m_sizeUnits.cy, POINTS_PER_INCH);
         lf.lfWeight = nWeight;
         lf.lfCharSet = DEFAULT_CHARSET;
         ::lstrcpynA(lf.lfFaceName, FACE, LF_FACESIZE);
@@ -176,7 +182,7 @@ void UIPrinter::CreateContentFont(CFont& font) const
 {
     const CRect& rect = m_pJob->m_page.m_rectDraw;
     const int nSide = std::min(rect.Width(), rect.Height());
-    const int nPoints = ::MulDiv(nSide, POINTS_PER_INCH, m_pJob->m_sizeUnits.cy * CONTENT_LINES);
+    const int nPoints = Scale(nSide, POINTS_PER_INCH, m_pJob->m_sizeUnits.cy * CONTENT_LINES);
     m_pJob->CreatePointFont(font, std::max(nPoints, MIN_CONTENT_POINTS), FW_NORMAL);
 }
 
