@@ -203,7 +203,12 @@ bool DateEntry::IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const
 
 bool DateEntry::IsMatchNear(int nDay, int nMonth, int nYear) const
 {
-    const std::int32_t nSigned = m_nRuleWord == RULE_NEAR_DAY ? m_anRule[2] : m_anRule[3];
+    const bool bNearDay = m_nRuleWord == RULE_NEAR_DAY;
+    const long long nAnchorMonth = bNearDay ? m_anRule[1] : m_anRule[2];
+    if (std::abs(nAnchorMonth - nMonth) > 1) // spares most dates the arithmetic
+        return false;
+
+    const std::int32_t nSigned = bNearDay ? m_anRule[2] : m_anRule[3];
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     if (nQueried == DayNumbers::kNone || !IsSignedDayOfWeek(nSigned) ||
         DayNumbers::DayOfWeek(nQueried) != std::abs(nSigned))

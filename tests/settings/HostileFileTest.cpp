@@ -1,19 +1,15 @@
 // Files that are damaged or made to do harm: what Load answers, what it keeps, and what it costs.
+#include "CountedNew.h"
 #include "DataDirectory.h"
 #include "FileBytes.h"
 
 #include <CalendarSettings.h>
 
-#include <cstdlib>
-#include <new>
 #include <stdexcept>
 
 namespace {
 
 using enum CalendarSettings::Group;
-
-// What was asked of the heap since the last reset. The tests of this program run on one thread.
-std::size_t g_nAllocated = 0;
 
 enum class Outcome
 {
@@ -55,23 +51,6 @@ class HostileFile : public DataDirectory
 {
 };
 
-}
-
-// Replaced to keep count; the size of a freed block doesn't matter here.
-void* operator new(std::size_t nSize)
-{
-    g_nAllocated += nSize;
-    if (void* p = std::malloc(nSize))
-        return p;
-    throw std::bad_alloc();
-}
-void operator delete(void* p) noexcept
-{
-    std::free(p);
-}
-void operator delete(void* p, std::size_t) noexcept
-{
-    std::free(p);
 }
 
 TEST_F(HostileFile, CutAtAnyByte)

@@ -12,6 +12,7 @@ inline constexpr CalendarSettings::Group kMarkedGroups[] = {
 // The number is from 1; the file grows with it, over several buffers.
 inline void SetMark(CalendarSettings& settings, int nMark)
 {
+    DatesCustom::s_nNextCustomID = 10000; // whatever the process did before
     for (int i = 0; i < 100 * nMark; ++i) {
         auto pEntry = std::make_unique<CalendarDateEntry>();
         pEntry->SetDay("One of many own dates", 4, 7);
