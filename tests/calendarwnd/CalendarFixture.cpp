@@ -14,7 +14,7 @@ class Session : public testing::Environment
 public:
     void SetUp() override
     {
-        AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), SW_SHOW);
+        AfxWinInit(::GetModuleHandleA(nullptr), nullptr, "", SW_SHOW);
         const Gdiplus::GdiplusStartupInput input;
         ASSERT_EQ(Gdiplus::GdiplusStartup(&m_token, &input, nullptr), Gdiplus::Ok);
     }
@@ -107,28 +107,34 @@ int Picture::Darkest(const CRect& rc) const
 
 CalendarTest::CalendarTest()
     : m_directory(std::filesystem::temp_directory_path() /
-                  ("zeb17_calendar_" + std::to_string(std::random_device{}()))),
-      calendar(std::make_unique<TestCalendar>())
+                  ("zeb17_calendar_" + std::to_string(std::random_device{}())))
 {
     std::filesystem::create_directory(m_directory);
     ZebrikUtils::SetDataDirectory(m_directory.string().c_str());
     Clock::SetToday(2026, 7, 15);
     LocaleUtils::SetLocale("en-US");
-    calendar->m_date.SetToCurrent(); // the object was made before the clock was set
+    Renew(); // now that the clock is set
     const LPCTSTR strClass =
         AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)), nullptr);
     parent.CreateEx(0, strClass, "parent", WS_POPUP | WS_VISIBLE, CRect(0, 0, 500, 400), nullptr, 0);
-    parent.m_pCalendar = calendar.get();
 }
 
 CalendarTest::~CalendarTest()
 {
+    parent.m_pCalendar = nullptr;
     calendar.reset();
     parent.DestroyWindow();
     LocaleUtils::SetLocale("");
     Clock::Release();
     ZebrikUtils::SetDataDirectory("");
     std::filesystem::remove_all(m_directory);
+}
+
+void CalendarTest::Renew()
+{
+    parent.m_pCalendar = nullptr;
+    calendar = std::make_unique<TestCalendar>();
+    parent.m_pCalendar = calendar.get();
 }
 
 bool CalendarTest::Create(const Flags& flags, int nWidth, int nHeight)

@@ -138,6 +138,8 @@ protected:
     ~CalendarTest() override;
 
     bool Create(const Flags& flags = {}, int nWidth = kWidth, int nHeight = kHeight);
+    // Starts over with a new control.
+    void Renew();
     // Creates the control, paints it, gives it the focus, and forgets what was heard.
     void Start(const Flags& flags = {});
     // Puts the control in a state without a word to the parent, and paints it.

@@ -62,7 +62,7 @@ TEST_F(CreationTest, EndsWithoutADateAndSaysSo)
     EXPECT_NE(calendar->m_toolTip.m_hWnd, nullptr);
     EXPECT_EQ(calendar->GetStyle() & (WS_CHILD | WS_VISIBLE | WS_TABSTOP),
               WS_CHILD | WS_VISIBLE | WS_TABSTOP);
-    EXPECT_EQ(::GetClassLongA(calendar->m_hWnd, GCL_STYLE), 0x843u);
+    EXPECT_EQ(::GetClassLongPtrA(calendar->m_hWnd, GCL_STYLE), 0x843u);
 }
 
 // Buttons with their captions and ids, for each choice of the two optional ones.
@@ -70,7 +70,7 @@ TEST_F(CreationTest, Buttons)
 {
     for (const bool bOptions : {false, true})
         for (const bool bNoDate : {false, true}) {
-            calendar = std::make_unique<TestCalendar>();
+            Renew();
             ASSERT_TRUE(
                 Create({.bUseSpecialDates = false, .bAllowNoDate = bNoDate, .bShowOptions = bOptions}));
             EXPECT_EQ(calendar->m_toolTip.m_hWnd, nullptr);
@@ -108,7 +108,7 @@ TEST_F(CreationTest, FileIsReadForSpecialDatesOnly)
     AddSpecialDay("Stored", 10, 7, RGB(1, 2, 3));
     calendar->m_settings.Save();
     for (const bool bUse : {false, true}) {
-        calendar = std::make_unique<TestCalendar>();
+        Renew();
         ASSERT_TRUE(Create({.bUseSpecialDates = bUse}));
         EXPECT_EQ(calendar->m_settings.GetCount(CalendarSettings::GroupCustom), bUse ? 1u : 0u);
         EXPECT_EQ(calendar->m_vDayDescs[2 + 10], bUse ? "Stored" : "");
@@ -180,8 +180,7 @@ TEST_F(CreationTest, RefusedButtons)
             SCOPED_TRACE(c.strMark);
             AppLogger::m_pInstance = bLog ? &logger : nullptr;
             logger.m_lines.clear();
-            calendar = std::make_unique<TestCalendar>();
-            parent.m_pCalendar = calendar.get();
+            Renew();
             if (c.pButton == nullptr)
                 Replace<CDownArrowButton>(calendar->m_pOptionsButton, new RefusedButton<CDownArrowButton>);
             else

@@ -91,8 +91,7 @@ TEST_F(InputTest, FocusRing)
 {
     for (const bool bOptions : {false, true})
         for (const bool bNoDate : {false, true}) {
-            calendar = std::make_unique<TestCalendar>();
-            parent.m_pCalendar = calendar.get();
+            Renew();
             Start({.bAllowNoDate = bNoDate, .bShowOptions = bOptions});
             std::vector<CWnd*> ring = {
                 calendar.get(),

@@ -60,7 +60,7 @@ TEST_F(LayoutTest, AnySize)
 {
     for (const CSize size : {CSize(0, 0), CSize(1, 1), CSize(1, 300), CSize(300, 1), CSize(99, 48),
                              CSize(99, 49), CSize(20, 75), CSize(480, 380), CSize(-30, -40)}) {
-        calendar = std::make_unique<TestCalendar>();
+        Renew();
         ASSERT_TRUE(Create({}, size.cx, size.cy));
         calendar->SetFocus();
         Repaint();

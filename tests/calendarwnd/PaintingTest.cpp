@@ -190,8 +190,7 @@ TEST_F(PaintingTest, WithoutADateTheGridIsEmpty)
 
 TEST_F(PaintingTest, WithoutSpecialDatesThereAreNoTools)
 {
-    calendar = std::make_unique<TestCalendar>();
-    parent.m_pCalendar = calendar.get();
+    Renew();
     Start({.bUseSpecialDates = false});
     AddSpecialDay("Tip", 4, 7, RGB(10, 120, 220));
     Show(Date(2026, 7, 9), true);
