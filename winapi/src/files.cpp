@@ -72,6 +72,12 @@ BOOL failOnPath(const char* path)
     return failWithErrno();
 }
 
+// The handle is a good one, so a bad descriptor was opened for the other direction.
+BOOL failOnTransfer()
+{
+    return errno == EBADF ? fail(ERROR_ACCESS_DENIED) : failWithErrno();
+}
+
 int openFlags(DWORD access, DWORD disposition)
 {
     constexpr int kDisposition[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0, O_CREAT, O_TRUNC};
@@ -144,7 +150,7 @@ BOOL ReadFile(HANDLE file, LPVOID buffer, DWORD count, LPDWORD read, LPOVERLAPPE
         if (part > 0)
             *read += static_cast<DWORD>(part);
         else if (errno != EINTR)
-            return failWithErrno();
+            return failOnTransfer();
     }
     return TRUE;
 }
@@ -161,7 +167,7 @@ BOOL WriteFile(HANDLE file, LPCVOID buffer, DWORD count, LPDWORD written, LPOVER
         if (part >= 0)
             *written += static_cast<DWORD>(part);
         else if (errno != EINTR)
-            return failWithErrno();
+            return failOnTransfer();
     }
     return TRUE;
 }

@@ -1,0 +1,274 @@
+// The bytes of an archive, and archives that lie.
+#include <afx.h>
+
+#include <FileFault.h>
+#include <TemporaryDirectory.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+using namespace std::string_literals;
+
+namespace {
+
+class Archive : public testing::Test
+{
+protected:
+    ~Archive() override { g_fileFault = nullptr; }
+
+    std::string Path() const { return m_directory.PathOf("a.dat"); }
+
+    std::string BytesOf(const std::function<void(CArchive&)>& write)
+    {
+        CFile file(Path().c_str(), 0x1001);
+        CArchive ar(&file, CArchive::store, 4096, nullptr);
+        write(ar);
+        ar.Close();
+        file.Close();
+        return m_directory.Read("a.dat");
+    }
+
+    void Read(const std::string& bytes, const std::function<void(CArchive&)>& read)
+    {
+        m_directory.Write("a.dat", bytes);
+        CFile file(Path().c_str(), 0);
+        CArchive ar(&file, CArchive::load, 4096, nullptr);
+        read(ar);
+        ar.Close();
+    }
+
+    // The cause with which reading fails.
+    int CauseOf(const std::string& bytes, const std::function<void(CArchive&)>& read)
+    {
+        try {
+            Read(bytes, read);
+        } catch (CArchiveException* error) {
+            const int cause = error->m_cause;
+            EXPECT_EQ(error->m_strFileName, Path().c_str());
+            error->Delete();
+            return cause;
+        }
+        return CArchiveException::none;
+    }
+
+    TemporaryDirectory m_directory;
+};
+
+TEST_F(Archive, KeepsNumbersInTheirWidth)
+{
+    const auto bytes = BytesOf([](CArchive& ar) {
+        ar << BYTE(0xFE) << WORD(0x1234) << DWORD(0x89ABCDEF) << -2 << LONG(-3) << ULONGLONG(1) << short(-1);
+    });
+    EXPECT_EQ(bytes,
+              "\xFE\x34\x12\xEF\xCD\xAB\x89\xFE\xFF\xFF\xFF\xFD\xFF\xFF\xFF\x01\0\0\0\0\0\0\0\xFF\xFF"s);
+
+    Read(bytes, [](CArchive& ar) {
+        BYTE b;
+        WORD w;
+        DWORD d;
+        int i;
+        LONG l;
+        ULONGLONG q;
+        short s;
+        ar >> b >> w >> d >> i >> l >> q >> s;
+        EXPECT_EQ(b, 0xFE);
+        EXPECT_EQ(w, 0x1234);
+        EXPECT_EQ(d, 0x89ABCDEFu);
+        EXPECT_EQ(i, -2);
+        EXPECT_EQ(l, -3);
+        EXPECT_EQ(q, 1u);
+        EXPECT_EQ(s, -1);
+        EXPECT_EQ(ar.GetBytesLeft(), 0u);
+    });
+}
+
+struct LengthCase
+{
+    std::size_t length;
+    std::string leadIn;
+};
+
+TEST_F(Archive, WritesTextsWithTheShortestLength)
+{
+    const LengthCase kCases[] = {
+        {0, "\0"s},
+        {254, "\xFE"s},
+        {255, "\xFF\xFF\0"s},
+        {0xFFFD, "\xFF\xFD\xFF"s},
+        {0xFFFE, "\xFF\xFF\xFF\xFE\xFF\0\0"s},
+        {70000, "\xFF\xFF\xFF\x70\x11\x01\0"s},
+    };
+    for (const auto& [length, leadIn] : kCases) {
+        const std::string text(length, 'x');
+        const auto bytes = BytesOf([&text](CArchive& ar) { ar << CString(text); });
+        EXPECT_EQ(bytes.substr(0, leadIn.size()), leadIn) << length;
+        EXPECT_EQ(bytes.size(), leadIn.size() + length);
+        Read(bytes, [&text](CArchive& ar) {
+            CString read;
+            ar >> read;
+            EXPECT_EQ(read, text.c_str()) << text.size();
+        });
+    }
+}
+
+TEST_F(Archive, ReadsEveryFormOfLength)
+{
+    const std::string kForms[] = {"\x02"s
+                                  "ab",
+                                  "\xFF\x02\0"s
+                                  "ab",
+                                  "\xFF\xFF\xFF\x02\0\0\0"s
+                                  "ab",
+                                  "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x02\0\0\0\0\0\0\0"s
+                                  "ab",
+                                  // Of 16-bit characters, with the length in each form.
+                                  "\xFF\xFE\xFF\x02"s
+                                  "a\0b\0"s,
+                                  "\xFF\xFE\xFF\xFF\x02\0"s
+                                  "a\0b\0"s,
+                                  "\xFF\xFE\xFF\xFF\xFF\xFF\x02\0\0\0"s
+                                  "a\0b\0"s};
+    for (const auto& form : kForms)
+        Read(form + "!", [](CArchive& ar) {
+            CString text;
+            char next;
+            ar >> text >> next;
+            EXPECT_EQ(text, "ab");
+            EXPECT_EQ(next, '!');
+        });
+}
+
+struct CountCase
+{
+    ULONGLONG count;
+    std::string bytes;
+};
+
+TEST_F(Archive, CountsInThreeWidths)
+{
+    const CountCase kCases[] = {
+        {0, "\0\0"s},
+        {0xFFFE, "\xFE\xFF"s},
+        {0xFFFF, "\xFF\xFF\xFF\xFF\0\0"s},
+        {0xFFFFFFFE, "\xFF\xFF\xFE\xFF\xFF\xFF"s},
+        {0xFFFFFFFF, "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0"s},
+    };
+    for (const auto& [count, bytes] : kCases) {
+        EXPECT_EQ(BytesOf([&](CArchive& ar) { ar.WriteCount(count); }), bytes);
+        Read(bytes, [&](CArchive& ar) { EXPECT_EQ(ar.ReadCount(), count); });
+    }
+}
+
+TEST_F(Archive, ListsOfTextsComeBackAndAppend)
+{
+    CStringList list;
+    for (const char* text : {"US", "", "Canada"})
+        list.AddTail(text);
+    const auto bytes = BytesOf([&](CArchive& ar) { list.Serialize(ar); });
+    EXPECT_EQ(bytes, "\x03\0\x02US\0\x06"s
+                     "Canada");
+    Read(bytes, [&](CArchive& ar) { list.Serialize(ar); });
+    EXPECT_EQ(list.GetCount(), 6);
+}
+
+TEST_F(Archive, EndsEarlyWithAnExceptionAndWithoutTakingMemory)
+{
+    const auto readText = [](CArchive& ar) {
+        CString text;
+        ar >> text;
+    };
+    const auto readList = [](CArchive& ar) { CStringList().Serialize(ar); };
+    const auto readNumber = [](CArchive& ar) {
+        DWORD number;
+        ar >> number;
+    };
+    const std::string kBadTexts[] = {
+        ""s,
+        "\x03"s
+        "ab",
+        "\xFF"s,
+        "\xFF\xFF\xFF"s,
+        "\xFF\xFE\xFF"s,
+        "\xFF\xFF\xFF\xFE\xFF\xFF\xFF"s
+        "ab",                                                            // 4 GB
+        "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"s, // more than there is
+        "\xFF\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF"s
+        "a",
+        "\xFF\xFE\xFF\x02"s
+        "a\0b"s};
+    for (const auto& bytes : kBadTexts)
+        EXPECT_EQ(CauseOf(bytes, readText), CArchiveException::endOfFile) << bytes.size();
+    EXPECT_EQ(CauseOf("\x01\x02\x03", readNumber), CArchiveException::endOfFile);
+    EXPECT_EQ(CauseOf("\xFF\xFF\xFF\xFF\xFF\x7F\x01z", readList), CArchiveException::endOfFile);
+}
+
+TEST_F(Archive, HasOneDirection)
+{
+    EXPECT_EQ(CauseOf("abcd", [](CArchive& ar) { ar << 1; }), CArchiveException::readOnly);
+    const auto readFromStoring = [this] {
+        BytesOf([](CArchive& ar) {
+            int number;
+            ar >> number;
+        });
+    };
+    EXPECT_THROW(readFromStoring(), CArchiveException*);
+}
+
+// Longer than the buffer, so that both ends of it are crossed.
+TEST_F(Archive, BuffersWholeAndInPart)
+{
+    std::string content;
+    for (int i = 0; i < 3000; ++i)
+        content += std::to_string(i);
+    const auto bytes = BytesOf([&](CArchive& ar) {
+        ar << WORD(1);
+        ar.Write(content.data(), static_cast<UINT>(content.size()));
+        ar.Flush();
+        ar << WORD(2);
+    });
+    EXPECT_EQ(bytes, "\x01\0"s + content + "\x02\0"s);
+
+    Read(bytes, [&](CArchive& ar) {
+        WORD number;
+        ar >> number;
+        EXPECT_EQ(ar.GetBytesLeft(), bytes.size() - 2);
+        ar.Flush();
+        EXPECT_EQ(ar.GetFile()->GetPosition(), 2u) << "where the archive is";
+        std::string read(content.size(), '\0');
+        EXPECT_EQ(ar.Read(read.data(), static_cast<UINT>(read.size())), read.size());
+        EXPECT_EQ(read, content);
+        char rest[10];
+        EXPECT_EQ(ar.Read(rest, sizeof(rest)), 2u);
+    });
+}
+
+TEST_F(Archive, ReportsAFailedWriteOnceAndDropsWhatIsBufferedWhileAnExceptionPasses)
+{
+    g_fileFault = [](FileOperation operation) -> DWORD {
+        return operation == FileOperation::Write ? ERROR_DISK_FULL : ERROR_SUCCESS;
+    };
+    const auto closeInDestructor = [this] {
+        CFile file(Path().c_str(), 0x1001);
+        CArchive(&file, CArchive::store) << 1;
+    };
+    try {
+        closeInDestructor();
+        FAIL() << "The failure was lost.";
+    } catch (CFileException* error) {
+        EXPECT_EQ(error->m_cause, CFileException::diskFull);
+        error->Delete();
+    }
+
+    const auto throwWithOpenArchive = [this] {
+        CFile file(Path().c_str(), 0x1001);
+        CArchive ar(&file, CArchive::store);
+        ar << 1;
+        throw std::runtime_error("first");
+    };
+    EXPECT_THROW(throwWithOpenArchive(), std::runtime_error);
+    EXPECT_EQ(m_directory.Read("a.dat"), "");
+}
+
+}

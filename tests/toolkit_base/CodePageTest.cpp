@@ -1,0 +1,73 @@
+// Conversion between 8-bit and 16-bit text.
+#include <WideText.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Units = std::vector<unsigned>;
+
+Units UnitsOf(const WideText& wide)
+{
+    return Units(wide.begin(), wide.end());
+}
+
+struct Utf8Case
+{
+    const char* text;
+    Units units;
+};
+
+TEST(CodePage, ConvertsUtf8BothWays)
+{
+    const Utf8Case kCases[] = {
+        {"", {}},
+        {"Mei", {'M', 'e', 'i'}},
+        {"\x7F\xC2\x80\xDF\xBF", {0x7F, 0x80, 0x7FF}},
+        {"\xE0\xA0\x80\xEF\xBF\xBD", {0x800, 0xFFFD}},
+        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", {0xD800, 0xDC00, 0xDBFF, 0xDFFF}},
+    };
+    for (const auto& [text, units] : kCases) {
+        const WideText wide = ToWide(text, CP_UTF8);
+        EXPECT_EQ(UnitsOf(wide), units) << text;
+        EXPECT_EQ(FromWide(wide, CP_UTF8), text);
+    }
+}
+
+TEST(CodePage, RefusesWhatIsNoUtf8IfAsked)
+{
+    // A lone follower, a cut character, an overlong slash, a surrogate, one behind the last, a bad lead.
+    for (const char* text : {"\x80", "a\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {
+        EXPECT_EQ(MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text, -1, nullptr, 0), 0) << text;
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_UNICODE_TRANSLATION));
+        EXPECT_NE(ToWide(text, CP_UTF8).find(WCHAR(0xFFFD)), WideText::npos) << text;
+    }
+}
+
+TEST(CodePage, CountsAndKeepsToTheBuffer)
+{
+    WCHAR wide[8];
+    EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, "abc", -1, nullptr, 0), 4) << "with the null";
+    EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, "abc", 3, nullptr, 0), 3);
+    EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, "abc", -1, wide, 8), 4);
+    EXPECT_EQ(wide[3], 0);
+    EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, "abc", -1, wide, 3), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INSUFFICIENT_BUFFER));
+
+    const WideText lone(1, WCHAR(0xD800));
+    EXPECT_EQ(FromWide(lone, CP_UTF8), "\xEF\xBF\xBD");
+}
+
+TEST(CodePage, CopiesWithinTheBuffer)
+{
+    char text[4] = "xxx";
+    EXPECT_STREQ(lstrcpynA(text, "May 2007", 4), "May");
+    EXPECT_STREQ(lstrcpynA(text, "a", 4), "a");
+    EXPECT_STREQ(lstrcpynA(text, "abc", 1), "");
+    EXPECT_EQ(lstrlenA(nullptr), 0);
+}
+
+}

@@ -1,0 +1,127 @@
+// CFile and its failures.
+#include <afx.h>
+
+#include <TemporaryDirectory.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+constexpr UINT kCreate = CFile::modeCreate | CFile::modeWrite;
+
+// The cause with which the action fails; its exception must name the path.
+int CauseOf(const std::function<void()>& action, const std::string& path)
+{
+    try {
+        action();
+    } catch (CFileException* error) {
+        const int cause = error->m_cause;
+        EXPECT_EQ(error->m_strFileName, path.c_str());
+        EXPECT_GT(error->m_lOsError, 0);
+        error->Delete();
+        return cause;
+    }
+    return CFileException::none;
+}
+
+class File : public testing::Test
+{
+protected:
+    TemporaryDirectory m_directory;
+};
+
+TEST_F(File, WritesSeeksAndReads)
+{
+    const std::string path = m_directory.PathOf("a.dat");
+    CFile file(path.c_str(), 0x1001);
+    file.Write("0123456789", 10);
+    EXPECT_EQ(file.GetPosition(), 10u);
+    file.Seek(-4, CFile::end);
+    file.Write("ab", 2);
+    file.Flush();
+    EXPECT_EQ(file.GetLength(), 10u);
+    EXPECT_EQ(file.GetFilePath(), path.c_str());
+    file.Close();
+    EXPECT_EQ(m_directory.Read("a.dat"), "012345ab89");
+
+    CFile again(path.c_str(), 0);
+    char text[20] = {};
+    EXPECT_EQ(again.Seek(5, CFile::begin), 5u);
+    EXPECT_EQ(again.Read(text, sizeof(text)), 5u);
+    EXPECT_STREQ(text, "5ab89");
+    EXPECT_EQ(again.Read(text, sizeof(text)), 0u);
+    EXPECT_EQ(CauseOf([&] { again.Seek(-1, CFile::begin); }, path), CFileException::badSeek);
+    EXPECT_EQ(CauseOf([&] { again.Write("x", 1); }, path), CFileException::accessDenied);
+}
+
+TEST_F(File, CreateEmptiesUnlessToldNotTo)
+{
+    m_directory.Write("a.dat", "old");
+    const std::string path = m_directory.PathOf("a.dat");
+    CFile(path.c_str(), kCreate | CFile::modeNoTruncate).Close();
+    EXPECT_EQ(m_directory.Read("a.dat"), "old");
+    CFile(path.c_str(), kCreate).Close();
+    EXPECT_EQ(m_directory.Read("a.dat"), "");
+}
+
+TEST_F(File, OpeningFailsWithCauseAndPath)
+{
+    m_directory.Write("readonly.dat", "x");
+    m_directory.Write("file", "x");
+    std::filesystem::create_directory(m_directory.PathOf("directory"));
+    SetFileAttributesA(m_directory.PathOf("readonly.dat").c_str(), FILE_ATTRIBUTE_READONLY);
+    struct Case
+    {
+        const char* name;
+        UINT flags;
+        int cause;
+    };
+    constexpr Case kCases[] = {
+        {"missing.dat", CFile::modeRead, CFileException::fileNotFound},
+        {"missing/a.dat", CFile::modeRead, CFileException::badPath},
+        {"missing/a.dat", kCreate, CFileException::badPath},
+        {"file/a.dat", kCreate, CFileException::badPath},
+        {"directory", CFile::modeRead, CFileException::accessDenied},
+        {"directory", kCreate, CFileException::accessDenied},
+        {"readonly.dat", kCreate, CFileException::accessDenied},
+        {"readonly.dat", CFile::modeRead, CFileException::none},
+    };
+    for (const auto& [name, flags, cause] : kCases) {
+        const std::string path = m_directory.PathOf(name);
+        EXPECT_EQ(CauseOf([&] { CFile(path.c_str(), flags); }, path), cause) << name << " " << flags;
+    }
+    EXPECT_EQ(m_directory.Read("readonly.dat"), "x");
+
+    CFile file;
+    EXPECT_FALSE(file.Open(m_directory.PathOf("missing.dat").c_str(), CFile::modeRead));
+    SetFileAttributesA(m_directory.PathOf("readonly.dat").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(File, RenamesAndRemoves)
+{
+    m_directory.Write("a", "1");
+    m_directory.Write("b", "2");
+    const std::string a = m_directory.PathOf("a");
+    const std::string b = m_directory.PathOf("b");
+    const std::string c = m_directory.PathOf("c");
+    EXPECT_EQ(CauseOf([&] { CFile::Rename(a.c_str(), b.c_str()); }, a), CFileException::accessDenied)
+        << "exists";
+    EXPECT_EQ(CauseOf([&] { CFile::Rename(c.c_str(), a.c_str()); }, c), CFileException::fileNotFound);
+    CFile::Rename(a.c_str(), c.c_str());
+    EXPECT_EQ(m_directory.Read("c"), "1");
+    CFile::Remove(c.c_str());
+    EXPECT_EQ(CauseOf([&] { CFile::Remove(c.c_str()); }, c), CFileException::fileNotFound);
+
+    // Over a file that may not be overwritten, nor over a directory, no file is moved.
+    CFile(c.c_str(), kCreate).Close();
+    SetFileAttributesA(b.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_FALSE(MoveFileExA(c.c_str(), b.c_str(), MOVEFILE_REPLACE_EXISTING));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(CauseOf([&] { CFile::Remove(b.c_str()); }, b), CFileException::accessDenied);
+    SetFileAttributesA(b.c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_TRUE(MoveFileExA(c.c_str(), b.c_str(), MOVEFILE_REPLACE_EXISTING));
+}
+
+}

@@ -1,0 +1,50 @@
+// Run-time class information and the exceptions' texts.
+#include <afx.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Animal : public CObject
+{
+    DECLARE_DYNAMIC(Animal)
+};
+
+class Dog : public Animal
+{
+    DECLARE_DYNAMIC(Dog)
+};
+
+IMPLEMENT_DYNAMIC(Animal, CObject)
+IMPLEMENT_DYNAMIC(Dog, Animal)
+
+TEST(Object, KnowsItsClassAndThoseAbove)
+{
+    const Dog dog;
+    const CObject& object = dog;
+    EXPECT_STREQ(object.GetRuntimeClass()->m_lpszClassName, "Dog");
+    EXPECT_EQ(object.GetRuntimeClass()->m_wSchema, 0xFFFFu);
+    EXPECT_EQ(object.GetRuntimeClass()->m_pfnCreateObject, nullptr);
+    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(Dog)));
+    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(CObject)));
+    EXPECT_FALSE(Animal().IsKindOf(RUNTIME_CLASS(Dog)));
+    EXPECT_FALSE(object.IsKindOf(RUNTIME_CLASS(CFile)));
+}
+
+TEST(Exception, TellsWhatFailedAndFitsTheBuffer)
+{
+    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "lost.dat");
+    char text[200];
+    ASSERT_TRUE(error.GetErrorMessage(text, sizeof(text)));
+    EXPECT_EQ(CString(text).Find("lost.dat: "), 0);
+    EXPECT_GT(CString(text).GetLength(), 15);
+
+    char small[5];
+    ASSERT_TRUE(error.GetErrorMessage(small, sizeof(small)));
+    EXPECT_STREQ(small, "lost");
+
+    ASSERT_TRUE(CArchiveException(CArchiveException::endOfFile).GetErrorMessage(text, sizeof(text)));
+    EXPECT_STREQ(text, "The file ends too early");
+}
+
+}
