@@ -13,10 +13,4 @@ public:
     //   nWeight    weight as in LOGFONT, 100 to 900; -1 for the normal weight
     static void SetDefaultFont(LOGFONTA& lf, const CString& strFace, int nHeight, int nWeight, bool bItalic,
                                bool bUnderline, bool bStrikeOut);
-
-    // The same colour, opaque, as GDI+ writes it: 0x00BBGGRR becomes 0xFFRRGGBB.
-    static constexpr DWORD ToArgb(COLORREF crColor)
-    {
-        return 0xFF000000u | GetRValue(crColor) << 16 | GetGValue(crColor) << 8 | GetBValue(crColor);
-    }
 };

@@ -1,11 +1,5 @@
 #include "ZEBIcon.h"
-#include "GraphicsUtils.h"
-#include <gdiplus.h>
-#include <array>
-#include <memory>
-
-using namespace Gdiplus;
-using namespace Gdiplus::DllExports;
+#include <iterator>
 
 namespace {
 // An arrow is a triangle with a right angle at its tip: `DEPTH` pixels deep, twice as high less one.
@@ -50,65 +44,23 @@ int GetWidth(const Shape& shape)
     return shape.nArrows * (ARROW_DEPTH + ARROW_GAP) - ARROW_GAP;
 }
 
-struct GraphicsDeleter
-{
-    void operator()(GpGraphics* pGraphics) const { GdipDeleteGraphics(pGraphics); }
-};
-
-struct BrushDeleter
-{
-    void operator()(GpSolidFill* pBrush) const { GdipDeleteBrush(pBrush); }
-};
-
-// Fails where GDI+ has not been started.
-bool FillSmoothly(HDC hDC, const std::array<PointF, 3>& points, COLORREF crFill)
-{
-    GpGraphics* pNewGraphics = nullptr;
-    if (GdipCreateFromHDC(hDC, &pNewGraphics) != Ok)
-        return false;
-    const std::unique_ptr<GpGraphics, GraphicsDeleter> pGraphics(pNewGraphics);
-
-    GpSolidFill* pNewBrush = nullptr;
-    if (GdipCreateSolidFill(GraphicsUtils::ToArgb(crFill), &pNewBrush) != Ok)
-        return false;
-    const std::unique_ptr<GpSolidFill, BrushDeleter> pBrush(pNewBrush);
-
-    GdipSetSmoothingMode(pGraphics.get(), SmoothingModeAntiAlias);
-    return GdipFillPolygon(pGraphics.get(), pBrush.get(), points.data(), static_cast<INT>(points.size()),
-                           FillModeAlternate) == Ok;
-}
-
-void FillPlainly(CDC* pDC, const std::array<POINT, 3>& points, COLORREF crFill)
-{
-    CBrush brush(crFill);
-    CPen pen(PS_SOLID, 1, crFill);
-    const HGDIOBJ hOldBrush = ::SelectObject(pDC->m_hDC, brush.m_hObject);
-    const HGDIOBJ hOldPen = ::SelectObject(pDC->m_hDC, pen.m_hObject);
-    ::Polygon(pDC->m_hDC, points.data(), static_cast<int>(points.size()));
-    ::SelectObject(pDC->m_hDC, hOldPen);
-    ::SelectObject(pDC->m_hDC, hOldBrush);
-}
-
-// `ptBase` is the pixel in the middle of the arrow's base.
+// `ptBase` is the pixel in the middle of the arrow's base. Its edges lie at 45 degrees, where whole pixels
+// make the clearest line.
 void DrawArrow(CDC* pDC, CPoint ptBase, Direction direction, int nDepth, COLORREF crArrow)
 {
     const auto [dx, dy] = direction;
-
-    // GDI+ counts from the middle of a pixel, and the smooth triangle stands on the outer edge of its base.
-    const float x = static_cast<float>(ptBase.x) - static_cast<float>(dx) / 2;
-    const float y = static_cast<float>(ptBase.y) - static_cast<float>(dy) / 2;
-    const auto fx = static_cast<float>(dx * nDepth);
-    const auto fy = static_cast<float>(dy * nDepth);
-    const std::array<PointF, 3> edges = {PointF(x + fy, y + fx), PointF(x - fy, y - fx),
-                                         PointF(x + fx, y + fy)};
-    if (FillSmoothly(pDC->m_hDC, edges, crArrow))
-        return;
-
     const int n = nDepth - 1;
-    const std::array<POINT, 3> pixels = {POINT{ptBase.x + n * dy, ptBase.y + n * dx},
-                                         POINT{ptBase.x - n * dy, ptBase.y - n * dx},
-                                         POINT{ptBase.x + n * dx, ptBase.y + n * dy}};
-    FillPlainly(pDC, pixels, crArrow);
+    const POINT points[] = {{ptBase.x + n * dy, ptBase.y + n * dx},
+                            {ptBase.x - n * dy, ptBase.y - n * dx},
+                            {ptBase.x + n * dx, ptBase.y + n * dy}};
+
+    CBrush brush(crArrow);
+    CPen pen(PS_SOLID, 1, crArrow);
+    CBrush* pOldBrush = pDC->SelectObject(&brush);
+    CPen* pOldPen = pDC->SelectObject(&pen);
+    pDC->Polygon(points, static_cast<int>(std::size(points)));
+    pDC->SelectObject(pOldPen);
+    pDC->SelectObject(pOldBrush);
 }
 }
 

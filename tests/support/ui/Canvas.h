@@ -1,0 +1,42 @@
+// A picture in memory to draw on and to look at.
+#pragma once
+
+#include <afxwin.h>
+
+class Canvas : public CDC
+{
+public:
+    Canvas(int nWidth, int nHeight) : m_rect(0, 0, nWidth, nHeight)
+    {
+        const HDC hScreen = ::GetDC(nullptr);
+        Attach(::CreateCompatibleDC(hScreen));
+        m_bitmap.Attach(::CreateCompatibleBitmap(hScreen, nWidth, nHeight));
+        ::ReleaseDC(nullptr, hScreen);
+        m_hOldBitmap = ::SelectObject(m_hDC, m_bitmap.m_hObject);
+        FillSolidRect(&m_rect, RGB(255, 255, 255));
+    }
+    ~Canvas() override { ::SelectObject(m_hDC, m_hOldBitmap); }
+
+    const CRect& GetRect() const { return m_rect; }
+
+    // The smallest rectangle around all pixels inside `rect` that `isInk` holds for; empty if there are none.
+    template <class Predicate>
+    CRect FindInk(const CRect& rect, Predicate isInk) const
+    {
+        CRect rcInk;
+        for (int y = rect.top; y < rect.bottom; ++y)
+            for (int x = rect.left; x < rect.right; ++x)
+                if (isInk(GetPixel(x, y)))
+                    rcInk.UnionRect(&rcInk, CRect(x, y, x + 1, y + 1));
+        return rcInk;
+    }
+    CRect FindInk(COLORREF crPaper = RGB(255, 255, 255)) const
+    {
+        return FindInk(m_rect, [=](COLORREF cr) { return cr != crPaper; });
+    }
+
+private:
+    CRect m_rect;
+    CBitmap m_bitmap;
+    HGDIOBJ m_hOldBitmap;
+};

@@ -1,0 +1,109 @@
+#include "Canvas.h"
+
+#include <afxext.h>
+
+#include <UIPrinter.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+// Prints on a context that the test gives it, and notes what was asked of it.
+class TestPrinter : public UIPrinter
+{
+public:
+    explicit TestPrinter(HDC hDC) : m_hDC(hDC) {}
+
+    int m_nContents = 0;
+    int m_nEnds = 0;
+
+protected:
+    void InitPrintProcess() override { SetPrintDC(m_hDC); }
+    void PrintPageContent(COLORREF) override { ++m_nContents; }
+    void EndPrintProcess() override
+    {
+        ++m_nEnds;
+        UIPrinter::EndPrintProcess();
+        EXPECT_EQ(GetPrintDC(), nullptr);
+    }
+
+private:
+    HDC m_hDC;
+};
+
+TEST(UIPrinterTest, WithoutAPrinterTheJobFails)
+{
+    PrintInfo info;
+    TestPrinter printer(nullptr);
+    printer.Print(&info);
+    EXPECT_TRUE(info.GetErrorMsg().Find("The printer could not be opened.") == 0) << info.GetErrorMsg();
+    EXPECT_EQ(printer.m_nContents, 0);
+    EXPECT_EQ(printer.m_nEnds, 1);
+    printer.Print(nullptr);
+    EXPECT_EQ(printer.m_nEnds, 1);
+}
+
+TEST(UIPrinterTest, ARefusedJobIsTold)
+{
+    const HDC hScreen = ::GetDC(nullptr);
+    PrintInfo info;
+    TestPrinter printer(::CreateCompatibleDC(hScreen)); // takes no job
+    ::ReleaseDC(nullptr, hScreen);
+    printer.Print(&info);
+    EXPECT_TRUE(info.GetErrorMsg().Find("The print job could not be started.") == 0) << info.GetErrorMsg();
+    EXPECT_EQ(printer.m_nContents, 0);
+    EXPECT_EQ(printer.m_nEnds, 1);
+}
+
+// Prints a page to a file on the default printer and notes its measures.
+class PagePrinter : public UIPrinter
+{
+public:
+    CRect m_rcContent;
+    CSize m_sizePaper; // in thousandths of an inch
+    CSize m_sizeLine;  // of content text, in logical units
+    COLORREF m_crText = CLR_INVALID;
+
+protected:
+    void PrintPageContent(COLORREF crText) override
+    {
+        const CDC& dc = *GetPrintDC();
+        m_crText = crText;
+        m_rcContent = GetPrintInfo()->m_rectDraw;
+        m_sizeLine = dc.GetTextExtent("30");
+        m_sizePaper.cx = dc.GetDeviceCaps(PHYSICALWIDTH) * 1000 / dc.GetDeviceCaps(LOGPIXELSX);
+        m_sizePaper.cy = dc.GetDeviceCaps(PHYSICALHEIGHT) * 1000 / dc.GetDeviceCaps(LOGPIXELSY);
+    }
+};
+
+TEST(UIPrinterTest, PageHasItsMarginsAndTextThatSuitsIt)
+{
+    CPrintDialog dialog(FALSE);
+    if (!dialog.GetDefaults())
+        GTEST_SKIP() << "no printer on this machine";
+
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "zeb17_page_test.prn";
+    UIPrinter::SetOutputFile(path.string().c_str());
+    PrintInfo info;
+    info.SetPageTitleText("September 2026");
+    info.m_rcPageMargins.SetRect(1000, 2000, 3000, 1500);
+    PagePrinter printer;
+    printer.Print(&info);
+    UIPrinter::SetOutputFile("");
+
+    EXPECT_STREQ(info.GetErrorMsg(), "");
+    EXPECT_TRUE(std::filesystem::exists(path));
+    std::filesystem::remove(path);
+    EXPECT_EQ(printer.m_crText, RGB(0, 0, 0));
+    EXPECT_NEAR(printer.m_rcContent.Width(), (printer.m_sizePaper.cx - 4000) * 96 / 1000, 2);
+    const int nPage = (printer.m_sizePaper.cy - 3500) * 96 / 1000;
+    EXPECT_LT(printer.m_rcContent.Height(), nPage - 20); // the heading takes its part
+    EXPECT_GT(printer.m_rcContent.Height(), nPage - 60);
+    EXPECT_LT(printer.m_sizeLine.cx, printer.m_rcContent.Width() / 7);
+    EXPECT_GT(printer.m_sizeLine.cy, 7);
+}
+
+}
