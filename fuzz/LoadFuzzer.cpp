@@ -1,0 +1,105 @@
+// Loads any bytes as the data file of one version (PATH_VERSION), and uses what was loaded.
+#include <CalendarSettings.h>
+#include <ZebrikUtils.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <limits>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using enum CalendarSettings::Group;
+
+constexpr CalendarSettings::Group kGroups[] = {GroupUS, GroupCanada, GroupNetherlands, GroupCustom,
+                                               GroupToDo};
+
+fs::path PathOf(unsigned short nVersion)
+{
+    return ZebrikUtils::GetCalendarSettingsPath(nVersion).GetString();
+}
+
+// In memory where there is such a place, since a save waits for the disk. Removed when the process ends.
+class Directory
+{
+public:
+    Directory()
+    {
+        const fs::path memory("/dev/shm");
+        m_path = (fs::is_directory(memory) ? memory : fs::temp_directory_path()) /
+                 ("zeb17-fuzz-" + std::to_string(GetCurrentProcessId()));
+        fs::create_directories(m_path);
+        ZebrikUtils::SetDataDirectory(m_path.string().c_str());
+        CalendarSettings::EnableToDoList();
+    }
+    ~Directory() { fs::remove_all(m_path); }
+
+private:
+    fs::path m_path;
+};
+
+// The only failures that a damaged file may end in.
+bool Load(CalendarSettings& settings)
+{
+    try {
+        return settings.Load();
+    } catch (CArchiveException* pException) {
+        pException->Delete();
+    } catch (const std::length_error&) {
+    }
+    return false;
+}
+
+std::string Save(CalendarSettings& settings)
+{
+    settings.Save();
+    std::ifstream file(PathOf(4), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Use(CalendarSettings& settings)
+{
+    constexpr int nMin = std::numeric_limits<int>::min();
+    constexpr int nMax = std::numeric_limits<int>::max();
+    for (const int nYear : {nMin, 0, 1582, 2026, 9999, nMax}) {
+        for (const int nMonth : {1, 4, 10, 12, nMax}) {
+            for (const int nDay : {1, 15, 31, nMin}) {
+                DWORD dwColor = 0;
+                settings.GetDateDesc(nDay, nMonth, nYear, dwColor);
+            }
+        }
+    }
+    for (const auto group : kGroups) {
+        for (std::size_t i = 0; i < settings.GetCount(group); ++i)
+            settings.GetAt(group, i)->IsValid();
+    }
+}
+
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
+{
+    static const Directory directory;
+    fs::remove(PathOf(4));
+    std::ofstream(PathOf(PATH_VERSION), std::ios::binary)
+        .write(reinterpret_cast<const char*>(pData), static_cast<std::streamsize>(nSize));
+
+    CalendarSettings settings;
+    const bool bLoaded = Load(settings);
+    Use(settings);
+    if (!bLoaded)
+        return 0;
+
+    // What a file holds survives being saved and loaded again.
+    const std::string strSaved = Save(settings);
+    CalendarSettings reloaded;
+    if (!Load(reloaded) || Save(reloaded) != strSaved)
+        std::abort();
+    return 0;
+}
