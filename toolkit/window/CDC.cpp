@@ -27,7 +27,7 @@ HDC CDC::Detach()
     const HDC hDC = std::exchange(m_hDC, nullptr);
     m_hAttribDC = nullptr;
     if (hDC)
-        ThreadState::Current().contexts.Detach(hDC);
+        ThreadState::Current().contexts.Detach(hDC, this);
     return hDC;
 }
 

@@ -64,7 +64,7 @@ HGDIOBJ CGdiObject::Detach()
 {
     const HGDIOBJ hObject = std::exchange(m_hObject, nullptr);
     if (hObject)
-        PermanentObjects().Detach(hObject);
+        PermanentObjects().Detach(hObject, this);
     return hObject;
 }
 

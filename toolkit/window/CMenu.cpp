@@ -20,7 +20,7 @@ HMENU CMenu::Detach()
 {
     const HMENU hMenu = std::exchange(m_hMenu, nullptr);
     if (hMenu)
-        ThreadState::Current().menus.Detach(hMenu);
+        ThreadState::Current().menus.Detach(hMenu, this);
     return hMenu;
 }
 

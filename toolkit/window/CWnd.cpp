@@ -5,6 +5,7 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
     ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
@@ -42,7 +43,7 @@ HWND CWnd::Detach()
     if (!m_hWnd)
         return nullptr;
     EnableToolTips(FALSE); // while the tip's tool can still be told by the handle
-    ThreadState::Current().windows.Detach(m_hWnd);
+    ThreadState::Current().windows.Detach(m_hWnd, this);
     return std::exchange(m_hWnd, nullptr);
 }
 
@@ -226,6 +227,17 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
     LRESULT result = 0;
     if (lpDrawItemStruct->CtlType != ODT_MENU &&
         ReflectToChild(lpDrawItemStruct->hwndItem, WM_DRAWITEM, message.wParam, message.lParam, &result))
+        return;
+    Default();
+}
+
+// Comes while the control is being created, when only its id is told.
+void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
+{
+    const MSG& message = *GetCurrentMessage();
+    LRESULT result = 0;
+    if (lpMeasureItemStruct->CtlType != ODT_MENU && ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM,
+                                                                   message.wParam, message.lParam, &result))
         return;
     Default();
 }

@@ -200,6 +200,7 @@ using Enable = AfxSignature<void, WParamBool>;
 using Show = AfxSignature<void, WParamBool, LParam>;
 using DlgCode = AfxSignature<UINT>;
 using DrawItem = AfxSignature<void, ControlId, LParamStruct<DRAWITEMSTRUCT>>;
+using MeasureItem = AfxSignature<void, ControlId, LParamStruct<MEASUREITEMSTRUCT>>;
 using MenuPopup = AfxSignature<void, WParamMenu, LParamLow, LParamHighBool>;
 using ContextMenu = AfxSignature<void, WParamWnd, LParamPoint>;
 using Message = AfxSignature<LRESULT, WParamWhole, LParamWhole>;
@@ -299,6 +300,7 @@ protected:                                                                      
 #define ON_WM_LBUTTONDBLCLK() AFX_MAP_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_LBUTTONDOWN() AFX_MAP_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
 #define ON_WM_LBUTTONUP() AFX_MAP_WM(WM_LBUTTONUP, Mouse, OnLButtonUp)
+#define ON_WM_MEASUREITEM() AFX_MAP_WM(WM_MEASUREITEM, MeasureItem, OnMeasureItem)
 #define ON_WM_MOUSELEAVE() AFX_MAP_WM(WM_MOUSELEAVE, Plain, OnMouseLeave)
 #define ON_WM_MOUSEMOVE() AFX_MAP_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() AFX_MAP_WM(WM_MOUSEWHEEL, Wheel, OnMouseWheel)

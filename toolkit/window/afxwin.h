@@ -246,6 +246,8 @@ protected:
     afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonUp(UINT, CPoint) { Default(); }
+    /// Asks the object of the control.
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     afx_msg void OnMouseLeave() { Default(); }
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
@@ -364,5 +366,8 @@ ZEB17_EXPORT BOOL AfxPreTranslateMessage(MSG* pMsg);
 /// Throws a CResourceException if it can't be registered.
 ZEB17_EXPORT LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
                                          HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
+/// Shows a text until a button is pressed, and gives its id. nType: MB_ flags.
+ZEB17_EXPORT int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK);
 
+#include <afxctrl_.h>
 #include <afxdll_.h>

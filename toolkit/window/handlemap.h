@@ -25,10 +25,9 @@ public:
         if (Object* permanent = Permanent(handle))
             return permanent;
         Temporary& temporary = m_temporary[handle];
-        if (!temporary) {
+        if (!temporary)
             temporary.reset(new Object);
-            temporary.get()->*HandleMember = handle;
-        }
+        temporary.get()->*HandleMember = handle; // its last holder may have parted it from an earlier one
         return temporary.get();
     }
 
@@ -40,9 +39,13 @@ public:
 
     void Attach(Handle handle, Object* object) { m_permanent[handle] = object; }
 
-    /// Forgets the object of the handle. A temporary one that is detached from outside keeps its place until
-    /// the next DeleteTemporary, so that its holder may still look at it.
-    void Detach(Handle handle) { m_permanent.erase(handle); }
+    /// Forgets that the handle is this object's. A temporary one stays as long as its holder may look at it.
+    void Detach(Handle handle, const Object* object)
+    {
+        const auto found = m_permanent.find(handle);
+        if (found != m_permanent.end() && found->second == object)
+            m_permanent.erase(found);
+    }
 
     void DeleteTemporary() { m_temporary.clear(); }
 

@@ -39,6 +39,8 @@ public:
         return node ? node.mapped() : nullptr;
     }
 
+    std::size_t size() const { return m_objects.size(); }
+
 private:
     std::unordered_map<ULONG_PTR, std::shared_ptr<Object>> m_objects;
 };

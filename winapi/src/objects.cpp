@@ -107,14 +107,17 @@ BITMAP describe(const Bitmap& bitmap)
 
 }
 
+// As many objects as Windows lets a process have: a program that forgets to delete them fails here as it does there.
 HGDIOBJ addObject(Object object)
 {
-    return objects().add(std::make_shared<Object>(std::move(object)));
+    constexpr std::size_t quota = 10000;
+    const bool isFull = objects().size() - permanentObjects().size() >= quota;
+    return isFull ? nullptr : objects().add(std::make_shared<Object>(std::move(object)));
 }
 
 HGDIOBJ addPermanentObject(Object object)
 {
-    return *permanentObjects().insert(addObject(std::move(object))).first;
+    return *permanentObjects().insert(objects().add(std::make_shared<Object>(std::move(object)))).first;
 }
 
 std::shared_ptr<Object> findObject(HGDIOBJ handle)
