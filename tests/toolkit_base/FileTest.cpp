@@ -68,10 +68,8 @@ TEST_F(File, CreateEmptiesUnlessToldNotTo)
 
 TEST_F(File, OpeningFailsWithCauseAndPath)
 {
-    m_directory.Write("readonly.dat", "x");
     m_directory.Write("file", "x");
     std::filesystem::create_directory(m_directory.PathOf("directory"));
-    SetFileAttributesA(m_directory.PathOf("readonly.dat").c_str(), FILE_ATTRIBUTE_READONLY);
     struct Case
     {
         const char* name;
@@ -85,18 +83,14 @@ TEST_F(File, OpeningFailsWithCauseAndPath)
         {"file/a.dat", kCreate, CFileException::badPath},
         {"directory", CFile::modeRead, CFileException::accessDenied},
         {"directory", kCreate, CFileException::accessDenied},
-        {"readonly.dat", kCreate, CFileException::accessDenied},
-        {"readonly.dat", CFile::modeRead, CFileException::none},
     };
     for (const auto& [name, flags, cause] : kCases) {
         const std::string path = m_directory.PathOf(name);
         EXPECT_EQ(CauseOf([&] { CFile(path.c_str(), flags); }, path), cause) << name << " " << flags;
     }
-    EXPECT_EQ(m_directory.Read("readonly.dat"), "x");
 
     CFile file;
     EXPECT_FALSE(file.Open(m_directory.PathOf("missing.dat").c_str(), CFile::modeRead));
-    SetFileAttributesA(m_directory.PathOf("readonly.dat").c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(File, RenamesAndRemoves)
@@ -113,15 +107,39 @@ TEST_F(File, RenamesAndRemoves)
     EXPECT_EQ(m_directory.Read("c"), "1");
     CFile::Remove(c.c_str());
     EXPECT_EQ(CauseOf([&] { CFile::Remove(c.c_str()); }, c), CFileException::fileNotFound);
+}
 
-    // Over a file that may not be overwritten, nor over a directory, no file is moved.
-    CFile(c.c_str(), kCreate).Close();
-    SetFileAttributesA(b.c_str(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_FALSE(MoveFileExA(c.c_str(), b.c_str(), MOVEFILE_REPLACE_EXISTING));
+// Wine lets the superuser write to a read-only file.
+bool IsReadOnlyFileWritable(const std::string& path)
+{
+#ifdef _WIN32
+    return std::ofstream(path, std::ios::app).is_open();
+#else
+    static_cast<void>(path);
+    return false; // by the rule of the layer, whoever asks
+#endif
+}
+
+TEST_F(File, ReadOnlyFilesAreLeftAlone)
+{
+    m_directory.Write("readonly", "x");
+    m_directory.Write("a", "1");
+    const std::string path = m_directory.PathOf("readonly");
+    const std::string a = m_directory.PathOf("a");
+    ASSERT_TRUE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY));
+    if (IsReadOnlyFileWritable(path))
+        GTEST_SKIP() << "This system does not heed the mark.";
+
+    CFile(path.c_str(), CFile::modeRead).Close();
+    EXPECT_EQ(CauseOf([&] { CFile(path.c_str(), kCreate); }, path), CFileException::accessDenied);
+    EXPECT_EQ(CauseOf([&] { CFile::Remove(path.c_str()); }, path), CFileException::accessDenied);
+    EXPECT_FALSE(MoveFileExA(a.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_ACCESS_DENIED));
-    EXPECT_EQ(CauseOf([&] { CFile::Remove(b.c_str()); }, b), CFileException::accessDenied);
-    SetFileAttributesA(b.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_TRUE(MoveFileExA(c.c_str(), b.c_str(), MOVEFILE_REPLACE_EXISTING));
+    EXPECT_EQ(m_directory.Read("readonly"), "x");
+
+    ASSERT_TRUE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL));
+    EXPECT_TRUE(MoveFileExA(a.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING));
+    EXPECT_EQ(m_directory.Read("readonly"), "1");
 }
 
 }

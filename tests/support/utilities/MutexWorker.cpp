@@ -1,0 +1,20 @@
+// Takes the mutex of the first argument, says so by making the file of the second, and dies with the mutex
+// when it finds the file of the third.
+#include <MTMutex.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+int main(int argc, char** argv)
+{
+    if (argc != 4)
+        return EXIT_FAILURE;
+    MTMutex mutex(false, argv[1], nullptr);
+    if (!mutex.Lock())
+        return EXIT_FAILURE;
+    std::ofstream(argv[2]).close();
+    for (int i = 0; i < 3000 && !std::filesystem::exists(argv[3]); ++i)
+        Sleep(10);
+    std::_Exit(EXIT_SUCCESS);
+}
