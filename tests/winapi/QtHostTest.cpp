@@ -202,6 +202,20 @@ TEST_F(QtHost, SmallWheelStepsMakeOneNotch)
     EXPECT_EQ(recorder.take(), "t.WHEEL");
 }
 
+TEST_F(QtHost, AModifierLetGoElsewhereIsNoticed)
+{
+    const HWND top = recorder.createTop("t");
+    QWidget* const widget = QWidgetFromWindow(top);
+    QKeyEvent shift(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &shift);
+    serveMessages();
+    EXPECT_TRUE(GetKeyState(VK_SHIFT) & 0x8000);
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    QCoreApplication::sendEvent(widget, &letter);
+    serveMessages();
+    EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
+}
+
 TEST_F(QtHost, AMenuTakesNoFocusAway)
 {
     const HWND top = recorder.createTop("t");

@@ -534,7 +534,6 @@ using LPTRACKMOUSEEVENT = TRACKMOUSEEVENT*;
 #define HWND_BOTTOM (reinterpret_cast<HWND>(static_cast<LONG_PTR>(1)))
 #define HWND_TOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)))
 #define HWND_NOTOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-2)))
-#define HWND_MESSAGE (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-3)))
 
 WINUSERAPI ATOM RegisterClassA(const WNDCLASSA* windowClass);
 WINUSERAPI ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
@@ -687,6 +686,7 @@ WINUSERAPI BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, U
 WINUSERAPI BOOL WaitMessage();
 WINUSERAPI BOOL TranslateMessage(const MSG* message);
 WINUSERAPI LRESULT DispatchMessageA(const MSG* message);
+// Tab, Enter, Escape and mnemonics of a dialog, or of any window with controls. Arrow keys reach the control.
 WINUSERAPI BOOL IsDialogMessageA(HWND dialog, MSG* message);
 WINUSERAPI HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
 WINUSERAPI DWORD GetMessagePos();

@@ -53,6 +53,7 @@ HostWidget::HostWidget(Window& window)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     resize(window.rect.size());
+    m_ratio = devicePixelRatioF();
 }
 
 HostWidget::~HostWidget()
@@ -119,6 +120,9 @@ void HostWidget::paintEvent(QPaintEvent* event)
     const WindowPtr window = served();
     if (!window)
         return;
+    // On a screen of another density all is drawn anew, so that it stays sharp.
+    if (std::exchange(m_ratio, devicePixelRatioF()) != devicePixelRatioF())
+        RedrawWindow(m_handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, surfaceOf(*window).image());
@@ -225,9 +229,8 @@ UINT buttonMessage(Qt::MouseButton button, bool down)
 
 void postButton(const QMouseEvent& event, bool down, bool doubleClick)
 {
-    noteModifiers(event.modifiers());
     if (const UINT message = buttonMessage(event.button(), down))
-        postInput(MouseInput{message, event.globalPosition().toPoint(), 0, doubleClick});
+        postInput(MouseInput{message, event.globalPosition().toPoint(), 0, doubleClick, event.modifiers()});
 }
 
 // Whole notches only, whatever steps the device makes; the rest is kept.
@@ -260,18 +263,16 @@ void HostWidget::mouseDoubleClickEvent(QMouseEvent* event)
 
 void HostWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    noteModifiers(event->modifiers());
-    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint()});
+    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
 }
 
 void HostWidget::wheelEvent(QWheelEvent* event)
 {
-    noteModifiers(event->modifiers());
     const QPoint screen = event->globalPosition().toPoint();
     if (const int up = takeNotches(m_wheelRest.ry(), event->angleDelta().y()))
-        postInput(MouseInput{WM_MOUSEWHEEL, screen, up});
+        postInput(MouseInput{WM_MOUSEWHEEL, screen, up, false, event->modifiers()});
     if (const int right = takeNotches(m_wheelRest.rx(), -event->angleDelta().x()))
-        postInput(MouseInput{WM_MOUSEHWHEEL, screen, right});
+        postInput(MouseInput{WM_MOUSEHWHEEL, screen, right, false, event->modifiers()});
     event->accept();
 }
 

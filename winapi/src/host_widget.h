@@ -51,6 +51,7 @@ private:
 
     HWND m_handle;
     int m_eventDepth = 0;
+    qreal m_ratio = 1;        // pixels of the screen to one of ours
     bool m_following = false; // what Qt tells meanwhile is our own doing
     QPoint m_wheelRest;       // of a notch
 };

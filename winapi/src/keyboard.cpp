@@ -141,11 +141,15 @@ void postKey(const QKeyEvent& event, bool up)
         return;
     noteKey(key.key, !up);
     const bool alt = event.modifiers().testFlag(Qt::AltModifier) || key.key == VK_MENU;
-    postInput(KeyInput{key.key, up, alt, scanCodeOf(event), key.extended, up ? QString() : event.text()});
+    postInput(KeyInput{key.key, up, alt, scanCodeOf(event), key.extended, up ? QString() : event.text(),
+                       event.modifiers()});
 }
 
 std::optional<MSG> toMessage(const KeyInput& input)
 {
+    const bool isModifier = input.key == VK_SHIFT || input.key == VK_CONTROL || input.key == VK_MENU;
+    if (!isModifier)
+        noteModifiers(input.modifiers);
     const bool wasDown = isDown(input.key);
     noteKeyOfMessage(input.key, !input.up);
     const HWND target = GetFocus() ? GetFocus() : GetActiveWindow();

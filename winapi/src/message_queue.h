@@ -17,6 +17,7 @@ struct MouseInput
     QPoint screen;
     int wheelDelta = 0;
     bool doubleClick = false;
+    Qt::KeyboardModifiers modifiers = {};
 };
 struct KeyInput
 {
@@ -26,6 +27,7 @@ struct KeyInput
     WORD scanCode;
     bool extended;
     QString text;
+    Qt::KeyboardModifiers modifiers = {};
 };
 using Input = std::variant<MouseInput, KeyInput>;
 

@@ -192,6 +192,7 @@ WPARAM mouseKeys()
 
 std::optional<MSG> toMessage(const MouseInput& input)
 {
+    noteModifiers(input.modifiers);
     if (const int key = keyOfButton(input.message))
         noteKeyOfMessage(key, isPress(input.message));
     if (GetCapture()) {

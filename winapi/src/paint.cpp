@@ -1,5 +1,6 @@
 #include "paint.h"
 
+#include "objects.h"
 #include "surface.h"
 #include "update_region.h"
 #include "window_surface.h"
@@ -126,8 +127,11 @@ BOOL EndPaint(HWND, const PAINTSTRUCT* paint)
 
 namespace {
 
-QRegion regionOf(const Window& window, const RECT* rect)
+// The region counts, if there is one.
+QRegion regionOf(const Window& window, const RECT* rect, HRGN region)
 {
+    if (const auto given = findObject<Region>(region))
+        return given->region;
     return rect ? toQRect(*rect).normalized() : window.clientRect();
 }
 
@@ -143,7 +147,7 @@ BOOL ValidateRect(HWND handle, const RECT* rect)
     return RedrawWindow(handle, rect, nullptr, RDW_VALIDATE | RDW_NOCHILDREN);
 }
 
-BOOL RedrawWindow(HWND handle, const RECT* rect, HRGN, UINT flags)
+BOOL RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags)
 {
     const WindowPtr window = findWindow(handle);
     if (!window)
@@ -152,9 +156,9 @@ BOOL RedrawWindow(HWND handle, const RECT* rect, HRGN, UINT flags)
                               : flags & RDW_NOCHILDREN ? Children::None
                                                        : Children::ByStyle;
     if (flags & RDW_INVALIDATE)
-        invalidate(*window, regionOf(*window, rect), flags & RDW_ERASE, children);
+        invalidate(*window, regionOf(*window, rect, region), flags & RDW_ERASE, children);
     else if (flags & RDW_VALIDATE)
-        validate(*window, regionOf(*window, rect), children);
+        validate(*window, regionOf(*window, rect, region), children);
     if (flags & RDW_UPDATENOW)
         paintNow(handle, !(flags & RDW_NOCHILDREN));
     return TRUE;

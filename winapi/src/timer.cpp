@@ -26,7 +26,7 @@ using TimerList = std::vector<std::unique_ptr<Timer>>;
 
 TimerList& timers()
 {
-    static TimerList list;
+    static TimerList& list = *new TimerList; // never destroyed, as the application may be gone by then
     return list;
 }
 

@@ -157,8 +157,8 @@ void repaintAfterChange(Window& window, const Exposure& before, bool keepPixels)
         return;
     }
     QRegion kept;
-    if (keepPixels) {
-        const QPoint delta = now.origin - before.origin;
+    const QPoint delta = now.origin - before.origin;
+    if (keepPixels && surfaceOf(rootOf(window)).canCopy(delta)) {
         kept = before.region.translated(delta) & now.region;
         surfaceOf(rootOf(window)).copy(kept, delta);
     }

@@ -32,6 +32,12 @@ QImage& WindowSurface::image()
     return m_image;
 }
 
+bool WindowSurface::canCopy(QPoint delta)
+{
+    const QPointF exact = QPointF(delta) * image().devicePixelRatio();
+    return exact == exact.toPoint();
+}
+
 void WindowSurface::copy(const QRegion& target, QPoint delta)
 {
     if (target.isEmpty() || delta.isNull())

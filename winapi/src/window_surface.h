@@ -18,7 +18,10 @@ public:
 
     // As large as the window, with the old content in place; what is new is white.
     QImage& image();
+    // Moves pixels by `delta` to `target`.
     void copy(const QRegion& target, QPoint delta);
+    // Whether such a move ends on whole pixels of the screen.
+    bool canCopy(QPoint delta);
 
 private:
     Window& m_root;

@@ -28,7 +28,9 @@ namespace {
 
 HandleTable<HWND, Window>& windows()
 {
-    static HandleTable<HWND, Window> table;
+    // Never destroyed: windows that a program leaves behind outlive the Qt application, their widgets must
+    // not.
+    static auto& table = *new HandleTable<HWND, Window>;
     return table;
 }
 
