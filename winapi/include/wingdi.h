@@ -62,11 +62,6 @@
 #define NULLREGION 1
 #define SIMPLEREGION 2
 #define COMPLEXREGION 3
-#define RGN_AND 1
-#define RGN_OR 2
-#define RGN_XOR 3
-#define RGN_DIFF 4
-#define RGN_COPY 5
 
 // Device capabilities.
 #define DRIVERVERSION 0
@@ -92,10 +87,6 @@
 // Mapping modes: a logical unit is a pixel, or what the extents of window and viewport say.
 #define MM_TEXT 1
 #define MM_ANISOTROPIC 8
-
-// Bitmaps.
-#define BI_RGB 0
-#define DIB_RGB_COLORS 0
 
 // Fonts.
 #define LF_FACESIZE 32
@@ -202,32 +193,6 @@ struct BITMAP
     WORD bmBitsPixel;
     LPVOID bmBits;
 };
-struct BITMAPINFOHEADER
-{
-    DWORD biSize;
-    LONG biWidth;
-    LONG biHeight; // below 0: the top row comes first
-    WORD biPlanes;
-    WORD biBitCount;
-    DWORD biCompression;
-    DWORD biSizeImage;
-    LONG biXPelsPerMeter;
-    LONG biYPelsPerMeter;
-    DWORD biClrUsed;
-    DWORD biClrImportant;
-};
-struct RGBQUAD
-{
-    BYTE rgbBlue;
-    BYTE rgbGreen;
-    BYTE rgbRed;
-    BYTE rgbReserved;
-};
-struct BITMAPINFO
-{
-    BITMAPINFOHEADER bmiHeader;
-    RGBQUAD bmiColors[1];
-};
 struct DEVMODEA
 {
     BYTE dmDeviceName[CCHDEVICENAME];
@@ -279,7 +244,6 @@ WINGDIAPI int SaveDC(HDC dc);
 WINGDIAPI BOOL RestoreDC(HDC dc, int level);
 WINGDIAPI int GetDeviceCaps(HDC dc, int index);
 WINGDIAPI int SetMapMode(HDC dc, int mode);
-WINGDIAPI int GetMapMode(HDC dc);
 WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old);
 WINGDIAPI BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old);
 WINGDIAPI BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old);
@@ -287,7 +251,6 @@ WINGDIAPI BOOL GetViewportOrgEx(HDC dc, POINT* origin);
 WINGDIAPI BOOL OffsetViewportOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL GetWindowOrgEx(HDC dc, POINT* origin);
-WINGDIAPI BOOL LPtoDP(HDC dc, POINT* points, int count);
 WINGDIAPI BOOL DPtoLP(HDC dc, POINT* points, int count);
 
 // Objects. An object that is selected lives on, after DeleteObject, until another takes its place.
@@ -301,13 +264,7 @@ WINGDIAPI HPEN CreatePen(int style, int width, COLORREF color);
 WINGDIAPI HBRUSH CreateSolidBrush(COLORREF color);
 WINGDIAPI HBRUSH CreateBrushIndirect(const LOGBRUSH* brush);
 WINGDIAPI HFONT CreateFontIndirectA(const LOGFONTA* font);
-WINGDIAPI HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
-                            DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
-                            DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR face);
-WINGDIAPI HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits);
 WINGDIAPI HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
-WINGDIAPI HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
-                                   DWORD offset);
 
 // The state of drawing. The setters return what held before.
 WINGDIAPI COLORREF SetBkColor(HDC dc, COLORREF color);
@@ -322,20 +279,12 @@ WINGDIAPI UINT GetTextAlign(HDC dc);
 // Regions and clipping.
 WINGDIAPI HRGN CreateRectRgn(int left, int top, int right, int bottom);
 WINGDIAPI HRGN CreateRectRgnIndirect(const RECT* rect);
-WINGDIAPI BOOL SetRectRgn(HRGN region, int left, int top, int right, int bottom);
-WINGDIAPI int CombineRgn(HRGN target, HRGN first, HRGN second, int mode);
 WINGDIAPI int GetRgnBox(HRGN region, RECT* box);
-WINGDIAPI int OffsetRgn(HRGN region, int x, int y);
-WINGDIAPI BOOL PtInRegion(HRGN region, int x, int y);
-WINGDIAPI BOOL RectInRegion(HRGN region, const RECT* rect);
-WINGDIAPI BOOL EqualRgn(HRGN first, HRGN second);
 WINGDIAPI int SelectClipRgn(HDC dc, HRGN region);
-WINGDIAPI int ExtSelectClipRgn(HDC dc, HRGN region, int mode);
 WINGDIAPI int IntersectClipRect(HDC dc, int left, int top, int right, int bottom);
 WINGDIAPI int ExcludeClipRect(HDC dc, int left, int top, int right, int bottom);
 WINGDIAPI int GetClipBox(HDC dc, RECT* box);
 WINGDIAPI BOOL RectVisible(HDC dc, const RECT* rect);
-WINGDIAPI BOOL PtVisible(HDC dc, int x, int y);
 
 // Lines and shapes. A line leaves its last point out; shapes end before their right and bottom edges.
 WINGDIAPI BOOL MoveToEx(HDC dc, int x, int y, POINT* old);
@@ -368,7 +317,6 @@ WINGDIAPI int EndPage(HDC dc);
 #define CreateDC CreateDCA
 #define GetObject GetObjectA
 #define CreateFontIndirect CreateFontIndirectA
-#define CreateFont CreateFontA
 #define TextOut TextOutA
 #define ExtTextOut ExtTextOutA
 #define GetTextExtentPoint32 GetTextExtentPoint32A

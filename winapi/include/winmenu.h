@@ -28,20 +28,6 @@
 #define MF_SYSMENU 0x00002000
 #define MF_MOUSESELECT 0x00008000
 
-// SetMenuItemInfo and its sister.
-#define MIIM_STATE 0x00000001
-#define MIIM_ID 0x00000002
-#define MIIM_SUBMENU 0x00000004
-#define MIIM_DATA 0x00000020
-#define MIIM_STRING 0x00000040
-#define MIIM_FTYPE 0x00000100
-#define MFT_STRING MF_STRING
-#define MFT_SEPARATOR MF_SEPARATOR
-#define MFS_ENABLED MF_ENABLED
-#define MFS_GRAYED 0x00000003
-#define MFS_DISABLED MFS_GRAYED
-#define MFS_CHECKED MF_CHECKED
-
 // TrackPopupMenu.
 #define TPM_LEFTBUTTON 0x0000
 #define TPM_RIGHTBUTTON 0x0002
@@ -53,29 +39,6 @@
 #define TPM_BOTTOMALIGN 0x0020
 #define TPM_NONOTIFY 0x0080
 #define TPM_RETURNCMD 0x0100
-
-struct MENUITEMINFOA
-{
-    UINT cbSize;
-    UINT fMask; // MIIM_...: which members count
-    UINT fType;
-    UINT fState;
-    UINT wID;
-    HMENU hSubMenu;
-    HANDLE hbmpChecked;
-    HANDLE hbmpUnchecked;
-    ULONG_PTR dwItemData;
-    LPSTR dwTypeData;
-    UINT cch;
-    HBITMAP hbmpItem;
-};
-using MENUITEMINFO = MENUITEMINFOA;
-using LPMENUITEMINFOA = MENUITEMINFOA*;
-struct TPMPARAMS
-{
-    UINT cbSize;
-    RECT rcExclude;
-};
 
 // Menus are released by DestroyMenu, which releases their submenus as well.
 WINUSERAPI HMENU CreateMenu();
@@ -98,14 +61,11 @@ WINUSERAPI HMENU GetSubMenu(HMENU menu, int position);
 WINUSERAPI int GetMenuStringA(HMENU menu, UINT item, LPSTR text, int size, UINT flags);
 WINUSERAPI BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags);
 WINUSERAPI DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags);
-WINUSERAPI BOOL GetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, MENUITEMINFOA* info);
-WINUSERAPI BOOL SetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, const MENUITEMINFOA* info);
 
 // Shows `menu` at a place of the screen and returns when it is closed: the chosen id with TPM_RETURNCMD, else
 // whether the menu could be shown; the choice then reaches `owner` by a posted WM_COMMAND.
 WINUSERAPI BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int reserved, HWND owner,
                                const RECT* rect);
-WINUSERAPI BOOL TrackPopupMenuEx(HMENU menu, UINT flags, int x, int y, HWND owner, TPMPARAMS* parameters);
 WINUSERAPI BOOL EndMenu();
 
 WINBASEAPI HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
@@ -115,6 +75,4 @@ WINBASEAPI HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 #define InsertMenu InsertMenuA
 #define ModifyMenu ModifyMenuA
 #define GetMenuString GetMenuStringA
-#define GetMenuItemInfo GetMenuItemInfoA
-#define SetMenuItemInfo SetMenuItemInfoA
 #define FindResource FindResourceA

@@ -6,7 +6,6 @@
 #include "context.h"
 
 #include <cmath>
-#include <cstring>
 
 namespace winapi {
 
@@ -64,29 +63,11 @@ HBITMAP makeBitmap(int width, int height, qreal devicePixelRatio)
     return image.isNull() ? nullptr : static_cast<HBITMAP>(addObject(Bitmap{std::move(image)}));
 }
 
-void copyRows(QImage& image, const void* bits)
-{
-    const auto rowLength = static_cast<std::size_t>(image.width()) * sizeof(QRgb);
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(image.scanLine(y),
-                    static_cast<const uchar*>(bits) + rowLength * static_cast<std::size_t>(y), rowLength);
-}
-
 }
 
 }
 
 using namespace winapi;
-
-HBITMAP CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits)
-{
-    if (planes != 1 || bitsPerPixel != 32)
-        return nullptr;
-    const HBITMAP bitmap = makeBitmap(width, height, 1);
-    if (bitmap && bits)
-        copyRows(findObject<Bitmap>(bitmap)->image, bits);
-    return bitmap;
-}
 
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height)
 {

@@ -362,11 +362,6 @@ BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old)
     return setExtent(dc, &DrawingState::viewportExtent, {width, height}, old);
 }
 
-int GetMapMode(HDC dc)
-{
-    return readState(dc, &DrawingState::mapMode, 0);
-}
-
 BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old)
 {
     return moveOrigin(dc, &DrawingState::viewportOrigin, {x, y}, old);
@@ -391,15 +386,6 @@ BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old)
 BOOL GetWindowOrgEx(HDC dc, POINT* origin)
 {
     return readOrigin(dc, &DrawingState::windowOrigin, origin);
-}
-
-BOOL LPtoDP(HDC dc, POINT* points, int count)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return FALSE;
-    mapPoints(points, count, context->toDevice());
-    return TRUE;
 }
 
 BOOL DPtoLP(HDC dc, POINT* points, int count)

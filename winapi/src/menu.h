@@ -11,14 +11,13 @@ namespace winapi {
 
 struct MenuItem
 {
-    UINT type = MFT_STRING;
-    UINT state = MFS_ENABLED;
+    UINT type = MF_STRING;
+    UINT state = MF_ENABLED;
     UINT id = 0;
     HMENU subMenu = nullptr;
     std::string text;
-    ULONG_PTR data = 0;
 
-    bool isSeparator() const { return (type & MFT_SEPARATOR) != 0; }
+    bool isSeparator() const { return (type & MF_SEPARATOR) != 0; }
     // The flags that messages and GetMenuState tell of an item that opens no menu.
     UINT flags() const { return type | state | (subMenu ? MF_POPUP : 0); }
 };

@@ -112,16 +112,6 @@ UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
     return before;
 }
 
-void copyText(const std::string& text, MENUITEMINFOA& info)
-{
-    if (info.dwTypeData && info.cch > 0) {
-        const auto copied = std::min<std::size_t>(text.size(), info.cch - 1);
-        std::memcpy(info.dwTypeData, text.data(), copied);
-        info.dwTypeData[copied] = '\0';
-    }
-    info.cch = static_cast<UINT>(text.size());
-}
-
 }
 
 std::shared_ptr<Menu> findMenu(HMENU handle)
@@ -265,46 +255,4 @@ BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags)
 DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags)
 {
     return changeState(menu, item, flags, MF_CHECKED);
-}
-
-BOOL GetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, MENUITEMINFOA* info)
-{
-    const auto place = findItem(menu, item, byPosition ? MF_BYPOSITION : MF_BYCOMMAND);
-    if (!place || !info)
-        return FALSE;
-    const MenuItem& found = place->item();
-    if (info->fMask & MIIM_FTYPE)
-        info->fType = found.type;
-    if (info->fMask & MIIM_STATE)
-        info->fState = found.state;
-    if (info->fMask & MIIM_ID)
-        info->wID = found.id;
-    if (info->fMask & MIIM_SUBMENU)
-        info->hSubMenu = found.subMenu;
-    if (info->fMask & MIIM_DATA)
-        info->dwItemData = found.data;
-    if (info->fMask & MIIM_STRING)
-        copyText(found.text, *info);
-    return TRUE;
-}
-
-BOOL SetMenuItemInfoA(HMENU menu, UINT item, BOOL byPosition, const MENUITEMINFOA* info)
-{
-    const auto place = findItem(menu, item, byPosition ? MF_BYPOSITION : MF_BYCOMMAND);
-    if (!place || !info)
-        return FALSE;
-    MenuItem& found = place->item();
-    if (info->fMask & MIIM_FTYPE)
-        found.type = info->fType;
-    if (info->fMask & MIIM_STATE)
-        found.state = info->fState;
-    if (info->fMask & MIIM_ID)
-        found.id = info->wID;
-    if (info->fMask & MIIM_SUBMENU)
-        found.subMenu = info->hSubMenu;
-    if (info->fMask & MIIM_DATA)
-        found.data = info->dwItemData;
-    if ((info->fMask & MIIM_STRING) && info->dwTypeData)
-        found.text = info->dwTypeData;
-    return TRUE;
 }

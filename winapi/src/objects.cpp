@@ -107,7 +107,8 @@ BITMAP describe(const Bitmap& bitmap)
 
 }
 
-// As many objects as Windows lets a process have: a program that forgets to delete them fails here as it does there.
+// As many objects as Windows lets a process have: a program that forgets to delete them fails here as it does
+// there.
 HGDIOBJ addObject(Object object)
 {
     constexpr std::size_t quota = 10000;
@@ -252,27 +253,4 @@ HBRUSH CreateBrushIndirect(const LOGBRUSH* brush)
 HFONT CreateFontIndirectA(const LOGFONTA* font)
 {
     return font ? static_cast<HFONT>(addObject(Font{*font, toFont(*font)})) : nullptr;
-}
-
-HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
-                  DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision, DWORD clipPrecision,
-                  DWORD quality, DWORD pitchAndFamily, LPCSTR face)
-{
-    LOGFONTA font = {height,
-                     width,
-                     escapement,
-                     orientation,
-                     weight,
-                     static_cast<BYTE>(italic),
-                     static_cast<BYTE>(underline),
-                     static_cast<BYTE>(strikeOut),
-                     static_cast<BYTE>(charSet),
-                     static_cast<BYTE>(outPrecision),
-                     static_cast<BYTE>(clipPrecision),
-                     static_cast<BYTE>(quality),
-                     static_cast<BYTE>(pitchAndFamily),
-                     {}};
-    if (face)
-        qstrncpy(font.lfFaceName, face, LF_FACESIZE);
-    return CreateFontIndirectA(&font);
 }

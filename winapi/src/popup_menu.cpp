@@ -258,11 +258,6 @@ using namespace winapi;
 
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, const RECT*)
 {
-    return TrackPopupMenuEx(menu, flags, x, y, owner, nullptr);
-}
-
-BOOL TrackPopupMenuEx(HMENU menu, UINT flags, int x, int y, HWND owner, TPMPARAMS*)
-{
     if (!IsMenu(menu))
         return fail(ERROR_INVALID_MENU_HANDLE);
     if (!IsWindow(owner))
