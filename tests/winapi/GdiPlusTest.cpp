@@ -1,0 +1,66 @@
+// Filling with GDI+.
+#include "Canvas.h"
+#include <gdiplus.h>
+
+using namespace Gdiplus;
+using namespace Gdiplus::DllExports;
+
+class GdiPlusTest : public Canvas
+{
+protected:
+    GdiPlusTest()
+    {
+        const GdiplusStartupInput input;
+        GdiplusStartup(&m_token, &input, nullptr);
+        GdipCreateFromHDC(dc, &graphics);
+        GdipCreateSolidFill(0xFF00FF00, &brush);
+        GdipSetSmoothingMode(graphics, SmoothingModeAntiAlias);
+    }
+
+    ~GdiPlusTest() override
+    {
+        GdipDeleteBrush(brush);
+        GdipDeleteGraphics(graphics);
+        GdiplusShutdown(m_token);
+    }
+
+    GpGraphics* graphics = nullptr;
+    GpSolidFill* brush = nullptr;
+
+private:
+    ULONG_PTR m_token = 0;
+};
+
+TEST_F(GdiPlusTest, AnEllipseIsRoundAndInItsColour)
+{
+    EXPECT_EQ(Ok, GdipFillEllipseI(graphics, brush, 5, 5, 10, 10));
+    EXPECT_EQ(green, GetPixel(dc, 10, 10));
+    for (const POINT corner : {POINT{5, 5}, POINT{14, 5}, POINT{5, 14}, POINT{14, 14}})
+        EXPECT_EQ(white, GetPixel(dc, corner.x, corner.y));
+    EXPECT_EQ(green, GetPixel(dc, 7, 10));
+    EXPECT_EQ(green, GetPixel(dc, 12, 10));
+    EXPECT_EQ(green, GetPixel(dc, 10, 12));
+    const RECT area = {4, 4, 16, 16};
+    const RECT found = drawn();
+    RECT both{};
+    UnionRect(&both, &area, &found);
+    EXPECT_TRUE(EqualRect(&both, &area));
+}
+
+TEST_F(GdiPlusTest, APolygonIsFilled)
+{
+    const PointF corners[] = {{20, 5}, {30, 5}, {25, 10}};
+    EXPECT_EQ(Ok, GdipFillPolygon(graphics, brush, corners, 3, FillModeAlternate));
+    EXPECT_EQ(green, GetPixel(dc, 25, 6));
+    EXPECT_EQ(white, GetPixel(dc, 20, 9));
+    EXPECT_EQ(white, GetPixel(dc, 25, 12));
+}
+
+TEST_F(GdiPlusTest, WhatIsMissingIsTold)
+{
+    GpGraphics* none = nullptr;
+    EXPECT_EQ(OutOfMemory, GdipCreateFromHDC(nullptr, &none));
+    EXPECT_EQ(InvalidParameter, GdipFillEllipseI(nullptr, brush, 0, 0, 5, 5));
+    const PointF corners[] = {{20, 5}, {30, 5}};
+    EXPECT_EQ(InvalidParameter, GdipFillPolygon(graphics, brush, corners, 2, FillModeAlternate));
+}

@@ -1,0 +1,177 @@
+// Lines, rectangles and fills, pixel by pixel.
+#include "Canvas.h"
+
+class ShapesTest : public Canvas
+{
+protected:
+    ShapesTest()
+    {
+        SelectObject(dc, redPen);
+        SelectObject(dc, greenBrush);
+    }
+
+    void line(int x1, int y1, int x2, int y2)
+    {
+        MoveToEx(dc, x1, y1, nullptr);
+        LineTo(dc, x2, y2);
+    }
+
+    HPEN redPen = keep(CreatePen(PS_SOLID, 1, red));
+    HBRUSH greenBrush = keep(CreateSolidBrush(green));
+};
+
+TEST_F(ShapesTest, ALineLeavesItsLastPointOutInEachDirection)
+{
+    line(2, 1, 6, 1);
+    line(6, 3, 2, 3);
+    EXPECT_EQ("..rrrr..", row(1, 0, 8));
+    EXPECT_EQ("...rrrr.", row(3, 0, 8));
+    line(20, 5, 20, 8);
+    line(24, 8, 24, 5);
+    EXPECT_EQ("r....", row(5, 20, 25));
+    EXPECT_EQ("r...r", row(6, 20, 25));
+    EXPECT_EQ("r...r", row(7, 20, 25));
+    EXPECT_EQ("....r", row(8, 20, 25));
+    POINT position;
+    GetCurrentPositionEx(dc, &position);
+    EXPECT_EQ(5, position.y);
+}
+
+TEST_F(ShapesTest, ASlopingLineTakesTwoPixelsAStep)
+{
+    line(2, 6, 12, 11);
+    EXPECT_EQ("rr........", row(6, 2, 12));
+    EXPECT_EQ("..rr......", row(7, 2, 12));
+    EXPECT_EQ("........rr", row(10, 2, 12));
+    EXPECT_EQ("..........", row(11, 2, 12));
+}
+
+TEST_F(ShapesTest, ALineOfNoLengthDrawsNothing)
+{
+    line(5, 5, 5, 5);
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(ShapesTest, ADottedLineHasItsGapsInTheBackgroundColour)
+{
+    SelectObject(dc, keep(CreatePen(PS_DOT, 1, red)));
+    SetBkColor(dc, green);
+    line(2, 2, 13, 2);
+    SetBkMode(dc, TRANSPARENT);
+    line(2, 4, 13, 4);
+    EXPECT_EQ("rrrgggrrrgg.", row(2, 2, 14));
+    EXPECT_EQ("rrr...rrr...", row(4, 2, 14));
+}
+
+TEST_F(ShapesTest, ARectangleEndsBeforeItsRightAndBottomEdges)
+{
+    Rectangle(dc, 2, 2, 7, 6);
+    EXPECT_EQ(".rrrrr.", row(2, 1, 8));
+    EXPECT_EQ(".rgggr.", row(3, 1, 8));
+    EXPECT_EQ(".rrrrr.", row(5, 1, 8));
+    EXPECT_RECT(2, 2, 7, 6, drawn());
+}
+
+TEST_F(ShapesTest, ARectangleTakesItsEdgesInAnyOrder)
+{
+    Rectangle(dc, 7, 6, 2, 2);
+    EXPECT_RECT(2, 2, 7, 6, drawn());
+}
+
+TEST_F(ShapesTest, ARectangleWithoutAnOutlineIsOnePixelSmaller)
+{
+    SelectObject(dc, GetStockObject(NULL_PEN));
+    Rectangle(dc, 2, 2, 7, 6);
+    EXPECT_RECT(2, 2, 6, 5, drawn());
+    EXPECT_EQ("gggg", row(2, 2, 6));
+}
+
+TEST_F(ShapesTest, ARectangleOfOnePixelIsNotDrawn)
+{
+    Rectangle(dc, 2, 2, 3, 3);
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(ShapesTest, AFrameIsOnePixelWideAndLeavesTheInsideAlone)
+{
+    const RECT rect = {2, 2, 6, 5};
+    EXPECT_NE(0, FrameRect(dc, &rect, greenBrush));
+    EXPECT_EQ(".gggg.", row(2, 1, 7));
+    EXPECT_EQ(".g..g.", row(3, 1, 7));
+    EXPECT_EQ(".gggg.", row(4, 1, 7));
+    EXPECT_RECT(2, 2, 6, 5, drawn());
+}
+
+TEST_F(ShapesTest, AnEmptyOrInvertedFrameFails)
+{
+    const RECT empty = {2, 2, 2, 6};
+    const RECT inverted = {6, 6, 2, 2};
+    EXPECT_EQ(0, FrameRect(dc, &empty, greenBrush));
+    EXPECT_EQ(0, FrameRect(dc, &inverted, greenBrush));
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(ShapesTest, FillRectTakesRectanglesOfAnyOrder)
+{
+    const RECT empty = {2, 2, 2, 6};
+    EXPECT_NE(0, FillRect(dc, &empty, greenBrush));
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+    const RECT rect = {3, 2, 10, 8};
+    FillRect(dc, &rect, greenBrush);
+    EXPECT_RECT(3, 2, 10, 8, drawn());
+    clear();
+    const RECT inverted = {10, 8, 3, 2};
+    FillRect(dc, &inverted, greenBrush);
+    EXPECT_RECT(4, 3, 11, 9, drawn());
+}
+
+TEST_F(ShapesTest, ANumberStandsForTheBrushOfASystemColour)
+{
+    const RECT rect = {2, 2, 4, 4};
+    FillRect(dc, &rect, reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_HIGHLIGHT + 1)));
+    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), GetPixel(dc, 3, 3));
+}
+
+TEST_F(ShapesTest, AnOpaqueTextRectangleIsFilledWithTheBackgroundColour)
+{
+    const RECT rect = {2, 2, 6, 5};
+    SetBkColor(dc, red);
+    EXPECT_TRUE(ExtTextOutA(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr));
+    EXPECT_EQ("rrrr", row(4, 2, 6));
+    EXPECT_RECT(2, 2, 6, 5, drawn());
+    EXPECT_EQ(red, GetBkColor(dc));
+}
+
+TEST_F(ShapesTest, AFocusRectangleDrawnTwiceIsGone)
+{
+    const RECT rect = {2, 2, 13, 10};
+    DrawFocusRect(dc, &rect);
+    EXPECT_EQ("#.#.#.#.#.#", row(2, 2, 13));
+    EXPECT_EQ("...........", row(3, 2, 13));
+    EXPECT_RECT(2, 2, 13, 10, drawn());
+    DrawFocusRect(dc, &rect);
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(ShapesTest, AnEllipseIsRoundAndFilled)
+{
+    Ellipse(dc, 20, 2, 30, 12);
+    EXPECT_RECT(20, 2, 30, 12, drawn());
+    EXPECT_EQ("...rrrr...", row(2, 20, 30));
+    EXPECT_EQ("rggggggggr", row(6, 20, 30));
+    for (int y = 2; y < 12; ++y) {
+        std::string mirrored = row(y, 20, 30);
+        std::reverse(mirrored.begin(), mirrored.end());
+        EXPECT_EQ(mirrored, row(y, 20, 30));
+        EXPECT_EQ(row(13 - y, 20, 30), row(y, 20, 30));
+    }
+}
+
+TEST_F(ShapesTest, APolygonIsOutlinedAndClosed)
+{
+    const POINT corners[] = {{5, 15}, {15, 15}, {10, 20}};
+    EXPECT_TRUE(Polygon(dc, corners, 3));
+    EXPECT_EQ("rrrrrrrrrrr", row(15, 5, 16));
+    EXPECT_EQ("...rgggr...", row(18, 5, 16));
+    EXPECT_FALSE(Polygon(dc, corners, 1));
+}

@@ -1,0 +1,200 @@
+// Fonts and text. Where letters lie is told by their opaque background.
+#include "Canvas.h"
+#include <cstring>
+
+class TextTest : public Canvas
+{
+protected:
+    TextTest() { useFont(-11); }
+
+    void useFont(LONG height, LONG weight = FW_NORMAL)
+    {
+        LOGFONTA font{};
+        font.lfHeight = height;
+        font.lfWeight = weight;
+        font.lfCharSet = DEFAULT_CHARSET;
+        std::strcpy(font.lfFaceName, "Arial");
+        SelectObject(dc, keep(CreateFontIndirectA(&font)));
+    }
+
+    TEXTMETRICA metrics() const
+    {
+        TEXTMETRICA told{};
+        GetTextMetricsA(dc, &told);
+        return told;
+    }
+
+    SIZE extent(const char* text) const
+    {
+        SIZE size{};
+        GetTextExtentPoint32A(dc, text, static_cast<int>(std::strlen(text)), &size);
+        return size;
+    }
+
+    // Where the text lies: text and background in one colour.
+    RECT place(const char* text, RECT rect, UINT format)
+    {
+        clear();
+        SetBkColor(dc, green);
+        SetTextColor(dc, green);
+        DrawTextA(dc, text, -1, &rect, format);
+        return drawn();
+    }
+
+    RECT measure(const char* text, RECT rect, UINT format)
+    {
+        DrawTextA(dc, text, -1, &rect, format | DT_CALCRECT);
+        return rect;
+    }
+};
+
+TEST_F(TextTest, ANegativeHeightIsThatOfTheLetters)
+{
+    for (const LONG height : {9, 11, 16, 24}) {
+        useFont(-height);
+        EXPECT_NEAR(height, metrics().tmHeight - metrics().tmInternalLeading, 1);
+    }
+}
+
+TEST_F(TextTest, APositiveHeightIsThatOfTheLine)
+{
+    for (const LONG height : {12, 16, 20, 25}) {
+        useFont(height);
+        EXPECT_NEAR(height, metrics().tmHeight, 1);
+    }
+}
+
+TEST_F(TextTest, MeasuresAreThoseOfTheFont)
+{
+    const TEXTMETRICA told = metrics();
+    EXPECT_EQ(told.tmHeight, told.tmAscent + told.tmDescent);
+    EXPECT_EQ(told.tmHeight, extent("x").cy);
+    EXPECT_GT(extent("Wide").cx, extent("Wid").cx);
+    EXPECT_EQ(0, extent("").cx);
+    useFont(-11, FW_BOLD);
+    EXPECT_EQ(FW_BOLD, metrics().tmWeight);
+}
+
+TEST_F(TextTest, CentresBothWays)
+{
+    const SIZE size = extent("17");
+    for (const RECT& rect : {RECT{5, 3, 30, 20}, RECT{5, 3, 31, 21}, RECT{5, 3, 32, 22}}) {
+        const int left = (rect.left + rect.right - size.cx) / 2;
+        const int top = rect.top + (rect.bottom - rect.top) / 2 - size.cy / 2;
+        EXPECT_RECT(left, top, left + size.cx, top + size.cy,
+                    place("17", rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE));
+    }
+}
+
+TEST_F(TextTest, GoesToEachSide)
+{
+    const RECT rect = {5, 3, 40, 25};
+    const SIZE size = extent("17");
+    EXPECT_RECT(5, 3, 5 + size.cx, 3 + size.cy, place("17", rect, DT_LEFT | DT_TOP));
+    EXPECT_RECT(40 - size.cx, 25 - size.cy, 40, 25, place("17", rect, DT_RIGHT | DT_BOTTOM | DT_SINGLELINE));
+    // Only a single line is placed by the height.
+    EXPECT_EQ(3, place("17", rect, DT_VCENTER).top);
+}
+
+TEST_F(TextTest, IsClippedToItsRectangle)
+{
+    const RECT rect = {5, 3, 8, 9};
+    EXPECT_RECT(5, 3, 8, 9, place("HHH", rect, DT_SINGLELINE));
+    EXPECT_RECT(5, 3, 5 + extent("HHH").cx, 3 + extent("H").cy,
+                place("HHH", rect, DT_SINGLELINE | DT_NOCLIP));
+}
+
+TEST_F(TextTest, MeasuringSetsTheRectangleAndDrawsNothing)
+{
+    const RECT rect = {2, 2, 52, 28};
+    const SIZE size = extent("Hi");
+    EXPECT_RECT(2, 2, 2 + size.cx, 2 + size.cy, measure("Hi", rect, 0));
+    EXPECT_RECT(2, 2, 2 + size.cx, 2 + size.cy, measure("Hi", rect, DT_CENTER | DT_SINGLELINE));
+    EXPECT_RECT(2, 2, 2 + extent("b").cx, 2 + 2 * size.cy, measure("a\r\nb", rect, 0));
+    EXPECT_RECT(2, 2, 2 + extent("b").cx, 2 + 3 * size.cy, measure("a\n\nb", rect, 0));
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(TextTest, BreaksAtBlanks)
+{
+    const LONG line = extent("x").cy;
+    const RECT rect = {0, 0, extent("one two ").cx, 30};
+    EXPECT_EQ(2 * line, measure("one two four", rect, DT_WORDBREAK).bottom);
+    EXPECT_EQ(line, measure("one two", rect, DT_WORDBREAK).bottom);
+    EXPECT_EQ(line, measure("one two four", rect, 0).bottom);
+    // A word that is too long stays whole.
+    EXPECT_EQ(extent("onetwothreefour").cx, measure("onetwothreefour", rect, DT_WORDBREAK).right);
+}
+
+TEST_F(TextTest, AmpersandsMarkLetters)
+{
+    const RECT rect = {0, 0, 60, 30};
+    EXPECT_EQ(extent("File").cx, measure("&File", rect, 0).right);
+    EXPECT_EQ(extent("&File").cx, measure("&File", rect, DT_NOPREFIX).right);
+    EXPECT_EQ(extent("A & B").cx, measure("A && B", rect, 0).right);
+    EXPECT_EQ(extent("tail&").cx, measure("tail&", rect, 0).right);
+}
+
+TEST_F(TextTest, AMarkedLetterIsUnderlined)
+{
+    useFont(-16);
+    RECT rect = {2, 2, 60, 30};
+    SetBkMode(dc, TRANSPARENT);
+    DrawTextA(dc, "&TH", -1, &rect, DT_NOCLIP);
+    const RECT marked = drawn();
+    clear();
+    DrawTextA(dc, "TH", -1, &rect, DT_NOCLIP);
+    const RECT plain = drawn();
+    EXPECT_GT(marked.bottom, plain.bottom);
+    EXPECT_LE(plain.bottom, 2 + metrics().tmAscent);
+}
+
+TEST_F(TextTest, TooLongALineEndsInDots)
+{
+    const RECT rect = {0, 0, 30, 20};
+    const LONG right = measure("onetwothreefour", rect, DT_SINGLELINE | DT_END_ELLIPSIS).right;
+    EXPECT_LE(right, 30);
+    EXPECT_GT(right, extent("...").cx);
+}
+
+TEST_F(TextTest, TheOpaqueBackgroundIsAsWideAsTheText)
+{
+    SetBkColor(dc, green);
+    TextOutA(dc, 4, 6, "  ", 2);
+    const SIZE size = extent("  ");
+    EXPECT_RECT(4, 6, 4 + size.cx, 6 + size.cy, drawn());
+    EXPECT_EQ(green, GetPixel(dc, 4, 6));
+    clear();
+    SetBkMode(dc, TRANSPARENT);
+    TextOutA(dc, 4, 6, "  ", 2);
+    EXPECT_RECT(0, 0, 0, 0, drawn());
+}
+
+TEST_F(TextTest, AlignmentPlacesTheText)
+{
+    const SIZE size = extent("  ");
+    SetBkColor(dc, green);
+    SetTextAlign(dc, TA_RIGHT | TA_BOTTOM);
+    TextOutA(dc, 30, 25, "  ", 2);
+    EXPECT_RECT(30 - size.cx, 25 - size.cy, 30, 25, drawn());
+}
+
+TEST_F(TextTest, TextHasTheColourAskedFor)
+{
+    useFont(-24, FW_BOLD);
+    SetTextColor(dc, red);
+    TextOutA(dc, 2, 2, "I", 1);
+    bool found = false;
+    for (int x = 0; x < width; ++x)
+        found = found || GetPixel(dc, x, 14) == red;
+    EXPECT_TRUE(found);
+}
+
+TEST_F(TextTest, FailsWithoutContextOrText)
+{
+    RECT rect = {0, 0, 10, 10};
+    EXPECT_FALSE(TextOutA(nullptr, 0, 0, "x", 1));
+    EXPECT_EQ(0, DrawTextA(nullptr, "x", -1, &rect, 0));
+    SIZE size{};
+    EXPECT_FALSE(GetTextExtentPoint32A(nullptr, "x", 1, &size));
+}
