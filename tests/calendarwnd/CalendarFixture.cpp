@@ -26,18 +26,17 @@ private:
 
 const testing::Environment* const theSession = testing::AddGlobalTestEnvironment(new Session);
 
-const std::pair<UINT, const char*> kMessages[] = {
-    {CCalendarWnd::CALWND_ONSELCHANGE, "SELCHANGE"},
-    {CCalendarWnd::CALWND_ONNODATE, "NODATE"},
-    {CCalendarWnd::CALWND_ENTERKEY, "ENTER"},
-    {CCalendarWnd::CALWND_ESCKEY, "ESC"},
-    {CCalendarWnd::CALWND_PROMPT_SAVEWEBPAGE, "WEBPAGE"},
-    {CCalendarWnd::CALWND_DATERANGE_CHANGED, "RANGE"},
-};
-
 const char* FindName(UINT nMessage)
 {
-    for (const auto& [nKnown, strName] : kMessages)
+    static const std::pair<UINT, const char*> messages[] = {
+        {CCalendarWnd::CALWND_ONSELCHANGE, "SELCHANGE"},
+        {CCalendarWnd::CALWND_ONNODATE, "NODATE"},
+        {CCalendarWnd::CALWND_ENTERKEY, "ENTER"},
+        {CCalendarWnd::CALWND_ESCKEY, "ESC"},
+        {CCalendarWnd::CALWND_PROMPT_SAVEWEBPAGE, "WEBPAGE"},
+        {CCalendarWnd::CALWND_DATERANGE_CHANGED, "RANGE"},
+    };
+    for (const auto& [nKnown, strName] : messages)
         if (nKnown == nMessage)
             return strName;
     return nullptr;

@@ -117,6 +117,7 @@ bool CCalendarWnd::HasAllButtons() const
 
 void CCalendarWnd::CreateToolTip()
 {
+    m_toolTip.DestroyWindow(); // the top-level window owns it, so it may be left from an earlier creation
     if (!m_toolTip.Create(this, 0))
         LogLine("{9E65460D-A45F-46D5-B417-DFAAC0F156CA}");
 }
