@@ -1,4 +1,4 @@
-// The print dialog.
+// The dialogs of the system: printer, colour, file.
 #pragma once
 
 #include "windef.h"
@@ -67,3 +67,80 @@ WINUSERAPI BOOL PrintDlgA(PRINTDLGA* dialog);
 WINUSERAPI DWORD CommDlgExtendedError();
 
 #define PrintDlg PrintDlgA
+
+// ---- Colour ----
+
+#define CC_RGBINIT 0x00000001
+#define CC_FULLOPEN 0x00000002
+
+using LPCCHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
+
+struct CHOOSECOLORA
+{
+    DWORD lStructSize;
+    HWND hwndOwner;
+    HWND hInstance;
+    COLORREF rgbResult;     // out; with CC_RGBINIT what is shown first
+    COLORREF* lpCustColors; // 16 of the user's own, in and out
+    DWORD Flags;
+    LPARAM lCustData;
+    LPCCHOOKPROC lpfnHook;
+    LPCSTR lpTemplateName;
+};
+using CHOOSECOLOR = CHOOSECOLORA;
+using LPCHOOSECOLORA = CHOOSECOLORA*;
+
+// Asks for a colour. FALSE when cancelled or failed.
+WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog);
+
+#define ChooseColor ChooseColorA
+
+// ---- File ----
+
+#define OFN_OVERWRITEPROMPT 0x00000002
+#define OFN_HIDEREADONLY 0x00000004
+#define OFN_NOCHANGEDIR 0x00000008
+#define OFN_PATHMUSTEXIST 0x00000800
+#define OFN_FILEMUSTEXIST 0x00001000
+#define OFN_EXPLORER 0x00080000
+
+#define FNERR_BUFFERTOOSMALL 0x3003
+
+using LPOFNHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
+
+struct OPENFILENAMEA
+{
+    DWORD lStructSize;
+    HWND hwndOwner;
+    HINSTANCE hInstance;
+    LPCSTR lpstrFilter; // pairs of a description and patterns parted by semicolons, each ended by a zero byte;
+                        // one more ends the list
+    LPSTR lpstrCustomFilter;
+    DWORD nMaxCustFilter;
+    DWORD nFilterIndex; // in and out, counted from 1
+    LPSTR lpstrFile;    // in: the first file or an empty text; out: the whole path
+    DWORD nMaxFile;     // bytes that fit there
+    LPSTR lpstrFileTitle;
+    DWORD nMaxFileTitle;
+    LPCSTR lpstrInitialDir;
+    LPCSTR lpstrTitle;
+    DWORD Flags;
+    WORD nFileOffset;    // out: where the name begins in the path
+    WORD nFileExtension; // out: where the extension begins, 0 if there is none
+    LPCSTR lpstrDefExt;  // for a name without an extension, without the dot
+    LPARAM lCustData;
+    LPOFNHOOKPROC lpfnHook;
+    LPCSTR lpTemplateName;
+    void* pvReserved;
+    DWORD dwReserved;
+    DWORD FlagsEx;
+};
+using OPENFILENAME = OPENFILENAMEA;
+using LPOPENFILENAMEA = OPENFILENAMEA*;
+
+// Ask for a file to open or to save to. FALSE when cancelled or failed.
+WINUSERAPI BOOL GetOpenFileNameA(OPENFILENAMEA* dialog);
+WINUSERAPI BOOL GetSaveFileNameA(OPENFILENAMEA* dialog);
+
+#define GetOpenFileName GetOpenFileNameA
+#define GetSaveFileName GetSaveFileNameA

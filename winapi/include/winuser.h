@@ -10,6 +10,7 @@
 #include "wingdi.h"
 #include "winmenu.h"
 #include "winclipboard.h"
+#include "wincontrols.h"
 
 // ---- identifiers ----
 

@@ -1,4 +1,5 @@
 // Size, position, visibility and coordinates.
+#include "control_widget.h"
 #include "focus.h"
 #include "host_widget.h"
 #include "update_region.h"
@@ -80,6 +81,7 @@ void applyAndRepaint(Window& window, const QRect& rect, const WINDOWPOS& pos)
     apply(window, rect, pos);
     if (window.isTopLevel())
         followWindow(window, !(pos.flags & SWP_NOACTIVATE));
+    followControls(window);
     if (pos.flags & SWP_NOREDRAW)
         return;
     const bool keep = !(pos.flags & SWP_NOCOPYBITS) && !redrawsWhole(window, sizeBefore);

@@ -2,6 +2,7 @@
 #include "commdlg.h"
 
 #include "application.h"
+#include "modal_dialog.h"
 #include "printing.h"
 #include "winbase.h"
 
@@ -14,18 +15,6 @@
 namespace winapi {
 
 namespace {
-
-DWORD& lastDialogError()
-{
-    static DWORD error = 0;
-    return error;
-}
-
-BOOL failDialog(DWORD error)
-{
-    lastDialogError() = error;
-    return FALSE;
-}
 
 QString nameOf(const QPrinter& printer)
 {
@@ -105,7 +94,7 @@ bool ask(QPrinter& printer, const PRINTDLGA& request)
     dialog.setOption(QAbstractPrintDialog::PrintToFile, !(request.Flags & PD_HIDEPRINTTOFILE));
     if (request.nMaxPage >= request.nMinPage && request.nMaxPage > 0)
         dialog.setMinMax(request.nMinPage, request.nMaxPage);
-    return dialog.exec() == QDialog::Accepted;
+    return runModal(dialog, request.hwndOwner) == QDialog::Accepted;
 }
 
 }
@@ -133,9 +122,4 @@ BOOL PrintDlgA(PRINTDLGA* dialog)
         tellPages(printer, *dialog);
     }
     return tellChoice(printer, *dialog);
-}
-
-DWORD CommDlgExtendedError()
-{
-    return lastDialogError();
 }

@@ -25,10 +25,14 @@ struct WindowClass
 };
 using WindowClassPtr = std::shared_ptr<const WindowClass>;
 
+struct Window;
+
 // What a control keeps with its window.
 struct ControlState
 {
     virtual ~ControlState() = default;
+    // Its window, or one above that, was moved, sized, shown or hidden.
+    virtual void follow(Window&) {}
 };
 
 struct Window

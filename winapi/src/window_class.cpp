@@ -33,6 +33,9 @@ ClassTable& tableWithSystemClasses()
     static std::once_flag once;
     std::call_once(once, [] {
         registerButtonClass();
+        registerComboBoxClass();
+        registerEditClass();
+        registerListBoxClass();
         registerStaticClass();
         registerToolTipClass();
     });

@@ -10,6 +10,9 @@ WindowClassPtr findClass(LPCSTR nameOrAtom);
 void registerSystemClass(const char* name, WNDPROC procedure, UINT style, LPCSTR cursor);
 
 void registerButtonClass();
+void registerComboBoxClass();
+void registerEditClass();
+void registerListBoxClass();
 void registerStaticClass();
 void registerToolTipClass();
 
