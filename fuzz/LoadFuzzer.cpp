@@ -67,13 +67,14 @@ void Use(CalendarSettings& settings)
 {
     constexpr int nMin = std::numeric_limits<int>::min();
     constexpr int nMax = std::numeric_limits<int>::max();
-    for (const int nYear : {nMin, 0, 1582, 2026, 9999, nMax}) {
-        for (const int nMonth : {1, 4, 10, 12, nMax}) {
-            for (const int nDay : {1, 15, 31, nMin}) {
-                DWORD dwColor = 0;
-                settings.GetDateDesc(nDay, nMonth, nYear, dwColor);
-            }
-        }
+    const struct
+    {
+        int nDay, nMonth, nYear;
+    } dates[] = {{1, 1, 2026}, {31, 12, 9999},     {15, 10, 1582},
+                 {4, 4, 2021}, {nMax, nMax, nMax}, {nMin, nMin, nMin}};
+    for (const auto& date : dates) {
+        DWORD dwColor = 0;
+        settings.GetDateDesc(date.nDay, date.nMonth, date.nYear, dwColor);
     }
     for (const auto group : kGroups) {
         for (std::size_t i = 0; i < settings.GetCount(group); ++i)
