@@ -1,0 +1,201 @@
+#include <afxext.h>
+
+#include <AppLogger.h>
+#include <CalendarWnd.h>
+#include <CalendarWndPrinter.h>
+#include <LocaleUtils.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr COLORREF kText = RGB(0, 0, 255);
+constexpr COLORREF kOtherMonth = RGB(0xC4, 0xC4, 0xC4);
+constexpr COLORREF kLine = RGB(0, 0, 0);
+constexpr COLORREF kPaper = RGB(255, 255, 255);
+const CSize kPaperSize(730, 730);
+
+// A sheet of paper in memory.
+class Sheet : public CDC
+{
+public:
+    Sheet()
+    {
+        const HDC hScreen = ::GetDC(nullptr);
+        Attach(::CreateCompatibleDC(hScreen));
+        m_bitmap.Attach(::CreateCompatibleBitmap(hScreen, kPaperSize.cx, kPaperSize.cy));
+        ::ReleaseDC(nullptr, hScreen);
+        m_hOldBitmap = ::SelectObject(m_hDC, m_bitmap.m_hObject);
+        FillSolidRect(CRect(CPoint(), kPaperSize), kPaper);
+    }
+    ~Sheet() override { ::SelectObject(m_hDC, m_hOldBitmap); }
+
+private:
+    CBitmap m_bitmap;
+    HGDIOBJ m_hOldBitmap;
+};
+
+// Draws the page's content on a sheet, in a given rectangle.
+class SheetPrinter : public CCalendarWndPrinter
+{
+public:
+    SheetPrinter(Sheet& sheet, const CRect& rcPage, const DateTime& date)
+        : CCalendarWndPrinter(date), m_sheet(sheet), m_rcPage(rcPage)
+    {
+        PrintInfo info;
+        Print(&info);
+        EXPECT_STREQ(info.GetErrorMsg(), "");
+    }
+
+protected:
+    void InitPrintProcess() override { SetPrintDC(m_sheet.Detach()); }
+    void StartPrint() override { GetPrintInfo()->m_rectDraw = m_rcPage; }
+    void PrintPages() override { PrintPageContent(kText); }
+    void EndPrint() override {}
+    void EndPrintProcess() override { m_sheet.Attach(GetPrintDC()->Detach()); }
+
+private:
+    Sheet& m_sheet;
+    CRect m_rcPage;
+};
+
+class PrinterTest : public testing::Test
+{
+protected:
+    PrinterTest() { EXPECT_TRUE(LocaleUtils::SetLocale("en-US")); }
+    ~PrinterTest() override { LocaleUtils::SetLocale(""); }
+
+    void ExpectLine(CPoint ptMiddle, bool bHorizontal)
+    {
+        EXPECT_EQ(sheet.GetPixel(ptMiddle), kLine) << ptMiddle.x << ',' << ptMiddle.y;
+        const CSize across = bHorizontal ? CSize(0, 1) : CSize(1, 0);
+        EXPECT_EQ(sheet.GetPixel(ptMiddle + across), kPaper) << ptMiddle.x << ',' << ptMiddle.y;
+        EXPECT_EQ(sheet.GetPixel(ptMiddle - across), kPaper) << ptMiddle.x << ',' << ptMiddle.y;
+    }
+
+    // Whether the pixels inside a cell are those of this text.
+    bool HasText(const CRect& rcCell, const CString& strText, COLORREF crText, UINT nFormat)
+    {
+        Sheet expected;
+        CRect rcText = rcCell;
+        expected.SetTextColor(crText);
+        expected.DrawText(strText, &rcText, nFormat);
+        for (int y = rcCell.top; y < rcCell.bottom; ++y)
+            for (int x = rcCell.left; x < rcCell.right; ++x)
+                if (sheet.GetPixel(x, y) != expected.GetPixel(x, y))
+                    return false;
+        return true;
+    }
+
+    Sheet sheet;
+};
+
+TEST_F(PrinterTest, LinesDivideThePage)
+{
+    const struct
+    {
+        int nLength; // between the outer edges, after the frame
+        int nStep;
+    } cases[] = {{704, 100}, {705, 101}, {700, 100}, {706, 101}};
+    for (const auto& [nLength, nStep] : cases) {
+        SCOPED_TRACE(nLength);
+        const CRect rcPage(10, 12, 10 + nLength + 2, 12 + nLength + 2);
+        SheetPrinter(sheet, rcPage, DateTime());
+        EXPECT_EQ(sheet.GetPixel(10, 12), kLine);
+        EXPECT_EQ(sheet.GetPixel(10 + nLength + 1, 12 + nLength + 1), kLine);
+        EXPECT_EQ(sheet.GetPixel(9, 60), kPaper);
+        EXPECT_EQ(sheet.GetPixel(10 + nLength + 2, 60), kPaper);
+        for (int i = 1; i <= 6; ++i) {
+            ExpectLine({11 + nStep / 2, 13 + i * nStep}, true);
+            ExpectLine({11 + i * nStep, 13 + nStep / 2}, false);
+        }
+        for (int y = 20; y < 100; y += 3) // no text without a date
+            for (int x = 20; x < 100; x += 3)
+                ASSERT_EQ(sheet.GetPixel(x, y), kPaper);
+        sheet.FillSolidRect(CRect(CPoint(), kPaperSize), kPaper);
+    }
+}
+
+struct MonthCase
+{
+    const char* pszLocale;
+    int nYear;
+    int nMonth;
+    int nFirstColumn;
+};
+
+class PrinterMonthTest : public PrinterTest, public testing::WithParamInterface<MonthCase>
+{
+};
+
+// Shapes: 28 days from column 1, 31 days from column 7, January, and a Sunday under each first day.
+INSTANTIATE_TEST_SUITE_P(Shapes, PrinterMonthTest,
+                         testing::Values(MonthCase{"en-US", 2015, 2, 1}, MonthCase{"en-US", 2026, 8, 7},
+                                         MonthCase{"en-US", 2026, 1, 5}, MonthCase{"nl-NL", 2026, 3, 7},
+                                         MonthCase{"en-US", 2026, 3, 1}, MonthCase{"ar-EG", 2026, 9, 4}));
+
+TEST_P(PrinterMonthTest, CellsShowTheirDays)
+{
+    const auto [pszLocale, nYear, nMonth, nFirstColumn] = GetParam();
+    ASSERT_TRUE(LocaleUtils::SetLocale(pszLocale));
+    SheetPrinter(sheet, CRect(0, 0, 702, 702), DateTime(nYear, nMonth, 20, 0, 0, 0));
+
+    DateTime day(nYear, nMonth, 1, 0, 0, 0);
+    day.AddDays(1 - nFirstColumn);
+    for (int i = 0; i < 49; ++i) {
+        const int nColumn = i % 7;
+        const int x = 1 + nColumn * 100;
+        const int y = 1 + i / 7 * 100;
+        const CRect rcCell(x + (nColumn == 0 ? 3 : 4), y + 2, x + 99, y + 99);
+        if (i < 7) {
+            const int nWeekday = (LocaleUtils::GetFirstDayOfWeek() - 1 + nColumn) % 7 + 1;
+            EXPECT_TRUE(HasText(rcCell, LocaleUtils::GetDayName(nWeekday, true), 0,
+                                DT_CENTER | DT_VCENTER | DT_SINGLELINE));
+            continue;
+        }
+        const COLORREF cr = day.GetMonth() == nMonth ? kText : kOtherMonth;
+        EXPECT_TRUE(HasText(rcCell, std::to_string(day.GetDay()).c_str(), cr, DT_VCENTER | DT_SINGLELINE))
+            << i;
+        day.AddDays(1);
+    }
+}
+
+class PrintedCalendar : public CCalendarWnd
+{
+public:
+    using CCalendarWnd::OnOptionsPrint;
+};
+
+class Logger : public AppLogger
+{
+public:
+    Logger() { m_pInstance = this; }
+    ~Logger() override { m_pInstance = nullptr; }
+    void AddLine(const CString& strLine) override { m_lines.emplace_back(strLine); }
+
+    std::vector<std::string> m_lines;
+};
+
+TEST_F(PrinterTest, FailureIsLoggedWithItsText)
+{
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "zeb17_missing" / "page.pdf";
+    UIPrinter::SetOutputFile(path.string().c_str());
+    PrintedCalendar calendar;
+    calendar.OnOptionsPrint(); // without a log
+    {
+        Logger logger;
+        calendar.OnOptionsPrint();
+        ASSERT_EQ(logger.m_lines.size(), 1u);
+        const std::string strMarker = "{78FAA3F2-6C47-4BBA-853B-740B92F8688A}";
+        EXPECT_EQ(logger.m_lines[0].substr(0, strMarker.size()), strMarker);
+        EXPECT_GT(logger.m_lines[0].size(), strMarker.size() + 10);
+    }
+    UIPrinter::SetOutputFile("");
+}
+
+}
