@@ -98,7 +98,8 @@ void noteModifier(int virtualKey, bool down)
 
 void sendKey(QEvent::Type type, int virtualKey)
 {
-    QWidget* const widget = QWidgetFromWindow(GetActiveWindow());
+    const QWidget* const dialog = QApplication::activeModalWidget(); // of Qt, with no window of ours
+    QWidget* const widget = dialog ? QApplication::focusWidget() : QWidgetFromWindow(GetActiveWindow());
     if (!widget)
         return;
     QKeyEvent event(type, keyOf(virtualKey), modifiers, textOf(virtualKey));

@@ -2,6 +2,9 @@
 #include "control.h"
 #include "window_class.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace winapi {
 
 namespace {
@@ -37,6 +40,7 @@ private:
     void paintPush(HDC dc, RECT rect);
     void paintCheck(HDC dc, RECT rect);
     void paintGroup(HDC dc, RECT rect);
+    void drawMark(HDC dc, const RECT& rect, int color, int frameColor);
     void drawLabel(HDC dc, RECT rect, UINT format);
 
     void setPushed(bool pushed);
@@ -44,6 +48,8 @@ private:
     void follow(LPARAM point);
     void letGo(bool inside);
     void click();
+    void checkAlone();
+    bool isRadio() const { return type() == BS_RADIOBUTTON || type() == BS_AUTORADIOBUTTON; }
     void gainFocus();
     void loseFocus();
     void loseCapture();
@@ -222,16 +228,31 @@ void Button::paintCheck(HDC dc, RECT rect)
     box.top += (rect.bottom - rect.top - boxSize) / 2;
     box.right = box.left + boxSize;
     box.bottom = box.top + boxSize;
-    FillRect(dc, &box, GetSysColorBrush(COLOR_WINDOW));
-    FrameRect(dc, &box, GetSysColorBrush(COLOR_BTNSHADOW));
+    drawMark(dc, box, COLOR_WINDOW, COLOR_BTNSHADOW);
     if (m_state.check != BST_UNCHECKED) {
         InflateRect(&box, -3, -3);
-        FillRect(dc, &box, GetSysColorBrush(COLOR_BTNTEXT));
+        drawMark(dc, box, COLOR_BTNTEXT, COLOR_BTNTEXT);
     }
     rect.left += boxSize + gap;
     drawLabel(dc, rect, DT_LEFT | DT_VCENTER);
     if (m_state.focused)
         DrawFocusRect(dc, &rect);
+}
+
+// Round for a radio button, square for a check box.
+void Button::drawMark(HDC dc, const RECT& rect, int color, int frameColor)
+{
+    if (!isRadio()) {
+        FillRect(dc, &rect, GetSysColorBrush(color));
+        FrameRect(dc, &rect, GetSysColorBrush(frameColor));
+        return;
+    }
+    const HPEN pen = CreatePen(PS_SOLID, 1, GetSysColor(frameColor));
+    const HGDIOBJ oldPen = SelectObject(dc, pen);
+    const HGDIOBJ oldBrush = SelectObject(dc, GetSysColorBrush(color));
+    Ellipse(dc, rect.left, rect.top, rect.right, rect.bottom);
+    SelectObject(dc, oldBrush);
+    DeleteObject(SelectObject(dc, oldPen));
 }
 
 void Button::paintGroup(HDC dc, RECT rect)
@@ -285,7 +306,26 @@ void Button::click()
         m_state.check = m_state.check == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED;
         redraw(ODA_DRAWENTIRE);
     }
+    if (type() == BS_AUTORADIOBUTTON)
+        checkAlone();
     notifyCommand(m_window, BN_CLICKED);
+}
+
+// Of its group, which reaches from one control with WS_GROUP to the next.
+void Button::checkAlone()
+{
+    const auto& siblings = m_window.parent->children;
+    const auto begins = [](const Window* sibling) { return sibling->is(WS_GROUP); };
+    const auto self = std::find(siblings.begin(), siblings.end(), &m_window);
+    const auto before = std::find_if(std::make_reverse_iterator(self + 1), siblings.rend(), begins);
+    const auto first = before == siblings.rend() ? siblings.begin() : before.base() - 1;
+    std::vector<HWND> group;
+    std::transform(first, std::find_if(self + 1, siblings.end(), begins), std::back_inserter(group),
+                   [](const Window* sibling) { return sibling->handle; });
+    for (const HWND one : group) {
+        if (SendMessageA(one, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON)
+            SendMessageA(one, BM_SETCHECK, one == hwnd() ? BST_CHECKED : BST_UNCHECKED, 0);
+    }
 }
 
 void Button::gainFocus()
@@ -325,6 +365,9 @@ LRESULT Button::dialogCode() const
         return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
     case BS_GROUPBOX:
         return DLGC_STATIC;
+    case BS_RADIOBUTTON:
+    case BS_AUTORADIOBUTTON:
+        return DLGC_BUTTON | DLGC_RADIOBUTTON;
     default:
         return DLGC_BUTTON;
     }

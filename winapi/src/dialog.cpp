@@ -99,14 +99,23 @@ bool actOnMnemonic(HWND dialog, HWND focus, WPARAM character)
     return true;
 }
 
+// A text is selected, ready to be typed over.
+void moveTo(HWND next)
+{
+    if (!next)
+        return;
+    if (dialogCode(next, nullptr) & DLGC_HASSETSEL)
+        SendMessageA(next, EM_SETSEL, 0, -1);
+    SetFocus(next);
+}
+
 bool actOnKey(HWND dialog, MSG& message, LRESULT code)
 {
     switch (message.wParam) {
     case VK_TAB:
         if (code & DLGC_WANTTAB)
             return false;
-        if (const HWND next = GetNextDlgTabItem(dialog, message.hwnd, GetKeyState(VK_SHIFT) & 0x8000))
-            SetFocus(next);
+        moveTo(GetNextDlgTabItem(dialog, message.hwnd, GetKeyState(VK_SHIFT) & 0x8000));
         return true;
     case VK_RETURN:
         command(dialog, IDOK);

@@ -102,6 +102,7 @@ struct EditState : ControlState
     ControlWidget widget;
     HFONT font = nullptr;
     int limit = defaultLimit;
+    bool inDialog = false;                        // its parent leads the keys by IsDialogMessage
     QStringDecoder decoder{QStringDecoder::Utf8}; // a letter comes byte by byte
 
 private:
@@ -178,6 +179,7 @@ private:
     HWND hwnd() const { return m_window.handle; }
     bool isMultiLine() const { return m_window.is(ES_MULTILINE); }
     bool isReadOnly() const { return m_window.is(ES_READONLY); }
+    bool takesEnter() const { return isMultiLine() && (m_window.is(ES_WANTRETURN) || !m_state.inDialog); }
     TextField& field() { return *m_state.field; }
 
     template <class Action>
@@ -195,7 +197,8 @@ private:
     void select(int start, int end);
     LRESULT giveSelection(WPARAM start, LPARAM end);
     void setReadOnly(bool readOnly);
-    LRESULT dialogCode(const MSG* message) const;
+    LRESULT dialogCode(const MSG* message);
+    bool leaveToDialog(WPARAM key);
     void paint();
 
     Window& m_window;
@@ -344,9 +347,9 @@ void Edit::typeControl(char character)
     case '\b':
         return act([&] { m_state.widget.sendKey(Qt::Key_Backspace); });
     case '\r':
-        return isMultiLine() ? insert("\n") : void();
+        return takesEnter() ? insert("\n") : void();
     case '\t':
-        return isMultiLine() ? insert("\t") : void();
+        return isMultiLine() && !m_state.inDialog ? insert("\t") : void();
     default:
         return;
     }
@@ -365,11 +368,10 @@ void Edit::paste()
 // All that is put in by hand or by a message comes by here.
 void Edit::insert(QString text)
 {
-    const bool cut = cutToLimit(text);
-    const HWND self = hwnd();
-    act([&] { field().replaceSelection(text); });
-    if (cut && IsWindow(self))
+    if (cutToLimit(text))
         notifyCommand(m_window, EN_MAXTEXT);
+    if (isAlive(m_window))
+        act([&] { field().replaceSelection(text); });
 }
 
 bool Edit::cutToLimit(QString& text)
@@ -388,7 +390,7 @@ void Edit::press(UINT message, LPARAM lParam)
 {
     const HWND self = hwnd();
     SetFocus(self);
-    if (!IsWindow(self))
+    if (!isAlive(m_window))
         return;
     SetCapture(self);
     act([&] { m_state.widget.sendMouse(message, lParam); });
@@ -400,6 +402,8 @@ bool Edit::keyDown(WPARAM key)
         paste();
         return true;
     }
+    if (leaveToDialog(key))
+        return true;
     const int qtKey = editingKey(key);
     if (qtKey)
         act([&] { m_state.widget.sendKey(qtKey); });
@@ -447,12 +451,22 @@ void Edit::setReadOnly(bool readOnly)
     InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
-// In a dialog Tab and Escape are the dialog's, and so is Enter unless the style says otherwise.
-LRESULT Edit::dialogCode(const MSG* message) const
+// Of several lines it gets all keys, also those of the dialog.
+LRESULT Edit::dialogCode(const MSG* message)
 {
-    const bool enter = message && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
-    const bool wantsEnter = enter && isMultiLine() && m_window.is(ES_WANTRETURN);
-    return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (wantsEnter ? DLGC_WANTMESSAGE : 0);
+    m_state.inDialog |= message != nullptr;
+    return DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS | (isMultiLine() ? DLGC_WANTALLKEYS : 0);
+}
+
+bool Edit::leaveToDialog(WPARAM key)
+{
+    if (!m_state.inDialog || !isMultiLine() || (key != VK_TAB && key != VK_ESCAPE))
+        return false;
+    if (key == VK_TAB)
+        PostMessageA(m_window.parent->handle, WM_NEXTDLGCTL, isDown(VK_SHIFT), 0);
+    else
+        PostMessageA(m_window.parent->handle, WM_CLOSE, 0, 0);
+    return true;
 }
 
 void Edit::paint()
