@@ -7,7 +7,8 @@
 #include <random>
 
 // Random messages, after each of which the control must be in order. A seed that fails is to be added below.
-class MonkeyTest : public CalendarTest, public testing::WithParamInterface<std::pair<unsigned, int>>
+// The build says how many there are: the emulated system is slow.
+class MonkeyTest : public CalendarTest, public testing::WithParamInterface<unsigned>
 {
 protected:
     int Pick(int nBelow) { return static_cast<int>(m_random() % static_cast<unsigned>(nBelow)); }
@@ -92,32 +93,34 @@ protected:
         }
     }
 
-    void CheckHeard(bool bCouldBeInvalid)
+    // At most a change and its range, each in the state that it tells of.
+    void CheckHeard()
     {
         ASSERT_LE(parent.m_heard.size(), 2u);
         for (const Heard& heard : parent.m_heard) {
             ASSERT_EQ(heard.wParam, kCalendarId);
-            ASSERT_EQ(heard.bHaveDate,
-                      heard.nMessage == CCalendarWnd::CALWND_ONSELCHANGE ||
-                          (heard.nMessage != CCalendarWnd::CALWND_ONNODATE && heard.bHaveDate));
-            ASSERT_TRUE(heard.date.IsValid() || bCouldBeInvalid);
+            if (heard.nMessage != CCalendarWnd::CALWND_DATERANGE_CHANGED &&
+                heard.nMessage != CCalendarWnd::CALWND_ENTERKEY &&
+                heard.nMessage != CCalendarWnd::CALWND_ESCKEY) {
+                ASSERT_EQ(heard.bHaveDate, heard.nMessage == CCalendarWnd::CALWND_ONSELCHANGE);
+            }
         }
         parent.m_heard.clear();
     }
 
-    std::mt19937 m_random{GetParam().first};
+    std::mt19937 m_random{GetParam()};
 };
 
 TEST_P(MonkeyTest, LeavesTheControlInOrder)
 {
     Start();
-    for (int i = 0; i < GetParam().second; ++i) {
-        SCOPED_TRACE("seed " + std::to_string(GetParam().first) + " message " + std::to_string(i));
+    for (int i = 0; i < MONKEY_MESSAGES; ++i) {
+        SCOPED_TRACE("seed " + std::to_string(GetParam()) + " message " + std::to_string(i));
         const DateTime before = calendar->GetDate();
         const bool bAtAnEnd = !before.IsValid() || before.GetYear() < 3 || before.GetYear() > 9997;
         Act();
         ASSERT_TRUE(calendar->GetDate().IsValid() || bAtAnEnd) << "from " << ToText(before);
-        ASSERT_NO_FATAL_FAILURE(CheckHeard(true));
+        ASSERT_NO_FATAL_FAILURE(CheckHeard());
         if (i % 8 == 0) {
             Repaint();
             ASSERT_NO_FATAL_FAILURE(CheckScreen());
@@ -125,7 +128,4 @@ TEST_P(MonkeyTest, LeavesTheControlInOrder)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest,
-                         testing::Values(std::pair(1u, 5000), std::pair(20260715u, 5000),
-                                         std::pair(99u, 10000)));
-INSTANTIATE_TEST_SUITE_P(DISABLED_Long, MonkeyTest, testing::Values(std::pair(7u, 200000)));
+INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Values(1u, 20260715u));

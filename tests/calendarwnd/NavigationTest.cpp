@@ -5,37 +5,19 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-enum class Screen
+DateTime Parse(const char* strDate)
 {
-    Unchanged, // nothing waits to be painted
-    Grid       // the whole grid does
-};
-
-// A message, and how far the control had got when it was sent.
-struct Told
-{
-    std::string strName;
-    bool bNewTitle;
-    bool bNewFrame;
-
-    bool operator==(const Told&) const = default;
-};
-
-void PrintTo(const Told& told, std::ostream* out)
-{
-    *out << told.strName << (told.bNewTitle ? " title" : "") << (told.bNewFrame ? " frame" : "");
+    int nYear = 0, nMonth = 0, nDay = 0;
+    std::sscanf(strDate, "%d-%d-%d", &nYear, &nMonth, &nDay);
+    return Date(nYear, nMonth, nDay);
 }
-
-const Told kTold{"SELCHANGE 1", true, false};               // the last thing done
-const Told kToldBeforeRefresh{"SELCHANGE 1", false, false}; // the first
-const Told kToldFrameMoved{"SELCHANGE 1", false, true};
-const Told kPressed{"SELCHANGE 0", false, false};
-const Told kPressedMonth{"SELCHANGE 0", true, false};
 
 }
 
@@ -43,41 +25,47 @@ const Told kPressedMonth{"SELCHANGE 0", true, false};
 class TriggerTest : public CalendarTest
 {
 protected:
+    // A state is a date, with a plus before it if it is selected and a minus if not. What is told stands in
+    // its order, each message with its `lParam`, and with "title" or "frame" if that had changed by then.
     struct Trigger
     {
         const char* strName;
         std::function<void()> act;
-        bool bHaveDateBefore;
-        DateTime before;
-        bool bHaveDate;
-        DateTime date;
-        Screen screen;
-        std::vector<Told> told;
+        const char* strBefore;
+        const char* strAfter;
+        bool bGridInvalid; // else nothing is
+        const char* strTold;
     };
 
     void Check(const Trigger& trigger)
     {
         SCOPED_TRACE(trigger.strName);
-        Show(trigger.before, trigger.bHaveDateBefore);
+        Show(Parse(trigger.strBefore + 1), trigger.strBefore[0] == '+');
         parent.m_heard.clear();
         const CString strOldTitle = calendar->GetTitle();
         const CRect rcOld = calendar->m_rcSelection;
         trigger.act();
 
-        EXPECT_EQ(calendar->m_bHaveDate, trigger.bHaveDate);
-        EXPECT_EQ(ToText(calendar->GetDate()), ToText(trigger.date));
-        EXPECT_EQ(GetInvalid(), trigger.screen == Screen::Grid ? calendar->m_rcGrid : CRect());
+        const std::string strAfter = trigger.strAfter;
+        EXPECT_EQ(GetState(calendar->GetDate(), calendar->m_bHaveDate), strAfter);
+        EXPECT_EQ(GetInvalid(), trigger.bGridInvalid ? calendar->m_rcGrid : CRect());
         CheckTables();
-        std::vector<Told> told;
+        std::string strTold;
         for (const Heard& heard : parent.m_heard) {
             EXPECT_EQ(heard.wParam, kCalendarId);
-            EXPECT_EQ(ToText(heard.date), ToText(trigger.date));
-            EXPECT_EQ(heard.bHaveDate, trigger.bHaveDate);
-            told.push_back({NameOf(heard), heard.strTitle != strOldTitle, heard.rcSelection != rcOld});
+            EXPECT_EQ(GetState(heard.date, heard.bHaveDate), strAfter);
+            strTold += (strTold.empty() ? "" : ", ") + NameOf(heard);
+            strTold += heard.strTitle != strOldTitle ? " title" : "";
+            strTold += heard.rcSelection != rcOld ? " frame" : "";
         }
-        EXPECT_EQ(told, trigger.told);
+        EXPECT_EQ(strTold, trigger.strTold);
         Repaint();
-        EXPECT_EQ(calendar->m_rcSelection, calendar->GetDayRect(trigger.date.GetDay()));
+        EXPECT_EQ(calendar->m_rcSelection, calendar->GetDayRect(calendar->GetDate().GetDay()));
+    }
+
+    static std::string GetState(const DateTime& date, bool bHaveDate)
+    {
+        return (bHaveDate ? "+" : "-") + ToText(date);
     }
 
     // Title and special days are those of the month shown.
@@ -96,249 +84,75 @@ protected:
 TEST_F(TriggerTest, Table)
 {
     Start();
-    const DateTime start = Date(2026, 5, 20);
-    const DateTime today = Date(2026, 7, 15);
     const auto key = [this](WPARAM nKey) { return [this, nKey] { Key(nKey); }; };
     const auto command = [this](UINT nId) { return [this, nId] { Command(nId); }; };
-    const auto set = [this](const DateTime& date) { return [this, date] { calendar->SetDate(date); }; };
+    const auto set = [this](const char* strDate) {
+        return [this, date = Parse(strDate)] { calendar->SetDate(date); };
+    };
     const auto wheel = [this](short n) {
         return [this, n] { calendar->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, n), 0); };
     };
     const auto press = [this](int nCell) {
         return [this, nCell] { Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint()); };
     };
-    constexpr int kFirstCell = 5; // 1 May 2026 is a Friday
-    const Told noDate{"NODATE 0", false, false};
-    const Told range{"RANGE 0", true, false};
+    const auto reload = [this] { calendar->ReloadSpecialDates(); };
+    constexpr bool kGrid = true, kKept = false;
+    const char* const strSel = "SELCHANGE 1"; // before anything else is done
 
+    // Cell 5 is 1 May 2026. Today is 15 July 2026.
     const Trigger triggers[] = {
-        {"SetDate in the month",
-         set(Date(2026, 5, 3)),
-         true,
-         start,
-         true,
-         Date(2026, 5, 3),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"SetDate in another month",
-         set(Date(2026, 6, 3)),
-         false,
-         start,
-         true,
-         Date(2026, 6, 3),
-         Screen::Grid,
-         {kTold}},
-        {"SetDate in another year",
-         set(Date(2025, 5, 20)),
-         false,
-         start,
-         true,
-         Date(2025, 5, 20),
-         Screen::Grid,
-         {kTold}},
-        {"SetDate without a date", set(DateTime()), true, start, false, today, Screen::Grid, {}},
-        {"SetDate without a date, today shown",
-         set(DateTime()),
-         true,
-         Date(2026, 7, 1),
-         false,
-         today,
-         Screen::Grid,
-         {}},
-        {"Year back",
-         command(2600),
-         true,
-         start,
-         true,
-         Date(2025, 5, 20),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Year on", command(2601), true, start, true, Date(2027, 5, 20), Screen::Grid, {kToldBeforeRefresh}},
-        {"Month back",
-         command(2602),
-         true,
-         start,
-         true,
-         Date(2026, 4, 20),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Month on", command(2603), true, start, true, Date(2026, 6, 20), Screen::Grid, {kToldBeforeRefresh}},
-        {"Month on, no date", command(2603), false, start, false, Date(2026, 6, 20), Screen::Grid, {}},
-        {"Year back, no date", command(2600), false, start, false, Date(2025, 5, 20), Screen::Grid, {}},
-        {"Month on keeps within the month",
-         command(2603),
-         true,
-         Date(2026, 1, 31),
-         true,
-         Date(2026, 2, 28),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Page Up",
-         key(VK_PRIOR),
-         true,
-         Date(2026, 1, 5),
-         true,
-         Date(2025, 12, 5),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Page Down",
-         key(VK_NEXT),
-         true,
-         Date(2026, 12, 5),
-         true,
-         Date(2027, 1, 5),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Page Down, no date", key(VK_NEXT), false, start, false, Date(2026, 6, 20), Screen::Grid, {}},
-        {"Wheel away", wheel(120), true, start, true, Date(2026, 4, 20), Screen::Grid, {kToldBeforeRefresh}},
-        {"Wheel away a little", wheel(1), false, start, false, Date(2026, 4, 20), Screen::Grid, {}},
-        {"Wheel not at all",
-         wheel(0),
-         true,
-         start,
-         true,
-         Date(2026, 6, 20),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Wheel two notches near",
-         wheel(-240),
-         true,
-         start,
-         true,
-         Date(2026, 6, 20),
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Today", command(2604), false, start, true, today, Screen::Grid, {kTold}},
-        {"Today, in the month",
-         command(2604),
-         true,
-         Date(2026, 7, 1),
-         true,
-         today,
-         Screen::Grid,
-         {kToldBeforeRefresh}},
-        {"Today, already", command(2604), true, today, true, today, Screen::Unchanged, {kToldBeforeRefresh}},
-        {"T", key('T'), false, today, true, today, Screen::Unchanged, {kToldBeforeRefresh}},
-        {"F5", key(VK_F5), true, start, true, today, Screen::Grid, {kTold}},
-        {"Clear", command(2605), true, start, false, start, Screen::Unchanged, {noDate}},
-        {"Clear again", command(2605), false, start, false, start, Screen::Unchanged, {noDate}},
-        {"Press a day",
-         press(kFirstCell + 2),
-         true,
-         start,
-         true,
-         Date(2026, 5, 3),
-         Screen::Unchanged,
-         {kPressed}},
-        {"Press the selected day", press(kFirstCell + 19), true, start, true, start, Screen::Unchanged, {}},
-        {"Press the day of no date",
-         press(kFirstCell + 19),
-         false,
-         start,
-         true,
-         start,
-         Screen::Unchanged,
-         {kPressed}},
-        {"Press the month before",
-         press(0),
-         false,
-         start,
-         true,
-         Date(2026, 4, 26),
-         Screen::Grid,
-         {kPressedMonth}},
-        {"Press the month after",
-         press(41),
-         true,
-         start,
-         true,
-         Date(2026, 6, 6),
-         Screen::Grid,
-         {kPressedMonth}},
-        {"Press before January",
-         press(3),
-         true,
-         Date(2026, 1, 9),
-         true,
-         Date(2025, 12, 31),
-         Screen::Grid,
-         {kPressedMonth}},
-        {"Left", key(VK_LEFT), true, start, true, Date(2026, 5, 19), Screen::Unchanged, {kToldFrameMoved}},
-        {"Right", key(VK_RIGHT), true, start, true, Date(2026, 5, 21), Screen::Unchanged, {kToldFrameMoved}},
-        {"Up", key(VK_UP), false, start, true, Date(2026, 5, 13), Screen::Unchanged, {kToldFrameMoved}},
-        {"Down", key(VK_DOWN), true, start, true, Date(2026, 5, 27), Screen::Unchanged, {kToldFrameMoved}},
-        {"Left, month before",
-         key(VK_LEFT),
-         true,
-         Date(2026, 5, 1),
-         true,
-         Date(2026, 4, 30),
-         Screen::Grid,
-         {kTold}},
-        {"Right, month after",
-         key(VK_RIGHT),
-         false,
-         Date(2026, 12, 31),
-         true,
-         Date(2027, 1, 1),
-         Screen::Grid,
-         {kTold}},
-        {"Up, month before",
-         key(VK_UP),
-         true,
-         Date(2026, 5, 7),
-         true,
-         Date(2026, 4, 30),
-         Screen::Grid,
-         {kTold}},
-        {"Down, month after",
-         key(VK_DOWN),
-         true,
-         Date(2026, 5, 25),
-         true,
-         Date(2026, 6, 1),
-         Screen::Grid,
-         {kTold}},
-        {"Left, first of all days",
-         key(VK_LEFT),
-         false,
-         Date(1, 1, 1),
-         true,
-         Date(1, 1, 1),
-         Screen::Unchanged,
-         {kToldBeforeRefresh}},
-        {"Down, last of all days",
-         key(VK_DOWN),
-         true,
-         Date(9999, 12, 31),
-         true,
-         Date(9999, 12, 31),
-         Screen::Unchanged,
-         {kToldBeforeRefresh}},
-        {"Press after the last of all days",
-         press(41),
-         false,
-         Date(9999, 12, 31),
-         true,
-         Date(9999, 12, 31),
-         Screen::Grid,
-         {kPressed}},
-        {"Home", key(VK_HOME), false, start, true, Date(2026, 5, 1), Screen::Unchanged, {kToldBeforeRefresh}},
-        {"End", key(VK_END), true, start, true, Date(2026, 5, 31), Screen::Unchanged, {kToldBeforeRefresh}},
-        {"Enter", key(VK_RETURN), true, start, true, start, Screen::Unchanged, {{"ENTER 0", false, false}}},
-        {"Esc", key(VK_ESCAPE), false, start, false, start, Screen::Unchanged, {{"ESC 0", false, false}}},
-        {"Another key", key('X'), true, start, true, start, Screen::Unchanged, {}},
-        {"A range", command(42032), false, start, true, Date(2026, 7, 1), Screen::Grid, {kTold, range}},
-        {"Copy", command(42031), true, start, true, start, Screen::Unchanged, {}},
-        {"Web page",
-         command(42049),
-         true,
-         start,
-         true,
-         start,
-         Screen::Unchanged,
-         {{"WEBPAGE 0", false, false}}},
-        {"Reload", [this] { calendar->ReloadSpecialDates(); }, true, start, true, start, Screen::Grid, {}},
+        {"SetDate in the month", set("2026-5-3"), "+2026-5-20", "+2026-5-3", kGrid, strSel},
+        {"SetDate in another month", set("2026-6-3"), "-2026-5-20", "+2026-6-3", kGrid, "SELCHANGE 1 title"},
+        {"SetDate in another year", set("2025-5-20"), "-2026-5-20", "+2025-5-20", kGrid, "SELCHANGE 1 title"},
+        {"SetDate to none", set(""), "+2026-5-20", "-2026-7-15", kGrid, ""},
+        {"SetDate to none, today shown", set(""), "+2026-7-1", "-2026-7-15", kGrid, ""},
+        {"Year back", command(2600), "+2026-5-20", "+2025-5-20", kGrid, strSel},
+        {"Year on", command(2601), "+2026-5-20", "+2027-5-20", kGrid, strSel},
+        {"Month back", command(2602), "+2026-5-20", "+2026-4-20", kGrid, strSel},
+        {"Month on", command(2603), "+2026-5-20", "+2026-6-20", kGrid, strSel},
+        {"Month on, no date", command(2603), "-2026-5-20", "-2026-6-20", kGrid, ""},
+        {"Year back, no date", command(2600), "-2026-5-20", "-2025-5-20", kGrid, ""},
+        {"Month on, to a short one", command(2603), "+2026-1-31", "+2026-2-28", kGrid, strSel},
+        {"Page Up", key(VK_PRIOR), "+2026-1-5", "+2025-12-5", kGrid, strSel},
+        {"Page Down", key(VK_NEXT), "+2026-12-5", "+2027-1-5", kGrid, strSel},
+        {"Page Down, no date", key(VK_NEXT), "-2026-5-20", "-2026-6-20", kGrid, ""},
+        {"Wheel away", wheel(120), "+2026-5-20", "+2026-4-20", kGrid, strSel},
+        {"Wheel away a little", wheel(1), "-2026-5-20", "-2026-4-20", kGrid, ""},
+        {"Wheel not at all", wheel(0), "+2026-5-20", "+2026-6-20", kGrid, strSel},
+        {"Wheel two notches near", wheel(-240), "+2026-5-20", "+2026-6-20", kGrid, strSel},
+        {"Today", command(2604), "-2026-5-20", "+2026-7-15", kGrid, "SELCHANGE 1 title"},
+        {"Today, in the month", command(2604), "+2026-7-1", "+2026-7-15", kGrid, strSel},
+        {"Today, already", command(2604), "+2026-7-15", "+2026-7-15", kKept, strSel},
+        {"T", key('T'), "-2026-7-15", "+2026-7-15", kKept, strSel},
+        {"F5", key(VK_F5), "+2026-5-20", "+2026-7-15", kGrid, "SELCHANGE 1 title"},
+        {"Clear", command(2605), "+2026-5-20", "-2026-5-20", kKept, "NODATE 0"},
+        {"Clear again", command(2605), "-2026-5-20", "-2026-5-20", kKept, "NODATE 0"},
+        {"Press a day", press(7), "+2026-5-20", "+2026-5-3", kKept, "SELCHANGE 0"},
+        {"Press the selected day", press(24), "+2026-5-20", "+2026-5-20", kKept, ""},
+        {"Press the day of no date", press(24), "-2026-5-20", "+2026-5-20", kKept, "SELCHANGE 0"},
+        {"Press the month before", press(0), "-2026-5-20", "+2026-4-26", kGrid, "SELCHANGE 0 title"},
+        {"Press the month after", press(41), "+2026-5-20", "+2026-6-6", kGrid, "SELCHANGE 0 title"},
+        {"Press the year before", press(3), "+2026-1-9", "+2025-12-31", kGrid, "SELCHANGE 0 title"},
+        {"Press after the last day", press(41), "-9999-12-31", "+9999-12-31", kGrid, "SELCHANGE 0"},
+        {"Left", key(VK_LEFT), "+2026-5-20", "+2026-5-19", kKept, "SELCHANGE 1 frame"},
+        {"Right", key(VK_RIGHT), "+2026-5-20", "+2026-5-21", kKept, "SELCHANGE 1 frame"},
+        {"Up", key(VK_UP), "-2026-5-20", "+2026-5-13", kKept, "SELCHANGE 1 frame"},
+        {"Down", key(VK_DOWN), "+2026-5-20", "+2026-5-27", kKept, "SELCHANGE 1 frame"},
+        {"Left, month before", key(VK_LEFT), "+2026-5-1", "+2026-4-30", kGrid, "SELCHANGE 1 title"},
+        {"Right, year after", key(VK_RIGHT), "-2026-12-31", "+2027-1-1", kGrid, "SELCHANGE 1 title"},
+        {"Up, month before", key(VK_UP), "+2026-5-7", "+2026-4-30", kGrid, "SELCHANGE 1 title"},
+        {"Down, month after", key(VK_DOWN), "+2026-5-25", "+2026-6-1", kGrid, "SELCHANGE 1 title"},
+        {"Left on the first of all days", key(VK_LEFT), "-1-1-1", "+1-1-1", kKept, strSel},
+        {"Down on the last of all days", key(VK_DOWN), "+9999-12-31", "+9999-12-31", kKept, strSel},
+        {"Home", key(VK_HOME), "-2026-5-20", "+2026-5-1", kKept, strSel},
+        {"End", key(VK_END), "+2026-5-20", "+2026-5-31", kKept, strSel},
+        {"Enter", key(VK_RETURN), "+2026-5-20", "+2026-5-20", kKept, "ENTER 0"},
+        {"Esc", key(VK_ESCAPE), "-2026-5-20", "-2026-5-20", kKept, "ESC 0"},
+        {"Another key", key('X'), "+2026-5-20", "+2026-5-20", kKept, ""},
+        {"A range", command(42032), "-2026-5-20", "+2026-7-1", kGrid, "SELCHANGE 1 title, RANGE 0 title"},
+        {"Copy", command(42031), "+2026-5-20", "+2026-5-20", kKept, ""},
+        {"Web page", command(42049), "+2026-5-20", "+2026-5-20", kKept, "WEBPAGE 0"},
+        {"Reload", reload, "+2026-5-20", "+2026-5-20", kGrid, ""},
     };
     for (const Trigger& trigger : triggers)
         Check(trigger);
