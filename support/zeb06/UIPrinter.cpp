@@ -9,7 +9,7 @@ constexpr int MARGIN_UNITS_PER_INCH = 1000;
 constexpr int DEFAULT_SCREEN_DPI = 96;
 
 constexpr char FACE[] = "Arial";
-constexpr int HEADER_POINTS = 16;
+constexpr int HEADER_POINTS = 22;
 constexpr int FOOTER_POINTS = 9;
 constexpr int MIN_CONTENT_POINTS = 6;
 constexpr int CONTENT_LINES = 28; // of text fit into the shorter side of the content
@@ -32,6 +32,7 @@ struct DialogError
 
 constexpr DialogError DIALOG_ERRORS[] = {
     {PDERR_NODEVICES, "There is no printer."},
+    {0, "There is no default printer."}, // some systems give no code for it
     {PDERR_NODEFAULTPRN, "There is no default printer."},
     {PDERR_PRINTERNOTFOUND, "The printer was not found."},
 };
