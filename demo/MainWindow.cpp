@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "ErrorText.h"
+
 #include <GraphicsUtils.h>
 
 #include <cstdio>
@@ -8,22 +10,12 @@ namespace {
 
 constexpr UINT kCalendarId = 100;
 constexpr UINT kStatusId = 101;
+constexpr UINT kPanelId = 102;
 constexpr int kMargin = 12;
 constexpr int kStatusHeight = 20;
-const CRect kWindowRect(CPoint(80, 80), CSize(360, 330));
-
-struct GroupColor
-{
-    CalendarSettings::Group group;
-    COLORREF color;
-};
-constexpr GroupColor kGroupColors[] = {
-    {CalendarSettings::GroupUS, RGB(0x2a, 0x6f, 0xc9)},
-    {CalendarSettings::GroupCanada, RGB(0xd0, 0x3a, 0x3a)},
-    {CalendarSettings::GroupNetherlands, RGB(0xe8, 0x80, 0x1a)},
-    {CalendarSettings::GroupCustom, RGB(0x2e, 0x9b, 0x4f)},
-    {CalendarSettings::GroupToDo, RGB(0x8a, 0x4f, 0xbf)},
-};
+constexpr int kPanelWidth = 220;
+const CRect kWindowRect(CPoint(80, 80), CSize(640, 420));
+const CRect kAnywhere(0, 0, 100, 100); // Arrange gives each child its place
 
 CString FormatDate(const DateTime& date)
 {
@@ -34,12 +26,6 @@ CString FormatDate(const DateTime& date)
     return text;
 }
 
-}
-
-DemoCalendar::DemoCalendar()
-{
-    for (const GroupColor& entry : kGroupColors)
-        m_settings.SetAllColor(entry.group, entry.color);
 }
 
 BEGIN_MESSAGE_MAP(MainWindow, CWnd)
@@ -77,28 +63,58 @@ bool MainWindow::CreateStatus()
     return true;
 }
 
+// A file that can't be read is told to the user, and left as it is: the calendar then goes without special
+// dates.
 bool MainWindow::CreateCalendar()
 {
+    const auto create = [this](bool useSpecialDates) {
+        return m_calendar.Create(kCalendarId, kAnywhere, useSpecialDates, this, true, true, true, true);
+    };
+    bool created = false;
+    CString error;
+    const bool readable = RunTellingErrors([&] { created = create(true); }, error);
+    if (!readable)
+        created = create(false);
+    if (!created || !m_panel.CreatePanel(kAnywhere, this, kPanelId, m_font))
+        return false;
+    m_panel.Refresh();
+    m_panel.AllowSave(readable);
     CRect client;
     GetClientRect(&client);
-    client.DeflateRect(kMargin, kMargin);
-    client.bottom -= kStatusHeight + kMargin;
-    return m_calendar.Create(kCalendarId, client, true, this, true, true, true, true);
+    Arrange(client.Width(), client.Height());
+    if (!readable)
+        AfxMessageBox("Your dates could not be read, so none are shown and none can be saved.\n\n" + error,
+                      MB_OK | MB_ICONEXCLAMATION);
+    return true;
 }
 
 void MainWindow::OnSize(UINT, int cx, int cy)
 {
-    if (m_status.GetSafeHwnd() == nullptr)
-        return;
-    const int statusTop = cy - kMargin - kStatusHeight;
-    m_status.MoveWindow(kMargin, statusTop, cx - 2 * kMargin, kStatusHeight);
-    if (m_calendar.GetSafeHwnd() != nullptr)
-        m_calendar.MoveWindow(kMargin, kMargin, cx - 2 * kMargin, statusTop - 2 * kMargin);
+    if (m_panel.GetSafeHwnd() != nullptr)
+        Arrange(cx, cy);
 }
 
-void MainWindow::OnSetFocus(CWnd*)
+void MainWindow::Arrange(int cx, int cy)
 {
-    if (m_calendar.GetSafeHwnd() != nullptr)
+    const int statusTop = cy - kMargin - kStatusHeight;
+    const int panelLeft = cx - kMargin - kPanelWidth;
+    const int height = statusTop - 2 * kMargin;
+    m_calendar.MoveWindow(kMargin, kMargin, panelLeft - 2 * kMargin, height);
+    m_panel.MoveWindow(panelLeft, kMargin, kPanelWidth, height);
+    m_status.MoveWindow(kMargin, statusTop, cx - 2 * kMargin, kStatusHeight);
+}
+
+// The calendar hands the focus to its parent when Tab leaves it: then it is the panel's turn.
+void MainWindow::OnSetFocus(CWnd* pOldWnd)
+{
+    if (m_panel.GetSafeHwnd() == nullptr)
+        return;
+    const HWND old = pOldWnd != nullptr ? pOldWnd->GetSafeHwnd() : nullptr;
+    const bool fromCalendar =
+        old != nullptr && (old == m_calendar.m_hWnd || ::IsChild(m_calendar.m_hWnd, old));
+    if (fromCalendar)
+        m_panel.FocusFirst();
+    else
         m_calendar.SetFocus();
 }
 

@@ -1,16 +1,11 @@
-// The window of the sample host: the calendar, and a line that names the last message heard.
+// The window of the sample host: the calendar, the panel of its dates, and a line that names the last message
+// heard.
 #pragma once
 
+#include "DemoCalendar.h"
+#include "SettingsPanel.h"
+
 #include <afxwin.h>
-
-#include <CalendarWnd.h>
-
-// The calendar with a colour of its own for each group of dates, until the user's data file says otherwise.
-class DemoCalendar : public CCalendarWnd
-{
-public:
-    DemoCalendar();
-};
 
 class MainWindow : public CWnd
 {
@@ -34,10 +29,12 @@ protected:
 private:
     bool CreateStatus();
     bool CreateCalendar();
+    void Arrange(int cx, int cy);
     void ShowHeard(const char* message, const CString& details);
     CString CurrentDate() const;
 
     CFont m_font;
     CStatic m_status;
     DemoCalendar m_calendar;
+    SettingsPanel m_panel{m_calendar};
 };

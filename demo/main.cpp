@@ -1,6 +1,7 @@
 // The sample host of the calendar control.
 //
-//   zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME] [--select YYYY-MM-DD]
+//   zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME] [--data DIRECTORY]
+//              [--select YYYY-MM-DD]
 
 #include "GdiPlusSession.h"
 #include "MainWindow.h"
@@ -8,6 +9,7 @@
 
 #include <Clock.h>
 #include <LocaleUtils.h>
+#include <ZebrikUtils.h>
 
 #include <cstdio>
 #include <cstring>
@@ -20,6 +22,7 @@ struct Options
 {
     std::string png;
     std::string locale;
+    std::string data;
     std::optional<DateTime> today;
     std::optional<DateTime> select;
 };
@@ -40,6 +43,8 @@ bool TakeOption(Options& options, const char* name, const char* value)
         options.png = value;
     else if (std::strcmp(name, "--locale") == 0)
         options.locale = value;
+    else if (std::strcmp(name, "--data") == 0)
+        options.data = value;
     else if (std::strcmp(name, "--today") == 0)
         return (options.today = ParseDate(value)).has_value();
     else if (std::strcmp(name, "--select") == 0)
@@ -106,14 +111,18 @@ int main(int argc, char** argv)
 {
     const std::optional<Options> options = ParseOptions(argc, argv);
     if (!options) {
-        std::fprintf(stderr, "usage: zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME]"
-                             " [--select YYYY-MM-DD]\n");
+        std::fprintf(stderr,
+                     "usage: zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME] [--data DIRECTORY]"
+                     " [--select YYYY-MM-DD]\n");
         return 2;
     }
     if (options->today)
         Clock::SetToday(options->today->GetYear(), options->today->GetMonth(), options->today->GetDay());
     if (!options->locale.empty())
         LocaleUtils::SetLocale(options->locale.c_str());
+
+    if (!options->data.empty())
+        ZebrikUtils::SetDataDirectory(options->data.c_str());
 
     AfxWinInit(GetModuleHandle(nullptr), nullptr, nullptr, SW_SHOW);
     const GdiPlusSession gdiPlus;
