@@ -173,8 +173,10 @@ TEST_F(Controls, ATextFieldTellsOfItsTextAndItsFocus)
     EXPECT_STREQ(part, "two");
 
     SetFocus(line);
+    SendMessageA(line, EM_SETSEL, 1, 3);
     SetFocus(lines);
     EXPECT_EQ(told(), "focus7 blur7 focus8");
+    EXPECT_EQ(SendMessageA(line, EM_GETSEL, 0, 0), MAKELONG(1, 3));
     EXPECT_EQ(SendMessageA(line, WM_GETDLGCODE, 0, 0), DLGC_HASSETSEL | DLGC_WANTCHARS | DLGC_WANTARROWS);
     DestroyWindow(line);
     EXPECT_FALSE(IsWindow(line));
@@ -196,6 +198,17 @@ TEST_F(Controls, TheSelectionCountsLineEndsAsTwo)
     EXPECT_EQ(SendMessageA(lines, EM_GETSEL, 0, 0), MAKELONG(0, 7));
     SendMessageA(lines, WM_KEYDOWN, VK_END, 1);
     EXPECT_EQ(SendMessageA(lines, EM_GETSEL, 0, 0), MAKELONG(7, 7));
+}
+
+TEST_F(Controls, TheMouseSelectsText)
+{
+    const HWND edit = add("EDIT", ES_AUTOHSCROLL, id, "a text");
+    SendMessageA(edit, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(0, 8));
+    EXPECT_EQ(GetCapture(), edit);
+    SendMessageA(edit, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(110, 8));
+    SendMessageA(edit, WM_LBUTTONUP, 0, MAKELPARAM(110, 8));
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(SendMessageA(edit, EM_GETSEL, 0, 0), MAKELONG(0, 6));
 }
 
 TEST_F(Controls, AFieldFollowsItsWindow)

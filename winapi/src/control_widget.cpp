@@ -112,18 +112,18 @@ void ControlWidget::sendMouse(UINT message, LPARAM lParam)
     const MouseKind* const kind = findKind(message);
     if (!kind || !m_widget)
         return;
-    const bool press = kind->type == QEvent::MouseButtonPress || kind->type == QEvent::MouseButtonDblClick;
+    const bool release = kind->type == QEvent::MouseButtonRelease;
+    const bool press = kind->button != Qt::NoButton && !release;
     const QPoint place = QPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)) - m_origin;
-    if (press || !m_held)
+    if (press)
         m_held = partAt(place);
-    QWidget* const target = m_held;
-    const Qt::MouseButtons held = isDown(VK_LBUTTON) || press ? Qt::LeftButton : Qt::NoButton;
+    const Qt::MouseButton held = m_held && !release ? Qt::LeftButton : Qt::NoButton;
+    QWidget* const target = m_held ? m_held.data() : partAt(place);
     QMouseEvent event(kind->type, target->mapFrom(m_widget, place), m_widget->mapToGlobal(place),
-                      kind->button, kind->type == QEvent::MouseButtonRelease ? Qt::NoButton : held,
-                      heldModifiers());
-    QCoreApplication::sendEvent(target, &event);
-    if (kind->type == QEvent::MouseButtonRelease)
+                      kind->button, held, heldModifiers());
+    if (release)
         m_held = nullptr;
+    QCoreApplication::sendEvent(target, &event);
 }
 
 void ControlWidget::sendKey(int qtKey, const QString& text)
@@ -138,7 +138,8 @@ void ControlWidget::sendFocus(bool gained)
 {
     if (!m_widget)
         return;
-    QFocusEvent event(gained ? QEvent::FocusIn : QEvent::FocusOut, Qt::OtherFocusReason);
+    // For this reason a selection stays as it is.
+    QFocusEvent event(gained ? QEvent::FocusIn : QEvent::FocusOut, Qt::ActiveWindowFocusReason);
     deliver(*m_widget, event);
 }
 
