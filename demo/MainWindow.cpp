@@ -2,7 +2,11 @@
 
 #include "ErrorText.h"
 
+#include <FileUtils.h>
 #include <GraphicsUtils.h>
+#include <UIPrinter.h>
+#include <afxdlgs.h>
+#include <resource.h>
 
 #include <cstdio>
 
@@ -83,8 +87,7 @@ bool MainWindow::CreateCalendar()
     GetClientRect(&client);
     Arrange(client.Width(), client.Height());
     if (!readable)
-        AfxMessageBox("Your dates could not be read, so none are shown and none can be saved.\n\n" + error,
-                      MB_OK | MB_ICONEXCLAMATION);
+        TellUser("Your dates could not be read, so none are shown and none can be saved.\n\n" + error);
     return true;
 }
 
@@ -158,6 +161,10 @@ LRESULT MainWindow::OnEscKey(WPARAM, LPARAM)
 LRESULT MainWindow::OnPromptSaveWebPage(WPARAM, LPARAM)
 {
     ShowHeard("CALWND_PROMPT_SAVEWEBPAGE", "");
+    CFileDialog dialog(FALSE, "html", "calendar.html", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                       "Web pages (*.html)|*.html|All files|*.*||", this);
+    if (dialog.DoModal() == IDOK && !SaveWebPage(dialog.GetPathName()))
+        TellUser("The web page could not be written to " + dialog.GetPathName() + ".");
     return 0;
 }
 
@@ -183,4 +190,21 @@ void MainWindow::ShowHeard(const char* message, const CString& details)
     m_status.SetWindowText(line);
     std::printf("%s\n", static_cast<LPCTSTR>(line));
     std::fflush(stdout);
+}
+
+// Runs the print command of the calendar's menu, with a file in the printer's place.
+bool MainWindow::PrintToFile(const CString& path)
+{
+    UIPrinter::SetOutputFile(path);
+    m_calendar.SendMessage(WM_COMMAND, ID_OPTIONS_PRINT);
+    UIPrinter::SetOutputFile("");
+    return FileUtils::DoesFileExist(path);
+}
+
+void MainWindow::TellUser(const CString& words)
+{
+    if (m_attended)
+        AfxMessageBox(words, MB_OK | MB_ICONEXCLAMATION);
+    else
+        std::fprintf(stderr, "zeb17_demo: %s\n", static_cast<LPCTSTR>(words));
 }

@@ -10,7 +10,12 @@
 class MainWindow : public CWnd
 {
 public:
+    // `attended`: somebody is there to answer a message box.
+    explicit MainWindow(bool attended) : m_attended(attended) {}
+
     bool CreateMain();
+    bool SaveWebPage(const CString& path) const { return m_calendar.SaveCalendarWebPage(path); }
+    bool PrintToFile(const CString& path);
     void SelectDate(const DateTime& date) { m_calendar.SetDate(date); }
 
 protected:
@@ -30,9 +35,11 @@ private:
     bool CreateStatus();
     bool CreateCalendar();
     void Arrange(int cx, int cy);
+    void TellUser(const CString& words);
     void ShowHeard(const char* message, const CString& details);
     CString CurrentDate() const;
 
+    const bool m_attended;
     CFont m_font;
     CStatic m_status;
     DemoCalendar m_calendar;

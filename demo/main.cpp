@@ -1,7 +1,7 @@
 // The sample host of the calendar control.
 //
-//   zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME] [--data DIRECTORY]
-//              [--select YYYY-MM-DD]
+//   zeb17_demo [--png FILE] [--web FILE] [--print FILE.pdf] [--select YYYY-MM-DD] [--today YYYY-MM-DD]
+//              [--locale NAME] [--data DIRECTORY]
 
 #include "GdiPlusSession.h"
 #include "MainWindow.h"
@@ -12,7 +12,6 @@
 #include <ZebrikUtils.h>
 
 #include <cstdio>
-#include <cstring>
 #include <optional>
 #include <string>
 
@@ -21,10 +20,14 @@ namespace {
 struct Options
 {
     std::string png;
+    std::string web;
+    std::string print;
     std::string locale;
     std::string data;
     std::optional<DateTime> today;
     std::optional<DateTime> select;
+
+    bool HasOutput() const { return !png.empty() || !web.empty() || !print.empty(); }
 };
 
 std::optional<DateTime> ParseDate(const char* text)
@@ -37,21 +40,29 @@ std::optional<DateTime> ParseDate(const char* text)
     return DateTime(year, month, day, 0, 0, 0);
 }
 
-bool TakeOption(Options& options, const char* name, const char* value)
+bool TakeOption(Options& options, const std::string& name, const char* value)
 {
-    if (std::strcmp(name, "--png") == 0)
-        options.png = value;
-    else if (std::strcmp(name, "--locale") == 0)
-        options.locale = value;
-    else if (std::strcmp(name, "--data") == 0)
-        options.data = value;
-    else if (std::strcmp(name, "--today") == 0)
+    struct TextOption
+    {
+        const char* name;
+        std::string Options::*value;
+    };
+    static constexpr TextOption texts[] = {{"--png", &Options::png},
+                                           {"--web", &Options::web},
+                                           {"--print", &Options::print},
+                                           {"--locale", &Options::locale},
+                                           {"--data", &Options::data}};
+    for (const TextOption& option : texts) {
+        if (name != option.name)
+            continue;
+        options.*option.value = value;
+        return true;
+    }
+    if (name == "--today")
         return (options.today = ParseDate(value)).has_value();
-    else if (std::strcmp(name, "--select") == 0)
+    if (name == "--select")
         return (options.select = ParseDate(value)).has_value();
-    else
-        return false;
-    return true;
+    return false;
 }
 
 std::optional<Options> ParseOptions(int argc, char** argv)
@@ -66,7 +77,7 @@ std::optional<Options> ParseOptions(int argc, char** argv)
 class DemoApp : public CWinApp
 {
 public:
-    explicit DemoApp(const Options& options) : m_options(options) {}
+    explicit DemoApp(const Options& options) : m_options(options), m_window(!options.HasOutput()) {}
 
     BOOL InitInstance() override
     {
@@ -80,16 +91,32 @@ public:
         return TRUE;
     }
 
-    // Runs what was asked for without hands; true if the window has nothing left to do.
-    bool RunOutput(int& exitCode)
+    // Whether there is something to write without hands, instead of a window to use.
+    bool HasOutput() const { return m_options.HasOutput(); }
+
+    // Writes it; the exit code of the program.
+    int RunOutput()
     {
-        if (m_options.png.empty())
-            return false;
         PumpWaitingMessages();
-        exitCode = SaveWindowAsPng(m_window, m_options.png.c_str()) ? 0 : 1;
-        if (exitCode != 0)
-            std::fprintf(stderr, "zeb17_demo: could not write %s\n", m_options.png.c_str());
-        return true;
+        const struct
+        {
+            const std::string& path;
+            bool (*write)(MainWindow& window, const CString& path);
+        } outputs[] = {
+            {m_options.png,
+             [](MainWindow& window, const CString& path) { return SaveWindowAsPng(window, path); }},
+            {m_options.web, [](MainWindow& window, const CString& path) { return window.SaveWebPage(path); }},
+            {m_options.print,
+             [](MainWindow& window, const CString& path) { return window.PrintToFile(path); }},
+        };
+        int exitCode = 0;
+        for (const auto& output : outputs) {
+            if (output.path.empty() || output.write(m_window, output.path.c_str()))
+                continue;
+            std::fprintf(stderr, "zeb17_demo: could not write %s\n", output.path.c_str());
+            exitCode = 1;
+        }
+        return exitCode;
     }
 
 private:
@@ -112,8 +139,8 @@ int main(int argc, char** argv)
     const std::optional<Options> options = ParseOptions(argc, argv);
     if (!options) {
         std::fprintf(stderr,
-                     "usage: zeb17_demo [--png FILE] [--today YYYY-MM-DD] [--locale NAME] [--data DIRECTORY]"
-                     " [--select YYYY-MM-DD]\n");
+                     "usage: zeb17_demo [--png FILE] [--web FILE] [--print FILE.pdf] [--select YYYY-MM-DD]\n"
+                     "                  [--today YYYY-MM-DD] [--locale NAME] [--data DIRECTORY]\n");
         return 2;
     }
     if (options->today)
@@ -131,6 +158,5 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "zeb17_demo: the window could not be created\n");
         return 1;
     }
-    int exitCode = 0;
-    return app.RunOutput(exitCode) ? exitCode : app.Run();
+    return app.HasOutput() ? app.RunOutput() : app.Run();
 }
