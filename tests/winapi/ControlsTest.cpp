@@ -5,7 +5,7 @@
 #include <commdlg.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -84,6 +84,7 @@ protected:
     std::vector<std::string> notes;
     std::vector<DRAWITEMSTRUCT> drawn;
     int measured = 0;
+    HWND victim = nullptr; // destroyed at the next notification
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -111,6 +112,8 @@ private:
             if (known.code == code)
                 notes.push_back(known.name + std::to_string(controlId));
         }
+        if (code == EN_CHANGE || code == LBN_SELCHANGE)
+            DestroyWindow(std::exchange(victim, nullptr));
     }
 
     static inline Controls* s_current = nullptr;
@@ -347,6 +350,32 @@ TEST_F(Controls, AComboBox)
     EXPECT_EQ(ask(CB_SETCURSEL, 9), CB_ERR);
     ask(CB_RESETCONTENT);
     EXPECT_EQ(ask(CB_GETCOUNT), 0);
+}
+
+TEST_F(Controls, DestroyedByWhatTheyTell)
+{
+    const struct
+    {
+        const char* windowClass;
+        DWORD style;
+        UINT message;
+        WPARAM key;
+    } cases[] = {
+        {"EDIT", ES_AUTOHSCROLL, WM_CHAR, 'x'},
+        {"EDIT", ES_MULTILINE, WM_CHAR, 'x'},
+        {"LISTBOX", LBS_NOTIFY, WM_KEYDOWN, VK_DOWN},
+        {"COMBOBOX", CBS_DROPDOWNLIST, WM_KEYDOWN, VK_DOWN},
+    };
+    for (const auto& one : cases) {
+        const HWND control = add(one.windowClass, one.style);
+        SendMessageA(control, LB_ADDSTRING, 0, text("row")); // each knows its own message only
+        SendMessageA(control, CB_ADDSTRING, 0, text("row"));
+        SetFocus(control);
+        victim = control;
+        SendMessageA(control, one.message, one.key, 1);
+        EXPECT_FALSE(IsWindow(control)) << one.windowClass;
+        serveMessages();
+    }
 }
 
 TEST_F(Controls, RadioButtonsOfAGroupExcludeEachOther)
