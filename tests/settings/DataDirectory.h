@@ -3,6 +3,7 @@
 
 #include <DatesCustom.h>
 #include <DatesToDo.h>
+#include <TemporaryDirectory.h>
 #include <ZebrikUtils.h>
 
 #include <gtest/gtest.h>
@@ -18,18 +19,11 @@ class DataDirectory : public testing::Test
 protected:
     DataDirectory()
     {
-        static int nCount = 0;
-        m_root = std::filesystem::temp_directory_path() /
-                 ("zeb17-test-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++nCount));
         UseDirectory(m_root / "data");
         DatesCustom::s_nNextCustomID = 10000;
         DatesToDo::s_nNextToDoID = 11000;
     }
-    ~DataDirectory() override
-    {
-        ZebrikUtils::SetDataDirectory("");
-        std::filesystem::remove_all(m_root);
-    }
+    ~DataDirectory() override { ZebrikUtils::SetDataDirectory(""); }
 
     void UseDirectory(const std::filesystem::path& directory)
     {
@@ -62,6 +56,7 @@ protected:
         return names;
     }
 
-    std::filesystem::path m_root;
+    const TemporaryDirectory m_temporary;
+    const std::filesystem::path m_root = m_temporary.PathOf("");
     std::filesystem::path m_directory;
 };

@@ -193,7 +193,6 @@ TEST_F(Save, FailsWhereADirectoryStandsInThePlaceOfTheFile)
 
 TEST_F(Save, FailsWhereAFileStandsInThePlaceOfADirectory)
 {
-    std::filesystem::create_directories(m_root);
     std::ofstream(m_root / "file") << "x";
     UseDirectory(m_root / "file" / "data");
     CalendarSettings settings;
