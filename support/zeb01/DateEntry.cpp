@@ -190,7 +190,9 @@ bool DateEntry::IsMatchFixed(int nDay, int nMonth, int nYear) const
         return nDay == m_anRule[0] && nMonth == m_anRule[1];
     const std::int32_t nFixed = DayNumbers::FromDate({nYear, m_anRule[1], m_anRule[0]});
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
-    return nFixed != DayNumbers::kNone && nQueried == ToWorkingDay(nFixed);
+    if (nFixed == DayNumbers::kNone || nQueried == DayNumbers::kNone)
+        return false;
+    return nQueried == ToWorkingDay(nFixed);
 }
 
 bool DateEntry::IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const

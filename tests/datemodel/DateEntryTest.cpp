@@ -178,6 +178,7 @@ TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
         }
     }
     EXPECT_GT(nValid, 0);
+    EXPECT_FALSE(Fixed(1, 1, true).IsMatch(99, 1, 1)) << "the first day of all is a Saturday";
 }
 
 TEST(DateEntry, IsValidWithADescriptionAndARule)

@@ -212,6 +212,8 @@ TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
              .U16(0xFFFF)
              .U32(0x7FFFFFFF)},
         {"a count of names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(0xFFFFFFFE).Text("Canada")},
+        {"many names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(1000000).Raw(std::string(100000, 0))},
+        {"many rows", 1, FileBytes().U16(1).I32(1000000).Raw(std::string(100000, 0))},
         {"a count of rows", 1, FileBytes().U16(1).I32(INT32_MAX).Text("Canada").U32(1)},
     };
     for (const auto& file : files) {

@@ -5,7 +5,6 @@
 #include <FileUtils.h>
 #include <MTAutoLock.h>
 #include <ReplacedFile.h>
-#include <TextArray.h>
 #include <ZebrikUtils.h>
 
 #include <algorithm>
@@ -26,9 +25,10 @@ void SkipWord(CArchive& archive)
 // The oldest form keeps one colour and one show flag a group, under the group's name.
 struct GroupSettings
 {
-    Dates* pGroup;
+    Dates* pGroup = nullptr;
     CString strName;
     DWORD dwColor = 0xFFFFFF;
+    bool bShow = false;
 };
 
 }
@@ -103,30 +103,29 @@ void CalendarSettings::ReadDataFileVersion1(CArchive& archive)
                               {&m_DatesCanada, GetName(GroupCanada)},
                               {&m_DatesNetherlands, GetName(GroupNetherlands)},
                               {&m_DatesCustom, GetName(GroupCustom)}};
+    GroupSettings other; // takes what belongs to no group
+    const auto readGroup = [&]() -> GroupSettings& {
+        CString strName;
+        archive >> strName;
+        const auto group = std::ranges::find(groups, strName, &GroupSettings::strName);
+        return group == std::end(groups) ? other : *group;
+    };
 
     SkipWord(archive);
     std::int32_t nColors = 0;
     archive >> nColors;
-    for (std::int32_t i = 0; i < nColors; ++i) {
-        CString strName;
-        DWORD dwColor = 0;
-        archive >> strName >> dwColor;
-        const auto group = std::ranges::find(groups, strName, &GroupSettings::strName);
-        if (group != std::end(groups))
-            group->dwColor = dwColor;
-    }
+    for (std::int32_t i = 0; i < nColors; ++i)
+        archive >> readGroup().dwColor;
 
-    CStringList shownNames;
-    shownNames.Serialize(archive);
-    TextArray shown;
-    shown.CopyFromList(shownNames);
+    // The stored form of a CStringList, read name by name: a list of millions of names would take memory.
+    const ULONGLONG nShown = archive.ReadCount();
+    for (ULONGLONG i = 0; i < nShown; ++i)
+        readGroup().bShow = true;
 
     m_DatesCustom.Serialize(archive);
     for (const GroupSettings& group : groups) {
-        bool bShow = false;
-        shown.Find(group.strName, true, bShow);
         group.pGroup->SetAllColor(group.dwColor);
-        group.pGroup->SetAllShow(bShow);
+        group.pGroup->SetAllShow(group.bShow);
     }
 }
 
