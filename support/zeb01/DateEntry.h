@@ -13,7 +13,7 @@ class ZEB17_EXPORT DateEntry
 {
 public:
     // Which of a month's days of one weekday a rule picks.
-    enum OCCURRENCE
+    enum OCCURRENCE : int
     {
         OCCURRENCE_FIRST = 1,
         OCCURRENCE_SECOND = 2,

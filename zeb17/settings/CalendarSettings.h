@@ -21,7 +21,7 @@ class MTMutex;
 class ZEB17_EXPORT CalendarSettings
 {
 public:
-    enum Group
+    enum Group : int
     {
         GroupUS,
         GroupCanada,
