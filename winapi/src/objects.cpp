@@ -69,6 +69,8 @@ struct Overload : Cases...
 {
     using Cases::operator()...;
 };
+template <class... Cases>
+Overload(Cases...) -> Overload<Cases...>;
 
 // Puts `object` in the place of `current` and gives the handle that stood there.
 template <class Kind>
