@@ -95,6 +95,15 @@ Picture::Picture(CWnd& wnd)
     m_dc.BitBlt(0, 0, rc.Width(), rc.Height(), &dc, 0, 0, SRCCOPY);
 }
 
+bool Picture::Contains(const CRect& rc, COLORREF cr) const
+{
+    for (int y = rc.top; y < rc.bottom; ++y)
+        for (int x = rc.left; x < rc.right; ++x)
+            if (At(x, y) == cr)
+                return true;
+    return false;
+}
+
 int Picture::Darkest(const CRect& rc) const
 {
     int nDarkest = 255;

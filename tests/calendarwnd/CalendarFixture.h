@@ -119,6 +119,7 @@ class Picture
 public:
     explicit Picture(CWnd& wnd);
     COLORREF At(int x, int y) const { return m_dc.GetPixel(x, y); }
+    bool Contains(const CRect& rc, COLORREF cr) const;
     // The darkest pixel inside a rectangle, by its green part.
     int Darkest(const CRect& rc) const;
 

@@ -94,6 +94,9 @@ TEST_F(PaintingTest, TodayAndFrame)
     EXPECT_EQ(calendar->m_rcToday, CRect(rc.left - 3, rc.top - 1, rc.right + 1, rc.bottom + 1));
     ExpectFrame(rc, kBlack);
     EXPECT_EQ(Picture(*calendar).At(rc.right - 3, rc.bottom - 3), kToday);
+    EXPECT_FALSE(Picture(*calendar).Contains(rc, kWhite)); // the number stands on the highlight,
+    EXPECT_FALSE(
+        Picture(*calendar).Contains(GetInner(calendar->m_nTodayCell + 1), kToday)); // the next does not
 
     Key(VK_RIGHT); // the frame leaves, the highlight stays whole
     ExpectFrame(rc, kToday);
