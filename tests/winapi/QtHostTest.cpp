@@ -90,9 +90,10 @@ TEST_F(QtHost, ThePixelsOfTheWindowAreTheWidgets)
     DeleteObject(brush);
     ReleaseDC(child, dc);
     const QImage image = QWidgetFromWindow(top)->grab().toImage();
-    EXPECT_EQ(image.pixelColor(10, 20), QColor(10, 20, 200));
-    EXPECT_EQ(image.pixelColor(109, 99), QColor(10, 20, 200));
-    EXPECT_EQ(image.pixelColor(9, 20), QColor(Qt::white));
+    const auto colorAt = [&](QPoint place) { return image.pixelColor(place * image.devicePixelRatio()); };
+    EXPECT_EQ(colorAt({12, 22}), QColor(10, 20, 200));
+    EXPECT_EQ(colorAt({107, 97}), QColor(10, 20, 200));
+    EXPECT_EQ(colorAt({7, 20}), QColor(Qt::white));
 }
 
 TEST_F(QtHost, ALayoutSizesTheWindow)

@@ -1,4 +1,5 @@
 // The order in which windows hear of their life: creation, showing, placing, destruction.
+#include "Hands.h"
 #include "MessageRecorder.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@ namespace {
 class WindowOrder : public testing::Test
 {
 protected:
+    void SetUp() override { movePointer(600, 600); } // out of the way of what appears
+
     MessageRecorder recorder;
 };
 

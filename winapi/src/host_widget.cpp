@@ -8,6 +8,7 @@
 #include "zeb17_qt.h"
 
 #include <QCloseEvent>
+#include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -206,9 +207,16 @@ void HostWidget::focusOutEvent(QFocusEvent* event)
         activate(nullptr, ActivatedBy::Host);
 }
 
+// A window may come to be under a pointer that rests.
+void HostWidget::enterEvent(QEnterEvent* event)
+{
+    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
+}
+
 void HostWidget::leaveEvent(QEvent*)
 {
-    mouseLeftHost();
+    if (const WindowPtr window = served())
+        mouseLeft(*window);
 }
 
 namespace {

@@ -218,8 +218,12 @@ std::optional<MSG> toMessage(const MouseInput& input)
     return makeMessage(under->handle, message, mouseKeys(), clientPoint(*under, input.screen));
 }
 
-void mouseLeftHost()
+// Unless it is in another top-level window already.
+void mouseLeft(const Window& root)
 {
+    const WindowPtr under = state().under ? findWindow(state().under) : nullptr;
+    if (!under || &rootOf(*under) != &root)
+        return;
     state().under = nullptr;
     tellLeave();
 }

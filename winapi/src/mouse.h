@@ -5,7 +5,7 @@
 
 namespace winapi {
 
-void mouseLeftHost();
+void mouseLeft(const Window& root);
 void forgetMouse(const Window& window);
 
 // The keys and buttons in wParam of a mouse message.
