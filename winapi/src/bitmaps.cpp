@@ -28,15 +28,19 @@ HBITMAP defaultBitmap()
 
 namespace {
 
-QRectF toPixels(const QRect& rect, qreal devicePixelRatio)
+// From logical coordinates to the pixels that the surface is made of.
+QTransform toPixels(const Context& context)
 {
-    return QRectF(QPointF(rect.topLeft()) * devicePixelRatio, QSizeF(rect.size()) * devicePixelRatio);
+    const QPointF shift = context.origin() + context.gridShift();
+    const qreal ratio = context.surface().device().devicePixelRatio();
+    return context.toDevice() * QTransform::fromTranslate(shift.x(), shift.y()) *
+           QTransform::fromScale(ratio, ratio);
 }
 
-QPoint toPixel(const Context& context, int x, int y)
+// Each edge to the nearest pixel, as filling takes it.
+QRect roundEdges(const QRectF& rect)
 {
-    const QPointF point = context.toDevice().map(QPointF(x, y)) + context.origin();
-    return (point * context.image()->devicePixelRatio()).toPoint();
+    return QRect(rect.topLeft().toPoint(), rect.bottomRight().toPoint() - QPoint(1, 1));
 }
 
 bool isVisible(const Context& context, int x, int y)
@@ -90,7 +94,7 @@ COLORREF GetPixel(HDC dc, int x, int y)
     const auto context = findContext(dc);
     if (!context || !isVisible(*context, x, y))
         return CLR_INVALID;
-    return toColorRef(context->image()->pixelColor(toPixel(*context, x, y)));
+    return toColorRef(context->image()->pixelColor(toPixels(*context).map(QPointF(x, y)).toPoint()));
 }
 
 BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int sourceX, int sourceY,
@@ -107,9 +111,9 @@ BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int
     if (!painter)
         return TRUE;
     // A copy of the part, since source and target may be one image.
-    const QRect onSurface = source->toDevice().mapRect(part).translated(source->origin());
-    const QRectF wanted = toPixels(onSurface, source->image()->devicePixelRatio());
-    const QImage pixels = source->image()->copy(wanted.toRect());
-    painter->drawImage(QRectF(area), pixels, QRectF(pixels.rect()));
+    const QImage pixels = source->image()->copy(roundEdges(toPixels(*source).mapRect(QRectF(part))));
+    const QTransform toTarget = toPixels(*target);
+    const QRectF rounded = roundEdges(toTarget.mapRect(QRectF(area)));
+    painter->drawImage(toTarget.inverted().mapRect(rounded), pixels, QRectF(pixels.rect()));
     return TRUE;
 }

@@ -49,8 +49,9 @@ class Context
 public:
     // `origin` and `visible` are in pixels of the surface, which outlives the context.
     Context(Surface& surface, QPoint origin, QRegion visible);
-    // A memory context, or one that owns what it draws on.
-    Context(std::unique_ptr<Surface> surface, const QRegion& visible);
+    // A memory context, or one that owns what it draws on. `gridOrigin`: where its device 0, 0 lies on the
+    // surface that it is compatible with.
+    Context(std::unique_ptr<Surface> surface, const QRegion& visible, QPoint gridOrigin = {});
     ~Context();
     Context(const Context&) = delete;
     Context& operator=(const Context&) = delete;
@@ -69,6 +70,10 @@ public:
     // From logical units to device units (the origin of the context is device 0, 0), and on to the surface.
     QTransform toDevice() const;
     QPoint origin() const { return m_origin; }
+    QPoint gridOrigin() const { return m_gridOrigin + m_origin; }
+    // Where a logical pixel is not a whole number of the screen's, drawing is moved by less than one, so that
+    // a memory context rounds to pixels as the surface does that it is compatible with.
+    QPointF gridShift() const;
     // Device units a logical unit.
     QSizeF scale() const;
 
@@ -82,6 +87,7 @@ private:
     std::unique_ptr<Surface> m_owned;
     Surface* m_surface;
     QPoint m_origin;
+    QPoint m_gridOrigin;
     QRegion m_visible;
 };
 

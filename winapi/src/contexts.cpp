@@ -9,6 +9,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 
 namespace winapi {
 
@@ -96,8 +97,9 @@ Context::Context(Surface& surface, QPoint origin, QRegion visible)
 {
 }
 
-Context::Context(std::unique_ptr<Surface> surface, const QRegion& visible)
-    : state(initialState()), m_owned(std::move(surface)), m_surface(m_owned.get()), m_visible(visible)
+Context::Context(std::unique_ptr<Surface> surface, const QRegion& visible, QPoint gridOrigin)
+    : state(initialState()), m_owned(std::move(surface)), m_surface(m_owned.get()), m_gridOrigin(gridOrigin),
+      m_visible(visible)
 {
 }
 
@@ -152,6 +154,19 @@ QTransform Context::toDevice() const
         .translate(-state.windowOrigin.x(), -state.windowOrigin.y());
 }
 
+QPointF Context::gridShift() const
+{
+    // Far less than a pixel, it lets a half always go up, whatever small errors come in between.
+    constexpr qreal tieBreak = 1.0 / 1024;
+    const qreal ratio = m_surface->device().devicePixelRatio();
+    if (ratio == std::floor(ratio))
+        return {};
+    const QPointF start = (m_gridOrigin - toDevice().map(QPointF())) * ratio;
+    const auto pastPixel = [](qreal place) { return place - std::floor(place + 0.5); };
+    const QPointF shift = isMemory() ? QPointF(pastPixel(start.x()), pastPixel(start.y())) : QPointF();
+    return (shift + QPointF(tieBreak, tieBreak)) / ratio;
+}
+
 QRegion Context::drawable() const
 {
     return state.clip ? visible() & *state.clip : visible();
@@ -172,6 +187,7 @@ ContextPainter::ContextPainter(Context& context, const QRect& touched)
     if (!m_painter)
         return; // a printer between two pages
     m_painter->save();
+    m_painter->translate(context.gridShift());
     m_painter->setClipRegion(clip);
     m_painter->translate(context.origin());
     m_painter->setTransform(context.toDevice(), true);
@@ -299,9 +315,10 @@ HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR port, const DEVMODEA* mode)
 
 HDC CreateCompatibleDC(HDC dc)
 {
-    if (dc && !findContext(dc))
+    const auto other = findContext(dc);
+    if (dc && !other)
         return nullptr;
-    auto context = std::make_shared<Context>(nullptr, QRegion());
+    auto context = std::make_shared<Context>(nullptr, QRegion(), other ? other->gridOrigin() : QPoint());
     context->selectBitmap(makeDefaultBitmap(devicePixelRatio(dc)));
     return addContext(std::move(context));
 }

@@ -86,13 +86,38 @@ void drawDottedLine(QPainter& painter, const DrawingState& state, QPoint from, Q
     });
 }
 
+// Lines are equally thick everywhere, also where a logical pixel is not a whole number of the screen's.
+QRectF evenLine(const QRect& line, qreal devicePixelRatio)
+{
+    const qreal thickness = std::floor(devicePixelRatio) / devicePixelRatio;
+    QRectF even(line);
+    if (line.height() == 1)
+        even.setHeight(thickness);
+    if (line.width() == 1)
+        even.setWidth(thickness);
+    return even;
+}
+
+// On a dense screen a slanted line need not be made of squares.
+void drawSmoothLine(QPainter& painter, const QColor& color, QPoint from, QPoint to)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1));
+    painter.drawLine(middle(from), middle(to));
+    painter.restore();
+}
+
 void drawThinLine(QPainter& painter, const DrawingState& state, QPoint from, QPoint to)
 {
     const QColor color = toColor(state.pen->color);
+    const qreal ratio = painter.device()->devicePixelRatioF();
     if (isDotted(*state.pen.object))
         return drawDottedLine(painter, state, from, to);
     if (from.x() == to.x() || from.y() == to.y())
-        return painter.fillRect(straightLine(from, to), color);
+        return painter.fillRect(evenLine(straightLine(from, to), ratio), color);
+    if (ratio > 1)
+        return drawSmoothLine(painter, color, from, to);
     walkLine(from, to, [&](QPoint pixel) { painter.fillRect(QRect(pixel, QSize(1, 1)), color); });
 }
 
@@ -236,7 +261,8 @@ BOOL Polygon(HDC dc, const POINT* points, int count)
         return TRUE;
     painter->setPen(Qt::NoPen);
     painter->setBrush(toQBrush(*context->state.brush.object));
-    painter->drawPolygon(polygon);
+    // The outline runs along the middle of its pixels.
+    painter->drawPolygon(QPolygonF(polygon).translated(middle({})));
     drawLines(*painter, context->state, polygon);
     return TRUE;
 }
