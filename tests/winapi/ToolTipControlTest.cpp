@@ -25,7 +25,7 @@ protected:
 
     void TearDown() override { DestroyWindow(tip); }
 
-    TOOLINFOA tool(UINT_PTR toolId, const char* text, RECT rect = {0, 0, 20, 20})
+    TOOLINFOA tool(UINT_PTR toolId, const char* text, RECT rect = {0, 0, 60, 60})
     {
         TOOLINFOA info{};
         info.cbSize = sizeof info;
@@ -51,9 +51,18 @@ protected:
 
     LRESULT count() { return SendMessageA(tip, TTM_GETTOOLCOUNT, 0, 0); }
 
+    // The pointer comes to rest on the child, 10 pixels off its corner.
+    void restOn(TOOLINFOA info, UINT flags = TTF_SUBCLASS)
+    {
+        info.uFlags = flags;
+        send(TTM_ADDTOOLA, info);
+        SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
+        movePointer(120, 130);
+    }
+
     bool comesUp()
     {
-        for (int i = 0; i < 60 && !IsWindowVisible(tip); ++i)
+        for (int i = 0; i < 30 && !IsWindowVisible(tip); ++i)
             serveMessages();
         return IsWindowVisible(tip);
     }
@@ -92,18 +101,11 @@ TEST_F(ToolTipControl, ToolsComeAndGo)
     send(TTM_DELTOOLA, unknown);
     EXPECT_EQ(count(), 2);
     send(TTM_DELTOOLA, first);
-    EXPECT_EQ(count(), 1);
     send(TTM_DELTOOLA, first);
     EXPECT_EQ(count(), 1);
-}
-
-TEST_F(ToolTipControl, AToolOfOneNumberMayBeThereTwice)
-{
-    TOOLINFOA info = tool(1, "x");
-    send(TTM_ADDTOOLA, info);
-    send(TTM_ADDTOOLA, info);
-    EXPECT_EQ(count(), 2);
-    send(TTM_DELTOOLA, info);
+    send(TTM_ADDTOOLA, second);
+    EXPECT_EQ(count(), 2) << "of one number";
+    send(TTM_DELTOOLA, second);
     EXPECT_EQ(count(), 1);
 }
 
@@ -118,10 +120,10 @@ TEST_F(ToolTipControl, TextsAndPlacesChange)
     char buffer[200];
     TTHITTESTINFOA hit{};
     hit.hwnd = child;
-    hit.pt = {25, 5};
+    hit.pt = {65, 5};
     hit.ti = tool(0, buffer);
     EXPECT_FALSE(SendMessageA(tip, TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&hit)));
-    TOOLINFOA moved = tool(1, "", {20, 0, 40, 20});
+    TOOLINFOA moved = tool(1, "", {20, 0, 90, 20});
     send(TTM_NEWTOOLRECTA, moved);
     EXPECT_TRUE(SendMessageA(tip, TTM_HITTESTA, 0, reinterpret_cast<LPARAM>(&hit)));
     EXPECT_EQ(hit.ti.uId, 1u);
@@ -164,11 +166,7 @@ TEST_F(ToolTipControl, AnOwnerIsAskedEachTime)
 
 TEST_F(ToolTipControl, TheTipComesWhereThePointerRestsAndGoesWhenItLeaves)
 {
-    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
-    info.uFlags = TTF_SUBCLASS;
-    send(TTM_ADDTOOLA, info);
-    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
-    movePointer(120, 130);
+    restOn(tool(1, "hello"));
     EXPECT_TRUE(comesUp());
     RECT rect{};
     GetWindowRect(tip, &rect);
@@ -180,11 +178,7 @@ TEST_F(ToolTipControl, TheTipComesWhereThePointerRestsAndGoesWhenItLeaves)
 
 TEST_F(ToolTipControl, APressEndsTheTip)
 {
-    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
-    info.uFlags = TTF_SUBCLASS;
-    send(TTM_ADDTOOLA, info);
-    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
-    movePointer(120, 130);
+    restOn(tool(1, "hello"));
     ASSERT_TRUE(comesUp());
     SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 5000); // it may come again, but not so soon
     pressButton(MouseButton::Left);
@@ -194,12 +188,29 @@ TEST_F(ToolTipControl, APressEndsTheTip)
     serveMessages();
 }
 
+TEST_F(ToolTipControl, ADeletedToolShowsNoTip)
+{
+    restOn(tool(1, "hello"));
+    ASSERT_TRUE(comesUp());
+    TOOLINFOA info = tool(1, "");
+    send(TTM_DELTOOLA, info);
+    EXPECT_FALSE(IsWindowVisible(tip));
+
+    movePointer(350, 280);
+    serveMessages();
+    restOn(tool(1, "hello"));
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 200);
+    serveMessages();
+    ASSERT_FALSE(IsWindowVisible(tip));
+    send(TTM_DELTOOLA, info); // its number now is that of a tool elsewhere
+    info = tool(1, "elsewhere", {60, 60, 80, 80});
+    send(TTM_ADDTOOLA, info);
+    EXPECT_FALSE(comesUp());
+}
+
 TEST_F(ToolTipControl, RelayedMessagesDoTheSame)
 {
-    TOOLINFOA info = tool(1, "hello", {0, 0, 60, 60});
-    send(TTM_ADDTOOLA, info);
-    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
-    movePointer(120, 130);
+    restOn(tool(1, "hello"), 0);
     serveMessages();
     MSG message{};
     message.hwnd = child;
@@ -216,23 +227,14 @@ TEST_F(ToolTipControl, AToolCanBeAWindow)
 {
     TOOLINFOA info = tool(reinterpret_cast<UINT_PTR>(child), "window");
     info.hwnd = top;
-    info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    send(TTM_ADDTOOLA, info);
-    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
-    movePointer(120, 130);
+    restOn(info, TTF_IDISHWND | TTF_SUBCLASS);
     EXPECT_TRUE(comesUp());
 }
 
 TEST_F(ToolTipControl, AnEmptyTextShowsNoTip)
 {
-    TOOLINFOA info = tool(1, "", {0, 0, 60, 60});
-    info.uFlags = TTF_SUBCLASS;
-    send(TTM_ADDTOOLA, info);
-    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 20);
-    movePointer(120, 130);
-    for (int i = 0; i < 5; ++i)
-        serveMessages();
-    EXPECT_FALSE(IsWindowVisible(tip));
+    restOn(tool(1, ""));
+    EXPECT_FALSE(comesUp());
 }
 
 }

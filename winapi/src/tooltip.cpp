@@ -53,8 +53,8 @@ private:
     void setDelay(WPARAM which, int milliseconds);
     LRESULT delay(WPARAM which) const;
 
-    std::string textOf(Tool& tool);
-    std::string askOwner(Tool& tool);
+    std::string textOf(const Tool& tool);
+    std::string askOwner(Tool tool);
     LRESULT notify(const Tool& tool, UINT code);
 
     void pointerMoved(const MSG& message);
@@ -172,7 +172,7 @@ void ToolTip::remove(const TOOLINFOA* info)
     const auto like = toTool(info);
     if (!like)
         return;
-    if (m_shown && m_under->isSame(*like))
+    if (m_under && m_under->isSame(*like))
         leave();
     m_tools.remove(*like);
 }
@@ -286,7 +286,7 @@ LRESULT ToolTip::delay(WPARAM which) const
 
 // ---- the texts ----
 
-std::string ToolTip::textOf(Tool& tool)
+std::string ToolTip::textOf(const Tool& tool)
 {
     const std::string text = tool.text ? *tool.text : askOwner(tool);
     return text.substr(0, text.find('\t'));
@@ -301,8 +301,8 @@ void prepare(Info& info, const Tool& tool, HWND from, UINT code)
     info.lParam = tool.data;
 }
 
-// In the form of characters that the owner says it speaks.
-std::string ToolTip::askOwner(Tool& tool)
+// In the form of characters that the owner says it speaks. While it answers, the tools may change.
+std::string ToolTip::askOwner(Tool tool)
 {
     const HWND owner = tool.owner;
     std::string text;
@@ -320,8 +320,8 @@ std::string ToolTip::askOwner(Tool& tool)
         text = info.lpszText ? info.lpszText : "";
         flags = info.uFlags;
     }
-    if (flags & TTF_DI_SETITEM)
-        tool.text = text;
+    if (Tool* const kept = flags & TTF_DI_SETITEM ? m_tools.find(tool) : nullptr)
+        kept->text = text;
     return text;
 }
 
