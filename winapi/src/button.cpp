@@ -18,17 +18,16 @@ struct ButtonState : ControlState
     bool held = false;   // by the mouse or the space key, wherever the pointer is
 };
 
-class Button
+class Button : public Control<ButtonState>
 {
 public:
-    Button(Window& window, ButtonState& state) : m_window(window), m_state(state) {}
+    using Control::Control;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
     DWORD type() const { return m_window.style & BS_TYPEMASK; }
     bool isOwnerDrawn() const { return type() == BS_OWNERDRAW; }
-    HWND hwnd() const { return m_window.handle; }
     LRESULT otherwise(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return DefWindowProcA(hwnd(), message, wParam, lParam);
@@ -59,9 +58,6 @@ private:
     {
         return m_window.clientRect().contains(GET_X_LPARAM(point), GET_Y_LPARAM(point));
     }
-
-    Window& m_window;
-    ButtonState& m_state;
 };
 
 LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)

@@ -21,7 +21,7 @@ std::unique_ptr<QWidget> makeCombo(QPointer<QComboBox>& made)
 
 struct ComboState : ControlState
 {
-    explicit ComboState(HWND window);
+    explicit ComboState(const Window& control);
     void follow(Window& window) override { widget.follow(window, window.clientRect()); }
 
     QPointer<QComboBox> combo;
@@ -29,9 +29,9 @@ struct ComboState : ControlState
     HFONT font = nullptr;
 };
 
-ComboState::ComboState(HWND window) : widget(makeCombo(combo))
+ComboState::ComboState(const Window& control) : widget(makeCombo(combo))
 {
-    QObject::connect(combo, &QComboBox::activated, [window] {
+    QObject::connect(combo, &QComboBox::activated, [window = control.handle] {
         InvalidateRect(window, nullptr, FALSE);
         if (const WindowPtr found = findWindow(window))
             notifyCommand(*found, CBN_SELCHANGE);
@@ -39,17 +39,17 @@ ComboState::ComboState(HWND window) : widget(makeCombo(combo))
     widget.setFont(nullptr);
 }
 
-class Combo
+class Combo : public Control<ComboState>
 {
 public:
-    Combo(Window& window, ComboState& state) : m_window(window), m_state(state), m_combo(*state.combo) {}
+    using Control::Control;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
-    HWND hwnd() const { return m_window.handle; }
+    QComboBox& combo() const { return *m_state.combo; }
     LRESULT handleList(UINT message, WPARAM wParam, LPARAM lParam);
-    int height() const { return m_combo.sizeHint().height(); }
+    int height() const { return combo().sizeHint().height(); }
     void setFont(HFONT font);
     void press(UINT message, LPARAM lParam);
     bool keyDown(WPARAM key);
@@ -57,14 +57,12 @@ private:
     LRESULT select(int index);
     LRESULT giveText(const QString& text, LPARAM buffer, int size) const;
     void paint();
-
-    Window& m_window;
-    ComboState& m_state;
-    QComboBox& m_combo;
 };
 
 LRESULT Combo::handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (!m_state.combo)
+        return 0;
     switch (message) {
     case WM_CREATE:
         m_window.rect.setHeight(height()); // the rest of the height asked for is the list's
@@ -73,9 +71,9 @@ LRESULT Combo::handle(UINT message, WPARAM wParam, LPARAM lParam)
         reinterpret_cast<WINDOWPOS*>(lParam)->cy = height();
         return 0;
     case WM_GETTEXT:
-        return giveText(m_combo.currentText(), lParam, static_cast<int>(wParam));
+        return giveText(combo().currentText(), lParam, static_cast<int>(wParam));
     case WM_GETTEXTLENGTH:
-        return m_combo.currentText().toUtf8().size();
+        return combo().currentText().toUtf8().size();
     case WM_PAINT:
         paint();
         return 0;
@@ -118,24 +116,24 @@ LRESULT Combo::handleList(UINT message, WPARAM wParam, LPARAM lParam)
     const int index = static_cast<int>(wParam);
     switch (message) {
     case CB_GETCOUNT:
-        return m_combo.count();
+        return combo().count();
     case CB_GETCURSEL:
-        return m_combo.currentIndex();
+        return combo().currentIndex();
     case CB_SETCURSEL:
         return select(index);
     case CB_ADDSTRING:
         return add(reinterpret_cast<LPCSTR>(lParam));
     case CB_RESETCONTENT:
-        m_combo.clear();
+        combo().clear();
         InvalidateRect(hwnd(), nullptr, FALSE);
         return CB_OKAY;
     case CB_GETLBTEXT:
     case CB_GETLBTEXTLEN:
-        if (index < 0 || index >= m_combo.count())
+        if (index < 0 || index >= combo().count())
             return CB_ERR;
         if (message == CB_GETLBTEXT)
-            giveText(m_combo.itemText(index), lParam, INT_MAX);
-        return m_combo.itemText(index).toUtf8().size();
+            giveText(combo().itemText(index), lParam, INT_MAX);
+        return combo().itemText(index).toUtf8().size();
     default:
         return DefWindowProcA(hwnd(), message, wParam, lParam);
     }
@@ -171,16 +169,16 @@ bool Combo::keyDown(WPARAM key)
 // Unlike Qt, selects nothing of itself.
 LRESULT Combo::add(LPCSTR text)
 {
-    const int selected = m_combo.currentIndex();
-    m_combo.addItem(QString::fromUtf8(text));
-    m_combo.setCurrentIndex(selected);
-    return m_combo.count() - 1;
+    const int selected = combo().currentIndex();
+    combo().addItem(QString::fromUtf8(text));
+    combo().setCurrentIndex(selected);
+    return combo().count() - 1;
 }
 
 LRESULT Combo::select(int index)
 {
-    const bool valid = index >= 0 && index < m_combo.count();
-    m_combo.setCurrentIndex(valid ? index : CB_ERR);
+    const bool valid = index >= 0 && index < combo().count();
+    combo().setCurrentIndex(valid ? index : CB_ERR);
     InvalidateRect(hwnd(), nullptr, FALSE);
     return valid ? index : CB_ERR;
 }
@@ -200,26 +198,11 @@ void Combo::paint()
     m_state.widget.paint(context.dc());
 }
 
-LRESULT comboProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const WindowPtr window = findWindow(handle);
-    if (!window)
-        return 0;
-    if (message == WM_NCDESTROY) {
-        window->control.reset();
-        return 0;
-    }
-    if (!window->control)
-        window->control = std::make_unique<ComboState>(handle);
-    auto& state = static_cast<ComboState&>(*window->control);
-    return state.combo ? Combo(*window, state).handle(message, wParam, lParam) : 0;
-}
-
 }
 
 void registerComboBoxClass()
 {
-    registerSystemClass("ComboBox", comboProcedure, CS_DBLCLKS, IDC_ARROW);
+    registerSystemClass("ComboBox", widgetControlProcedure<Combo>, CS_DBLCLKS, IDC_ARROW);
 }
 
 }

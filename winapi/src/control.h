@@ -39,6 +39,39 @@ private:
     HGDIOBJ m_oldFont;
 };
 
+// Handles the messages of one control. A derived class adds `handle`.
+template <class StateOfControl>
+class Control
+{
+public:
+    using State = StateOfControl;
+
+    Control(Window& window, State& state) : m_window(window), m_state(state) {}
+
+protected:
+    HWND hwnd() const { return m_window.handle; }
+
+    Window& m_window;
+    State& m_state;
+};
+
+// The window procedure of a control whose widget goes before its window does.
+template <class ControlClass>
+LRESULT widgetControlProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    using State = typename ControlClass::State;
+    const WindowPtr window = findWindow(handle);
+    if (!window)
+        return 0;
+    if (message == WM_NCDESTROY) {
+        window->control.reset();
+        return 0;
+    }
+    if (!window->control)
+        window->control = std::make_unique<State>(*window);
+    return ControlClass(*window, static_cast<State&>(*window->control)).handle(message, wParam, lParam);
+}
+
 // Fills a control with the brush that its parent chooses, and sets the colours of its text.
 void fillByParent(const Window& control, HDC dc, UINT colorMessage);
 void notifyCommand(const Window& control, WORD code);

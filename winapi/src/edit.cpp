@@ -168,15 +168,14 @@ QString toLines(const QByteArray& bytes)
     return QString::fromUtf8(bytes).remove('\r');
 }
 
-class Edit
+class Edit : public Control<EditState>
 {
 public:
-    Edit(Window& window, EditState& state) : m_window(window), m_state(state) {}
+    using Control::Control;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
-    HWND hwnd() const { return m_window.handle; }
     bool isMultiLine() const { return m_window.is(ES_MULTILINE); }
     bool isReadOnly() const { return m_window.is(ES_READONLY); }
     bool takesEnter() const { return isMultiLine() && (m_window.is(ES_WANTRETURN) || !m_state.inDialog); }
@@ -200,9 +199,6 @@ private:
     LRESULT dialogCode(const MSG* message);
     bool leaveToDialog(WPARAM key);
     void paint();
-
-    Window& m_window;
-    EditState& m_state;
 };
 
 LRESULT Edit::handle(UINT message, WPARAM wParam, LPARAM lParam)
@@ -475,25 +471,11 @@ void Edit::paint()
     m_state.widget.paint(context.dc());
 }
 
-LRESULT editProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const WindowPtr window = findWindow(handle);
-    if (!window)
-        return 0;
-    if (message == WM_NCDESTROY) {
-        window->control.reset();
-        return 0;
-    }
-    if (!window->control)
-        window->control = std::make_unique<EditState>(*window);
-    return Edit(*window, static_cast<EditState&>(*window->control)).handle(message, wParam, lParam);
-}
-
 }
 
 void registerEditClass()
 {
-    registerSystemClass("Edit", editProcedure, CS_DBLCLKS, IDC_IBEAM);
+    registerSystemClass("Edit", widgetControlProcedure<Edit>, CS_DBLCLKS, IDC_IBEAM);
 }
 
 }

@@ -29,7 +29,7 @@ std::unique_ptr<QWidget> makeScrollBar(QPointer<QScrollBar>& made)
 
 struct ListState : ControlState
 {
-    ListState() : widget(makeScrollBar(bar)) {}
+    explicit ListState(const Window&) : widget(makeScrollBar(bar)) {}
     void follow(Window& window) override;
 
     std::vector<Item> items;
@@ -62,15 +62,14 @@ void ListState::follow(Window& window)
     widget.follow(window, window.is(WS_VSCROLL) && bar->maximum() > 0 ? place : QRect());
 }
 
-class ListBox
+class ListBox : public Control<ListState>
 {
 public:
-    ListBox(Window& window, ListState& state) : m_window(window), m_state(state) {}
+    using Control::Control;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
-    HWND hwnd() const { return m_window.handle; }
     bool isOwnerDrawn() const { return m_window.is(LBS_OWNERDRAWFIXED); }
     bool hasTexts() const { return !isOwnerDrawn() || m_window.is(LBS_HASSTRINGS); }
     int count() const { return static_cast<int>(m_state.items.size()); }
@@ -104,9 +103,6 @@ private:
     bool keyDown(WPARAM key);
     void setFocused(bool focused);
     void tell(WORD code);
-
-    Window& m_window;
-    ListState& m_state;
 };
 
 LRESULT ListBox::handle(UINT message, WPARAM wParam, LPARAM lParam)
@@ -468,25 +464,12 @@ void ListBox::tell(WORD code)
         notifyCommand(m_window, code);
 }
 
-LRESULT listBoxProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const WindowPtr window = findWindow(handle);
-    if (!window)
-        return 0;
-    if (message == WM_NCDESTROY) {
-        window->control.reset();
-        return 0;
-    }
-    if (!window->control)
-        window->control = std::make_unique<ListState>();
-    return ListBox(*window, static_cast<ListState&>(*window->control)).handle(message, wParam, lParam);
-}
-
 }
 
 void registerListBoxClass()
 {
-    registerSystemClass("ListBox", listBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, IDC_ARROW);
+    registerSystemClass("ListBox", widgetControlProcedure<ListBox>, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW,
+                        IDC_ARROW);
 }
 
 }
