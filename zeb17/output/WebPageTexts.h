@@ -59,7 +59,7 @@ inline const std::vector<int> kNarrowRule =
                     "padding: 0.25em 0.375em; } .grid > .wd { font-size: 0.8em; } }");
 inline const std::vector<int> kPrintColors = StoredText<148>(
     "@media print { :root { --ink: #000; --soft: #888; --line: #000; --head: #fff; --name: #000; "
-    "--cell: #fff; --page: #fff} .grid > div { height: 6em }}");
+    "--cell: #fff; --page: #fff} .grid div {min-height: 6em}}");
 inline const std::vector<int> kPaperRule =
     StoredText<132>("@media print { @page { margin: .5in; } body { max-width: none; padding: 0; } .grid { "
                     "border-radius: 0; break-inside: avoid-page; } }");
