@@ -2,8 +2,8 @@
 #include "DataDirectory.h"
 #include "MarkedSettings.h"
 
-#include <FileFault.h>
 #include <FileUtils.h>
+#include <FullDisk.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -15,17 +15,6 @@ namespace {
 
 constexpr int kOld = 1;
 constexpr int kNew = 3;
-
-int g_nOperationsLeft = 0;
-FileOperation g_failed;
-
-DWORD FailAtLast(FileOperation operation)
-{
-    if (--g_nOperationsLeft != 0)
-        return ERROR_SUCCESS;
-    g_failed = operation;
-    return ERROR_DISK_FULL;
-}
 
 int RunWorker(const std::filesystem::path& directory, const std::string& strArguments)
 {
@@ -41,8 +30,6 @@ int RunWorker(const std::filesystem::path& directory, const std::string& strArgu
 class Save : public DataDirectory
 {
 protected:
-    ~Save() override { g_fileFault = nullptr; }
-
     // What a save of that mark writes.
     std::string ContentOf(int nMark)
     {
@@ -96,14 +83,13 @@ TEST_F(Save, KeepsTheOldFileWhenAnyOperationFails)
     CalendarSettings settings;
     SetMark(settings, kNew);
     std::vector<FileOperation> failed;
-    g_fileFault = FailAtLast;
     for (int nOperation = 1;; ++nOperation) {
-        g_nOperationsLeft = nOperation;
+        const FullDisk disk(nOperation);
         DatesCustom::s_nNextCustomID = 20000 + kNew; // since IsMutexFree loads the old one
         const int nCause = SaveAndCatch(settings);
         if (nCause == CFileException::none)
             break;
-        failed.push_back(g_failed);
+        failed.push_back(FullDisk::s_failed);
         ASSERT_EQ(nCause, CFileException::diskFull);
         ASSERT_TRUE(ReadFile(4) == strOld) << "operation " << nOperation;
         ASSERT_EQ(NamesInDirectory().size(), 1U) << "what was written beside is gone";

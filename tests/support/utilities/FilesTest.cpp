@@ -4,7 +4,7 @@
 #include <ReplacedFile.h>
 #include <TextArray.h>
 
-#include <FileFault.h>
+#include <FullDisk.h>
 #include <TemporaryDirectory.h>
 #include <WideText.h>
 
@@ -16,18 +16,9 @@ using namespace std::string_literals;
 
 namespace {
 
-int g_operationsLeft;
-
-DWORD FailAtLast(FileOperation)
-{
-    return --g_operationsLeft == 0 ? ERROR_DISK_FULL : ERROR_SUCCESS;
-}
-
 class Files : public testing::Test
 {
 protected:
-    ~Files() override { g_fileFault = nullptr; }
-
     CString PathOf(const char* name) const { return m_directory.PathOf(name).c_str(); }
 
     // The cause with which replacing fails; the exception must name the path.
@@ -73,9 +64,8 @@ TEST_F(Files, SurviveTheFailureOfEveryOperation)
     const CString path = PathOf("a.dat");
     m_directory.Write("a.dat", "old");
     int failures = 0;
-    g_fileFault = FailAtLast;
     for (int operation = 1;; ++operation) {
-        g_operationsLeft = operation;
+        const FullDisk disk(operation);
         if (CauseOfReplacing(path, "new") == CFileException::none)
             break;
         ++failures;
@@ -147,13 +137,6 @@ TEST_F(Files, OfTextAreUtf8WithTheLineEndsOfAllReaders)
     EXPECT_EQ(m_directory.Read("page.html"), "<html>\r\n\r\nM\xC3\xA4rz\r\n");
     EXPECT_TRUE(FileUtils::WriteFileContent(path, lines, true, 2));
     EXPECT_EQ(m_directory.Read("page.html"), "\xEF\xBB\xBF  <html>\r\n  \r\n  M\xC3\xA4rz\r\n");
-
-    g_fileFault = FailAtLast;
-    g_operationsLeft = 2;
-    EXPECT_FALSE(FileUtils::WriteFileContent(path, TextArray(), false, 0));
-    EXPECT_NE(m_directory.Read("page.html"), "");
-    g_fileFault = nullptr;
-    EXPECT_FALSE(FileUtils::WriteFileContent(PathOf("missing/page.html"), lines, false, 0));
 }
 
 TEST_F(Files, ExistOrNot)
