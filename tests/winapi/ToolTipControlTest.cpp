@@ -57,7 +57,29 @@ protected:
         info.uFlags = flags;
         send(TTM_ADDTOOLA, info);
         SendMessageA(tip, TTM_SETDELAYTIME, TTDT_INITIAL, 30);
-        movePointer(120, 130);
+        POINT place{10, 10};
+        ClientToScreen(child, &place);
+        movePointer(place.x, place.y);
+    }
+
+    // Where a tip of that text comes up.
+    RECT shown(const char* text)
+    {
+        TOOLINFOA info = tool(1, text);
+        restOn(info);
+        EXPECT_TRUE(comesUp()) << text;
+        RECT rect{};
+        GetWindowRect(tip, &rect);
+        movePointer(0, 0);
+        EXPECT_TRUE(goes());
+        send(TTM_DELTOOLA, info);
+        return rect;
+    }
+
+    LONG widthOf(const char* text)
+    {
+        const RECT rect = shown(text);
+        return rect.right - rect.left;
     }
 
     bool comesUp()
@@ -186,6 +208,28 @@ TEST_F(ToolTipControl, APressEndsTheTip)
     EXPECT_FALSE(IsWindowVisible(tip));
     releaseButton(MouseButton::Left);
     serveMessages();
+}
+
+TEST_F(ToolTipControl, ATextIsShownAsTypedButForAmpersands)
+{
+    EXPECT_EQ(widthOf("&one && t&wo"), widthOf("one && two"));
+    EXPECT_GT(widthOf("one && two"), widthOf("one two"));
+    EXPECT_GT(widthOf("<b>x</b>"), widthOf("xxx")) << "no markup";
+    EXPECT_GT(widthOf("&&lt;"), widthOf("lt;"));
+}
+
+TEST_F(ToolTipControl, TheTipStaysOnTheScreen)
+{
+    const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    RECT corner{};
+    GetWindowRect(child, &corner);
+    SetWindowPos(top, nullptr, 100 + screen.right - corner.left - 14, 100 + screen.bottom - corner.top - 14,
+                 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    serveMessages();
+    const RECT rect = shown("a long text at the corner");
+    RECT both{};
+    UnionRect(&both, &screen, &rect);
+    EXPECT_TRUE(EqualRect(&both, &screen)) << rect.right << ',' << rect.bottom;
 }
 
 TEST_F(ToolTipControl, ADeletedToolShowsNoTip)
