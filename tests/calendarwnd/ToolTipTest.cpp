@@ -1,8 +1,5 @@
 #include "CalendarFixture.h"
 
-#include <LocaleUtils.h>
-#include <ZEBButton.h>
-
 class ToolTipTest : public CalendarTest
 {
 protected:
@@ -29,7 +26,96 @@ protected:
         EXPECT_EQ(Ask<TOOLTIPTEXTW>(TTN_NEEDTEXTW, pChild), strTip);
         return strTip;
     }
+
+    // The pointer comes to rest on a window, over its middle or over a point.
+    static void PointAt(CWnd& wnd, CPoint point)
+    {
+        wnd.ClientToScreen(&point);
+        ::SetCursorPos(point.x, point.y);
+    }
+    static void PointAt(CWnd& wnd)
+    {
+        CRect rc;
+        wnd.GetClientRect(&rc);
+        PointAt(wnd, rc.CenterPoint());
+    }
+
+    // The text of the tip that is up, as its tool has it; empty if none is.
+    static std::string GetShownTip()
+    {
+        const auto take = [](HWND hWnd, LPARAM lParam) -> BOOL {
+            char szText[100] = "";
+            ::GetClassNameA(hWnd, szText, sizeof szText);
+            if (std::string(szText) != TOOLTIPS_CLASSA || !::IsWindowVisible(hWnd))
+                return TRUE;
+            TOOLINFOA tool{};
+            tool.cbSize = TTTOOLINFOA_V1_SIZE;
+            ::SendMessageA(hWnd, TTM_GETCURRENTTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+            tool.lpszText = szText;
+            ::SendMessageA(hWnd, TTM_GETTEXTA, sizeof szText, reinterpret_cast<LPARAM>(&tool));
+            *reinterpret_cast<std::string*>(lParam) = szText;
+            return FALSE;
+        };
+        std::string strTip;
+        ::EnumThreadWindows(::GetCurrentThreadId(), take, reinterpret_cast<LPARAM>(&strTip));
+        return strTip;
+    }
+
+    // Runs the host's loop until that tip is up, for two seconds at most.
+    bool Shows(const std::string& strTip)
+    {
+        const ULONGLONG nEnd = ::GetTickCount64() + 2000;
+        while (GetShownTip() != strTip && ::GetTickCount64() < nEnd) {
+            MSG msg;
+            while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
+                if (!CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg))
+                    ::DispatchMessageA(&msg);
+            ::Sleep(5);
+        }
+        return GetShownTip() == strTip;
+    }
 };
+
+// In both kinds, under the pointer of a user.
+TEST_F(ToolTipTest, TipsComeAndGo)
+{
+    Start();
+    HideNationalDays();
+    AddSpecialDay("Salt & pepper", 4, 7, RGB(1, 2, 3));
+    AddSpecialDay("<b>Second</b>", 4, 7, RGB(1, 2, 3));
+    Show(Date(2026, 7, 15), true);
+    PointAt(*calendar, calendar->GetDayRect(4).CenterPoint());
+    EXPECT_TRUE(Shows("Salt && pepper && <b>Second</b>"));
+    Key(VK_NEXT);
+    EXPECT_TRUE(Shows("")) << "another month";
+
+    PointAt(*calendar->m_pNextMonthButton);
+    EXPECT_TRUE(Shows("Show September, 2026"));
+    calendar->m_pNextMonthButton->PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(9, 9));
+    calendar->m_pNextMonthButton->PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(9, 9));
+    EXPECT_TRUE(Shows("")) << "a press";
+    PointAt(*calendar->m_pPrevMonthButton);
+    EXPECT_TRUE(Shows("Show August, 2026"));
+    PointAt(*calendar->m_pTodayButton);
+    EXPECT_TRUE(Shows("")) << "no step button";
+}
+
+TEST_F(ToolTipTest, FailureToCreateTheDaysTipsIsLogged)
+{
+    const auto refuse = [](int nCode, WPARAM wParam, LPARAM) -> LRESULT {
+        char szClass[32] = "";
+        ::GetClassNameA(reinterpret_cast<HWND>(wParam), szClass, sizeof szClass);
+        return nCode == HCBT_CREATEWND && std::string(szClass) == TOOLTIPS_CLASSA;
+    };
+    const HHOOK hHook = ::SetWindowsHookExA(WH_CBT, refuse, nullptr, ::GetCurrentThreadId());
+    Start();
+    ::UnhookWindowsHookEx(hHook);
+    EXPECT_EQ(logger.m_lines, std::vector<std::string>{"{9E65460D-A45F-46D5-B417-DFAAC0F156CA}"});
+    EXPECT_EQ(AskBoth(calendar->m_pNextMonthButton), "Show August, 2026");
+    MSG msg{calendar->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(50, 60), 0, {}};
+    EXPECT_FALSE(calendar->PreTranslateMessage(&msg));
+    Repaint();
+}
 
 TEST_F(ToolTipTest, StepButtonsSayWhereTheyLead)
 {
@@ -58,7 +144,7 @@ TEST_F(ToolTipTest, StepButtonsSayWhereTheyLead)
         }
     calendar->m_date = Date(9999, 12, 31);
     EXPECT_EQ(AskBoth(calendar->m_pNextYearButton), "Show December, 10000");
-    AskBoth(calendar->m_pNextMonthButton);
+    EXPECT_EQ(AskBoth(calendar->m_pNextMonthButton), "(no date)");
 }
 
 TEST_F(ToolTipTest, AllElseIsDeclined)
@@ -76,38 +162,4 @@ TEST_F(ToolTipTest, AllElseIsDeclined)
     EXPECT_FALSE(calendar->OnToolTipNotify(0, nullptr, &nResult));
     EXPECT_EQ(nResult, 0);
     EXPECT_FALSE(calendar->OnToolTipNotify(0, nullptr, nullptr));
-}
-
-// The same by the message, as a tool-tip control sends it.
-TEST_F(ToolTipTest, NotificationReachesTheHandler)
-{
-    Start();
-    TOOLTIPTEXTA text{};
-    text.hdr.code = TTN_NEEDTEXTA;
-    text.hdr.idFrom = reinterpret_cast<UINT_PTR>(calendar->m_pNextMonthButton->m_hWnd);
-    text.uFlags = TTF_IDISHWND;
-    calendar->SendMessage(WM_NOTIFY, text.hdr.idFrom, reinterpret_cast<LPARAM>(&text));
-    EXPECT_STREQ(text.szText, "Show August, 2026");
-}
-
-TEST_F(ToolTipTest, LongestTipIsWhole)
-{
-    Start();
-    for (const char* strLocale : {"en-US", "nl-NL", "de-DE"})
-        for (int nMonth = 1; nMonth <= 12; ++nMonth) {
-            LocaleUtils::SetLocale(strLocale);
-            calendar->m_date = Date(9998, nMonth, 1);
-            EXPECT_TRUE(Ask<TOOLTIPTEXTA>(TTN_NEEDTEXTA, calendar->m_pNextYearButton).ends_with(", 9999"));
-        }
-}
-
-TEST_F(ToolTipTest, MessagesOfAllKindsAreRelayed)
-{
-    Start();
-    EXPECT_FALSE(calendar->PreTranslateMessage(nullptr));
-    MSG msg{calendar->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(50, 60), 0, {}};
-    EXPECT_FALSE(calendar->PreTranslateMessage(&msg));
-    calendar->m_toolTip.DestroyWindow();
-    EXPECT_FALSE(calendar->PreTranslateMessage(&msg));
-    Repaint();
 }

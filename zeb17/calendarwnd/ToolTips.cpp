@@ -62,13 +62,13 @@ BOOL CCalendarWnd::OnToolTipNotify(UINT, NMHDR* pNMHDR, LRESULT* pResult)
 // Year tips count on the number alone, and may so name a year that no date has.
 CString CCalendarWnd::GetStepTip(int nButtonId) const
 {
-    if (!m_date.IsValid())
-        return StringUtils::DecryptText(CalendarTexts::NoDate);
     DateTime date = m_date;
     if (nButtonId == PrevMonthButtonId)
         date.AddMonths(-1);
     else if (nButtonId == NextMonthButtonId)
         date.AddMonths(1);
+    if (!date.IsValid()) // there was none, or the month is beyond the last
+        return StringUtils::DecryptText(CalendarTexts::NoDate);
     int nYear = 0, nMonth = 0, nDay = 0;
     date.GetDate(nYear, nMonth, nDay);
     if (nButtonId == PrevYearButtonId)
