@@ -8,17 +8,7 @@
 using testing::Each;
 using testing::ElementsAre;
 
-class LayoutTest : public CalendarTest
-{
-protected:
-    CRect GetPlace(const CWnd* pButton) const
-    {
-        CRect rc;
-        pButton->GetWindowRect(&rc);
-        calendar->ScreenToClient(&rc);
-        return rc;
-    }
-};
+using LayoutTest = CalendarTest;
 
 TEST_F(LayoutTest, ButtonsFillHeadingAndFooter)
 {
@@ -37,8 +27,12 @@ TEST_F(LayoutTest, ButtonsFillHeadingAndFooter)
             {c.m_pOptionsButton, {cx / 3, cy - 25, cx / 3 * 2, cy}},
             {c.m_pClearButton, {cx / 3 * 2, cy - 25, cx, cy}},
         };
-        for (const auto& [pButton, rc] : places)
-            EXPECT_EQ(GetPlace(pButton), rc) << pButton->GetDlgCtrlID() << " in " << cx << 'x' << cy;
+        for (const auto& [pButton, rc] : places) {
+            CRect rcPlace;
+            pButton->GetWindowRect(&rcPlace);
+            calendar->ScreenToClient(&rcPlace);
+            EXPECT_EQ(rcPlace, rc) << pButton->GetDlgCtrlID() << " in " << cx << 'x' << cy;
+        }
         EXPECT_EQ(c.m_rcGrid, CRect(0, 23, cx, cy - 25));
     }
 }
@@ -49,8 +43,13 @@ TEST_F(LayoutTest, Edges)
     calendar->OnSize(0, 210, 200);
     EXPECT_THAT(calendar->m_vRowEdges, ElementsAre(24, 43, 65, 87, 109, 131, 153, 174));
     EXPECT_THAT(calendar->m_vColumnEdges, ElementsAre(1, 31, 61, 91, 121, 151, 181, 209));
+    calendar->OnSize(0, 200, 200);
+    EXPECT_THAT(calendar->m_vColumnEdges, ElementsAre(1, 29, 57, 85, 113, 141, 169, 199));
     calendar->OnSize(0, 300, 240);
     EXPECT_THAT(calendar->m_vRowEdges, ElementsAre(24, 43, 71, 99, 127, 155, 183, 214));
+    Repaint();
+    calendar->OnSize(0, 300, 240);
+    EXPECT_EQ(GetInvalid(), calendar->m_rcGrid);
     EXPECT_EQ(calendar->GetCellRect({2, 1}), CRect(4, 45, 43 - 1, 70));
     EXPECT_EQ(calendar->GetCellRect({7, 7}), CRect(253 + 4, 185, 298, 213));
 }
@@ -78,13 +77,6 @@ TEST_F(LayoutTest, AnySize)
         calendar->OnSize(0, n, 100 - n);
         Repaint();
     }
-}
-
-TEST_F(LayoutTest, ResizingInvalidatesTheGrid)
-{
-    Start();
-    calendar->OnSize(0, kWidth, kHeight);
-    EXPECT_EQ(GetInvalid(), calendar->m_rcGrid);
 }
 
 // Today is found in each cell in which it can lie, whatever day the week begins with.
@@ -119,12 +111,15 @@ TEST_F(LayoutTest, SpecialDaysStandInTheirCells)
     AddSpecialDay("First", 1, 7, 0xFFFFFF);
     AddSpecialDay("Next", 8, 8, RGB(1, 2, 3)); // in the last cell
     calendar->DetermineSpecialDays();
-    for (int nCell = 0; nCell < 42; ++nCell) {
-        const char* const strDesc = nCell == 0 ? "Last" : nCell == 3 ? "First" : nCell == 41 ? "Next" : "";
-        const COLORREF cr = nCell == 0 ? RGB(9, 8, 7) : nCell == 41 ? RGB(1, 2, 3) : 0xFFFFFF;
-        EXPECT_EQ(calendar->m_vDayDescs[static_cast<size_t>(nCell)], strDesc) << nCell;
-        EXPECT_EQ(calendar->m_vDayColors[static_cast<size_t>(nCell)], cr) << nCell;
-    }
+    std::vector<CString> descs(MonthBlock::kCells);
+    descs[0] = "Last";
+    descs[3] = "First";
+    descs[41] = "Next";
+    std::vector<COLORREF> colors(MonthBlock::kCells, 0xFFFFFF);
+    colors[0] = RGB(9, 8, 7);
+    colors[41] = RGB(1, 2, 3);
+    EXPECT_EQ(calendar->m_vDayDescs, descs);
+    EXPECT_EQ(calendar->m_vDayColors, colors);
     calendar->m_date = DateTime();
     calendar->DetermineSpecialDays();
     EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
@@ -138,8 +133,7 @@ TEST_F(LayoutTest, OddMonthsDoNoHarm)
     Start();
     for (const DateTime& date : {Date(1582, 10, 4), Date(1582, 10, 15), Date(1, 1, 1), Date(9999, 12, 31)}) {
         Show(date, true);
-        for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
-            Show(date, true);
+        for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell, Show(date, true)) {
             Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint());
             EXPECT_TRUE(calendar->m_date.IsValid());
         }
