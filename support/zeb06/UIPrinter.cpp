@@ -164,7 +164,7 @@ void UIPrinter::InitPrintProcess()
     const bool bAsk = !info.m_bPrintFlag && s_strOutputFile.IsEmpty();
     const bool bChosen = bAsk ? dialog.DoModal() == IDOK : dialog.GetDefaults() != FALSE;
     if (bChosen) {
-        SetPrintDC(dialog.CreatePrinterDC());
+        SetPrintDC(dialog.GetPrinterDC());
         return;
     }
     const DWORD dwError = ::CommDlgExtendedError();

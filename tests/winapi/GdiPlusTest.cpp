@@ -43,20 +43,9 @@ TEST_F(GdiPlusTest, AnEllipseIsRoundAndInItsColour)
     EXPECT_TRUE(found.left >= 4 && found.top >= 4 && found.right <= 16 && found.bottom <= 16);
 }
 
-TEST_F(GdiPlusTest, APolygonIsFilled)
-{
-    const PointF corners[] = {{20, 5}, {30, 5}, {25, 10}};
-    EXPECT_EQ(Ok, GdipFillPolygon(graphics, brush, corners, 3, FillModeAlternate));
-    EXPECT_EQ(green, GetPixel(dc, 25, 6));
-    EXPECT_EQ(white, GetPixel(dc, 20, 9));
-    EXPECT_EQ(white, GetPixel(dc, 25, 12));
-}
-
 TEST_F(GdiPlusTest, WhatIsMissingIsTold)
 {
     GpGraphics* none = nullptr;
     EXPECT_EQ(OutOfMemory, GdipCreateFromHDC(nullptr, &none));
     EXPECT_EQ(InvalidParameter, GdipFillEllipseI(nullptr, brush, 0, 0, 5, 5));
-    const PointF corners[] = {{20, 5}, {30, 5}};
-    EXPECT_EQ(InvalidParameter, GdipFillPolygon(graphics, brush, corners, 2, FillModeAlternate));
 }

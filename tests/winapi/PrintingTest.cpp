@@ -63,6 +63,7 @@ TEST_F(PrintingTest, ThePageIsAsThePaperAndTheResolution)
         double height;
     };
     for (const Page& page : {Page{DMPAPER_A4, DMORIENT_PORTRAIT, 300, 8.27, 11.69},
+                             Page{7 /* Executive */, DMORIENT_PORTRAIT, 600, 7.25, 10.5},
                              Page{DMPAPER_A4, DMORIENT_LANDSCAPE, 1200, 11.69, 8.27},
                              Page{DMPAPER_LETTER, DMORIENT_PORTRAIT, 1200, 8.5, 11},
                              Page{DMPAPER_LETTER, DMORIENT_LANDSCAPE, 300, 11, 8.5}}) {

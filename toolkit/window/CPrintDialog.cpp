@@ -31,21 +31,6 @@ BOOL CPrintDialog::GetDefaults()
     return result;
 }
 
-HDC CPrintDialog::CreatePrinterDC()
-{
-    if (!m_pd.hDevNames)
-        return nullptr;
-    const auto* names = static_cast<const DEVNAMES*>(::GlobalLock(m_pd.hDevNames));
-    const auto* mode = m_pd.hDevMode ? static_cast<const DEVMODEA*>(::GlobalLock(m_pd.hDevMode)) : nullptr;
-    const auto* texts = reinterpret_cast<const char*>(names);
-    m_pd.hDC = ::CreateDCA(texts + names->wDriverOffset, texts + names->wDeviceOffset,
-                           texts + names->wOutputOffset, mode);
-    if (mode)
-        ::GlobalUnlock(m_pd.hDevMode);
-    ::GlobalUnlock(m_pd.hDevNames);
-    return m_pd.hDC;
-}
-
 void CPrintDialog::FreeBlocks()
 {
     for (HGLOBAL* block : {&m_pd.hDevMode, &m_pd.hDevNames})

@@ -22,8 +22,6 @@ public:
     virtual INT_PTR DoModal();
     /// Fills in the standard printer without showing a dialog. False if there is none.
     BOOL GetDefaults();
-    /// Makes the context of the printer chosen, or gives null. Whoever calls this deletes it.
-    HDC CreatePrinterDC();
     /// The context that the dialog made; null without PD_RETURNDC. Whoever calls this deletes it.
     HDC GetPrinterDC() const { return m_pd.hDC; }
     int GetCopies() const { return m_pd.nCopies; }

@@ -9,7 +9,6 @@
 
 namespace Gdiplus {
 
-using REAL = float;
 using ARGB = DWORD; // 0xAARRGGBB
 
 enum GpStatus
@@ -32,23 +31,6 @@ enum SmoothingMode
     SmoothingModeNone = 3,
     SmoothingModeAntiAlias = 4,
 };
-
-enum FillMode
-{
-    FillModeAlternate,
-    FillModeWinding
-};
-using GpFillMode = FillMode;
-
-struct PointF
-{
-    REAL X = 0;
-    REAL Y = 0;
-
-    PointF() = default;
-    PointF(REAL x, REAL y) : X(x), Y(y) {}
-};
-using GpPointF = PointF;
 
 using GpGraphics = void;
 using GpBrush = void;
@@ -79,8 +61,6 @@ WINGDIAPI GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush);
 WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush);
 WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
                                     INT height);
-WINGDIAPI GpStatus GdipFillPolygon(GpGraphics* graphics, GpBrush* brush, const GpPointF* points, INT count,
-                                   GpFillMode mode);
 
 // A copy of the bitmap's pixels; to be given to GdipDisposeImage. The palette is not used.
 WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image);

@@ -1,12 +1,9 @@
 // The flat GDI+ interface.
-#include "gdiplus.h"
+#include "gdiplus_session.h"
 
 #include "context.h"
 #include "handles.h"
 
-#include <QPolygonF>
-
-#include <span>
 #include <unordered_set>
 
 using namespace winapi;
@@ -30,11 +27,6 @@ std::unordered_set<ULONG_PTR>& sessions()
     return tokens;
 }
 
-bool isStarted()
-{
-    return !sessions().empty();
-}
-
 HandleTable<void*, Graphics>& graphicsTable()
 {
     static HandleTable<void*, Graphics> table;
@@ -52,12 +44,15 @@ bool isSmooth(Gdiplus::SmoothingMode mode)
     return mode == Gdiplus::SmoothingModeHighQuality || mode == Gdiplus::SmoothingModeAntiAlias;
 }
 
-// Lets `draw` use a painter that is set up for filling an area within `bounds`.
-template <class Draw>
-Gdiplus::GpStatus fill(void* graphicsHandle, void* brushHandle, const QRectF& bounds, Draw draw)
+template <class Object>
+Gdiplus::GpStatus remove(HandleTable<void*, Object>& table, void* handle)
 {
-    if (!isStarted())
-        return Gdiplus::GdiplusNotInitialized;
+    return winapi::whenGdiPlusRuns(
+        [&] { return table.remove(handle) ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
+}
+
+Gdiplus::GpStatus fillEllipse(void* graphicsHandle, void* brushHandle, const QRect& area)
+{
     const auto graphics = graphicsTable().find(graphicsHandle);
     const auto brush = fills().find(brushHandle);
     if (!graphics || !brush)
@@ -65,22 +60,23 @@ Gdiplus::GpStatus fill(void* graphicsHandle, void* brushHandle, const QRectF& bo
     const auto context = findContext(graphics->dc);
     if (!context)
         return Gdiplus::GenericError;
-    ContextPainter painter(*context, bounds.toAlignedRect().adjusted(-1, -1, 1, 1));
+    ContextPainter painter(*context, area.adjusted(-1, -1, 1, 1));
     if (!painter)
         return Gdiplus::Ok;
     painter->setRenderHint(QPainter::Antialiasing, isSmooth(graphics->smoothing));
     painter->setPen(Qt::NoPen);
     painter->setBrush(brush->color);
-    draw(*painter);
+    painter->drawEllipse(QRectF(area));
     return Gdiplus::Ok;
 }
 
-template <class Object>
-Gdiplus::GpStatus remove(HandleTable<void*, Object>& table, void* handle)
+}
+
+namespace winapi {
+
+bool isGdiPlusRunning()
 {
-    if (!isStarted())
-        return Gdiplus::GdiplusNotInitialized;
-    return table.remove(handle) ? Gdiplus::Ok : Gdiplus::InvalidParameter;
+    return !sessions().empty();
 }
 
 }
@@ -107,14 +103,14 @@ namespace DllExports {
 
 GpStatus GdipCreateFromHDC(HDC dc, GpGraphics** graphics)
 {
-    if (!isStarted())
-        return GdiplusNotInitialized;
-    if (!graphics)
-        return InvalidParameter;
-    if (!findContext(dc))
-        return OutOfMemory;
-    *graphics = graphicsTable().add(std::make_shared<Graphics>(Graphics{dc}));
-    return Ok;
+    return whenGdiPlusRuns([&] {
+        if (!graphics)
+            return InvalidParameter;
+        if (!findContext(dc))
+            return OutOfMemory;
+        *graphics = graphicsTable().add(std::make_shared<Graphics>(Graphics{dc}));
+        return Ok;
+    });
 }
 
 GpStatus GdipDeleteGraphics(GpGraphics* graphics)
@@ -124,23 +120,23 @@ GpStatus GdipDeleteGraphics(GpGraphics* graphics)
 
 GpStatus GdipSetSmoothingMode(GpGraphics* handle, SmoothingMode mode)
 {
-    if (!isStarted())
-        return GdiplusNotInitialized;
-    const auto graphics = graphicsTable().find(handle);
-    if (!graphics || mode < SmoothingModeDefault || mode > SmoothingModeAntiAlias)
-        return InvalidParameter;
-    graphics->smoothing = mode;
-    return Ok;
+    return whenGdiPlusRuns([&] {
+        const auto graphics = graphicsTable().find(handle);
+        if (!graphics || mode < SmoothingModeDefault || mode > SmoothingModeAntiAlias)
+            return InvalidParameter;
+        graphics->smoothing = mode;
+        return Ok;
+    });
 }
 
 GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush)
 {
-    if (!isStarted())
-        return GdiplusNotInitialized;
-    if (!brush)
-        return InvalidParameter;
-    *brush = fills().add(std::make_shared<Fill>(Fill{QColor::fromRgba(color)}));
-    return Ok;
+    return whenGdiPlusRuns([&] {
+        if (!brush)
+            return InvalidParameter;
+        *brush = fills().add(std::make_shared<Fill>(Fill{QColor::fromRgba(color)}));
+        return Ok;
+    });
 }
 
 GpStatus GdipDeleteBrush(GpBrush* brush)
@@ -150,21 +146,7 @@ GpStatus GdipDeleteBrush(GpBrush* brush)
 
 GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width, INT height)
 {
-    const QRectF area(x, y, width, height);
-    return fill(graphics, brush, area, [&](QPainter& painter) { painter.drawEllipse(area); });
-}
-
-GpStatus GdipFillPolygon(GpGraphics* graphics, GpBrush* brush, const GpPointF* points, INT count,
-                         GpFillMode mode)
-{
-    if (isStarted() && (!points || count < 3))
-        return InvalidParameter;
-    QPolygonF polygon;
-    for (const GpPointF& point : std::span(points, isStarted() ? static_cast<std::size_t>(count) : 0))
-        polygon << QPointF(point.X, point.Y);
-    const Qt::FillRule rule = mode == FillModeWinding ? Qt::WindingFill : Qt::OddEvenFill;
-    return fill(graphics, brush, polygon.boundingRect(),
-                [&](QPainter& painter) { painter.drawPolygon(polygon, rule); });
+    return whenGdiPlusRuns([&] { return fillEllipse(graphics, brush, {x, y, width, height}); });
 }
 
 }

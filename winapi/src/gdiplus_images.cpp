@@ -1,5 +1,5 @@
 // The pictures of GDI+: a copy of a bitmap, and its writing as a PNG file.
-#include "gdiplus.h"
+#include "gdiplus_session.h"
 
 #include "handles.h"
 #include "objects.h"
@@ -26,25 +26,30 @@ namespace Gdiplus::DllExports {
 
 GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE, GpBitmap** image)
 {
-    const auto source = findObject<Bitmap>(bitmap);
-    if (!source || !image)
-        return InvalidParameter;
-    *image = images().add(std::make_shared<QImage>(source->image.copy()));
-    return Ok;
+    return whenGdiPlusRuns([&] {
+        const auto source = findObject<Bitmap>(bitmap);
+        if (!source || !image)
+            return InvalidParameter;
+        *image = images().add(std::make_shared<QImage>(source->image.copy()));
+        return Ok;
+    });
 }
 
 GpStatus GdipDisposeImage(GpImage* image)
 {
-    return images().remove(image) ? Ok : InvalidParameter;
+    return whenGdiPlusRuns([&] { return images().remove(image) ? Ok : InvalidParameter; });
 }
 
-GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder, const EncoderParameters*)
+GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder,
+                             const EncoderParameters*)
 {
-    const auto picture = images().find(image);
-    if (!picture || !path || !encoder || std::memcmp(encoder, &kPngEncoder, sizeof kPngEncoder) != 0)
-        return InvalidParameter;
-    QImageWriter writer(QString::fromUtf16(path), "png");
-    return writer.write(*picture) ? Ok : GenericError;
+    return whenGdiPlusRuns([&] {
+        const auto picture = images().find(image);
+        if (!picture || !path || !encoder || std::memcmp(encoder, &kPngEncoder, sizeof kPngEncoder) != 0)
+            return InvalidParameter;
+        QImageWriter writer(QString::fromUtf16(path), "png");
+        return writer.write(*picture) ? Ok : GenericError;
+    });
 }
 
 }

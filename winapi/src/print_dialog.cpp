@@ -86,12 +86,13 @@ void applyChoice(QPrinter& printer, const PRINTDLGA& dialog)
     GlobalUnlock(dialog.hDevMode);
 }
 
+// The printer to a file stands among the printers, so that a request without the box for it has that one
+// still.
 bool ask(QPrinter& printer, const PRINTDLGA& request)
 {
     QPrintDialog dialog(&printer);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, !(request.Flags & PD_NOSELECTION));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, !(request.Flags & PD_NOPAGENUMS));
-    dialog.setOption(QAbstractPrintDialog::PrintToFile, !(request.Flags & PD_HIDEPRINTTOFILE));
     if (request.nMaxPage >= request.nMinPage && request.nMaxPage > 0)
         dialog.setMinMax(request.nMinPage, request.nMaxPage);
     return runModal(dialog, request.hwndOwner) == QDialog::Accepted;

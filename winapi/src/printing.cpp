@@ -117,15 +117,6 @@ void widenPage(QPrinter& printer)
     printer.setPageMargins(toFile ? QMarginsF() : printer.pageLayout().minimumMargins(), QPageLayout::Point);
 }
 
-constexpr struct
-{
-    short paper;
-    QPageSize::PageSizeId size;
-} papers[] = {
-    {DMPAPER_LETTER, QPageSize::Letter}, {DMPAPER_LEGAL, QPageSize::Legal}, {DMPAPER_A3, QPageSize::A3},
-    {DMPAPER_A4, QPageSize::A4},         {DMPAPER_A5, QPageSize::A5},
-};
-
 int jobResult(bool done, DWORD error)
 {
     if (done)
@@ -206,9 +197,7 @@ DEVMODEA modeOf(const QPrinter& printer, const QString& name)
     mode.dmFields = DM_ORIENTATION | DM_PAPERSIZE | DM_COPIES | DM_PRINTQUALITY;
     mode.dmOrientation =
         layout.orientation() == QPageLayout::Landscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
-    for (const auto& [paper, size] : papers)
-        if (layout.pageSize().id() == size)
-            mode.dmPaperSize = paper;
+    mode.dmPaperSize = static_cast<short>(layout.pageSize().windowsId());
     mode.dmCopies = static_cast<short>(printer.copyCount());
     mode.dmPrintQuality = static_cast<short>(printer.resolution());
     return mode;
@@ -216,9 +205,9 @@ DEVMODEA modeOf(const QPrinter& printer, const QString& name)
 
 void applyMode(QPrinter& printer, const DEVMODEA& mode)
 {
-    for (const auto& [paper, size] : papers)
-        if ((mode.dmFields & DM_PAPERSIZE) && mode.dmPaperSize == paper)
-            printer.setPageSize(QPageSize(size));
+    const auto paper = QPageSize::id(mode.dmPaperSize);
+    if ((mode.dmFields & DM_PAPERSIZE) && paper != QPageSize::Custom)
+        printer.setPageSize(QPageSize(paper));
     if (mode.dmFields & DM_ORIENTATION)
         printer.setPageOrientation(mode.dmOrientation == DMORIENT_LANDSCAPE ? QPageLayout::Landscape
                                                                             : QPageLayout::Portrait);
