@@ -47,17 +47,14 @@ TEST(Control, FieldsAndCombosGiveTheirTexts)
     edit.SetWindowText("one two");
     edit.SetSel(4, -1);
     edit.ReplaceSel("three");
+    edit.SetSel(1, 3);
     int start = 0;
     int end = 0;
-    edit.SetSel(1, 3);
     edit.GetSel(start, end);
-    EXPECT_EQ(start, 1);
-    EXPECT_EQ(end, 3);
+    EXPECT_EQ(std::pair(start, end), std::pair(1, 3));
     CString text;
     edit.GetWindowText(text);
     EXPECT_STREQ(text, "one three");
-    EXPECT_TRUE(edit.SetReadOnly());
-    EXPECT_TRUE(edit.GetStyle() & ES_READONLY);
 
     CComboBox combo;
     ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWNLIST, CRect(0, 30, 90, 100), &frame, 4));

@@ -16,11 +16,9 @@ protected:
         EXPECT_TRUE(m_dc.CreateCompatibleDC(&screen));
         EXPECT_TRUE(m_bitmap.CreateCompatibleBitmap(&screen, 20, 20));
         m_old = m_dc.SelectObject(&m_bitmap);
-        PatBltBlack();
+        m_dc.FillSolidRect(0, 0, 20, 20, 0);
     }
     ~Drawing() override { m_dc.SelectObject(m_old); }
-
-    void PatBltBlack() { m_dc.FillSolidRect(0, 0, 20, 20, 0); }
 
     CBitmap m_bitmap;
     CDC m_dc;
@@ -28,29 +26,24 @@ protected:
 };
 }
 
-TEST_F(Drawing, FillSolidRectLeavesItsColourAsTheBackground)
+TEST_F(Drawing, CallsReachTheContext)
 {
     m_dc.SetBkColor(kBlue);
     m_dc.FillSolidRect(CRect(2, 2, 5, 5), kRed);
-    EXPECT_EQ(m_dc.GetBkColor(), kRed);
+    EXPECT_EQ(m_dc.GetBkColor(), kRed) << "the fill leaves its colour";
     EXPECT_EQ(m_dc.GetPixel(4, 4), kRed);
     EXPECT_EQ(m_dc.GetPixel(5, 4), 0U);
-}
 
-TEST_F(Drawing, PensAndBrushesDraw)
-{
     CPen pen(PS_SOLID, 1, kRed);
     CBrush brush(kBlue);
-    CPen* oldPen = m_dc.SelectObject(&pen);
-    m_dc.MoveTo(1, 3);
-    EXPECT_EQ(m_dc.MoveTo(2, 3), CPoint(1, 3));
-    m_dc.LineTo(6, 3);
-    EXPECT_EQ(m_dc.GetPixel(5, 3), kRed);
-    EXPECT_EQ(m_dc.GetPixel(6, 3), 0U) << "the last point stays undrawn";
+    m_dc.SelectObject(&pen);
+    m_dc.MoveTo(1, 7);
+    EXPECT_EQ(m_dc.MoveTo(2, 7), CPoint(1, 7));
+    m_dc.LineTo(6, 7);
+    EXPECT_EQ(m_dc.GetPixel(5, 7), kRed);
     m_dc.FrameRect(CRect(8, 8, 12, 12), &brush);
     EXPECT_EQ(m_dc.GetPixel(11, 11), kBlue);
     EXPECT_EQ(m_dc.GetPixel(10, 10), 0U);
-    EXPECT_EQ(m_dc.SelectObject(oldPen), &pen);
 }
 
 TEST_F(Drawing, SelectObjectGivesTheObjectThatWasSelected)
@@ -144,16 +137,12 @@ TEST(Contexts, AreReleasedWithTheirObject)
     EXPECT_FALSE(GetUpdateRect(frame, nullptr, FALSE));
 
     CWnd none;
-    EXPECT_THROW(
-        {
-            try {
-                CPaintDC paint(&none);
-            } catch (CResourceException* exception) {
-                exception->Delete();
-                throw 0;
-            }
-        },
-        int);
+    try {
+        CPaintDC paint(&none);
+        FAIL() << "There is nothing to paint on.";
+    } catch (CResourceException* exception) {
+        exception->Delete();
+    }
 }
 
 TEST(Rectangles, MoveGrowAndMeet)

@@ -63,6 +63,8 @@ protected:
         return message;
     }
 
+    Log TakeLog() { return std::exchange(m_log, {}); }
+
     Log m_log;
     Stop m_top{m_log, "top"};
     Stop m_middle{m_log, "middle"};
@@ -89,32 +91,21 @@ public:
 };
 }
 
-TEST_F(PreTranslate, OffersAMessageToTheWindowAndThenToItsAncestors)
+TEST_F(PreTranslate, OffersAMessageToTheWindowAndItsAncestorsUntilOneKeepsIt)
 {
     MSG message = MakeMessage();
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top"));
-}
-
-TEST_F(PreTranslate, StopsAtTheWindowThatKeepsTheMessageAndAtTheGivenOne)
-{
-    MSG message = MakeMessage();
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(m_middle, &message));
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle"));
-    m_log.clear();
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top"));
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(m_middle, &message)) << "up to the given window";
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle"));
     m_leaf.m_keep = true;
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_THAT(m_log, ElementsAre("leaf"));
-    m_log.clear();
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf"));
     message.hwnd = nullptr; // a message of the thread
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_THAT(m_log, ElementsAre());
-}
+    EXPECT_THAT(TakeLog(), ElementsAre());
 
-TEST_F(PreTranslate, TakesNoMessageForNoMessage)
-{
     CWnd window;
-    EXPECT_FALSE(window.PreTranslateMessage(nullptr));
     window.EnableToolTips(TRUE);
     EXPECT_FALSE(window.PreTranslateMessage(nullptr));
 }
@@ -127,13 +118,12 @@ TEST_F(PreTranslate, TheLoopOffersBeforeItDispatchesAndEndsWithTheExitCode)
     EXPECT_EQ(AfxGetMainWnd(), &m_top);
     m_leaf.PostMessage(WM_APP);
     EXPECT_EQ(app.Run(), 5);
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top", "leaf got it", "idle 0", "idle 1"));
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top", "leaf got it", "idle 0", "idle 1"));
 
-    m_log.clear();
     m_middle.m_keep = true;
     m_leaf.PostMessage(WM_APP);
     EXPECT_EQ(app.Run(), 5);
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "idle 0", "idle 1"));
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "idle 0", "idle 1"));
 }
 
 TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
@@ -142,14 +132,12 @@ TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
     ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE)) << "again does no harm";
     MSG message = MakeMessage();
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER));
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "top"));
-    m_log.clear();
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top"));
     m_middle.m_keep = true;
     EXPECT_TRUE(CallMsgFilterA(&message, MSGF_USER));
-    EXPECT_THAT(m_log, ElementsAre("leaf", "middle"));
-    m_log.clear();
+    EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle"));
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_MENU)) << "a menu's keys are the menu's";
-    EXPECT_THAT(m_log, ElementsAre());
+    EXPECT_THAT(TakeLog(), ElementsAre());
     m_leaf.m_throw = true;
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER)) << "no exception crosses the filter";
 }
