@@ -1,5 +1,6 @@
 // The groups as one object, with the to-do list not in use.
 #include "DataDirectory.h"
+#include "FileBytes.h"
 
 #include <CalendarSettings.h>
 
@@ -12,14 +13,6 @@ namespace {
 using enum CalendarSettings::Group;
 
 constexpr auto kNoGroup = static_cast<CalendarSettings::Group>(5);
-
-CalendarDateEntry* NewEntry(const char* szDesc, int nDay, int nMonth, DWORD dwColor)
-{
-    auto pEntry = std::make_unique<CalendarDateEntry>();
-    pEntry->SetDay(szDesc, nDay, nMonth);
-    pEntry->SetColor(dwColor);
-    return pEntry.release();
-}
 
 class Settings : public DataDirectory
 {
@@ -91,7 +84,9 @@ TEST_F(Settings, JoinTheGroupsAndTakeTheColourOfTheLast)
         EXPECT_EQ(dwColor, date.dwColor) << date.szDesc;
     }
 
-    m_settings.AddCustomEntry(NewEntry("Mine", 26, 12, 4));
+    auto pMine = std::make_unique<CalendarDateEntry>(MakeEntry(0, "Mine", true, 4));
+    pMine->SetDay("Mine", 26, 12);
+    m_settings.AddCustomEntry(pMine.release());
     DWORD dwColor = 7;
     EXPECT_EQ(m_settings.GetDateDesc(26, 12, 2026, dwColor), "Boxing Day\r\nMine");
     EXPECT_EQ(dwColor, 4U);
@@ -123,11 +118,18 @@ TEST_F(Settings, NumberTheUsersDatesAndNeverReuseANumber)
     m_settings.AddCustomEntry(nullptr);
     EXPECT_EQ(m_settings.GetCount(GroupCustom), 0U);
     for (int i = 0; i < 3; ++i)
-        m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
+        m_settings.AddCustomEntry(new CalendarDateEntry);
     m_settings.DeleteCustomEntry(m_settings.GetAt(GroupCustom, 1));
     CalendarSettings other; // of the same process
-    other.AddCustomEntry(NewEntry("x", 1, 1, 0));
-    m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
+    other.AddCustomEntry(new CalendarDateEntry);
+    m_settings.AddCustomEntry(new CalendarDateEntry);
+
+    // What is not in the list is left alone.
+    CalendarDateEntry foreign;
+    for (CalendarDateEntry* pEntry :
+         {&foreign, static_cast<CalendarDateEntry*>(nullptr), m_settings.GetAt(GroupUS, 0)})
+        m_settings.DeleteCustomEntry(pEntry);
+    EXPECT_EQ(m_settings.GetCount(GroupUS), 41U);
 
     const int ids[] = {10000, 10002, 10004};
     ASSERT_EQ(m_settings.GetCount(GroupCustom), std::size(ids));
@@ -136,25 +138,9 @@ TEST_F(Settings, NumberTheUsersDatesAndNeverReuseANumber)
     EXPECT_EQ(other.GetAt(GroupCustom, 0)->m_nID, 10003);
 }
 
-TEST_F(Settings, DeleteOnlyWhatIsInTheList)
-{
-    m_settings.AddCustomEntry(NewEntry("x", 1, 1, 0));
-    CalendarDateEntry foreign;
-    m_settings.DeleteCustomEntry(&foreign);
-    m_settings.DeleteCustomEntry(nullptr);
-    m_settings.DeleteCustomEntry(m_settings.GetAt(GroupUS, 0));
-    EXPECT_EQ(m_settings.GetCount(GroupCustom), 1U);
-    EXPECT_EQ(m_settings.GetCount(GroupUS), 41U);
-}
-
 TEST_F(Settings, IgnoreAGroupThatIsNone)
 {
     m_settings.SetAllColor(kNoGroup, 5);
     m_settings.SetAllShow(kNoGroup, false);
-    for (const auto group : {GroupUS, GroupCanada, GroupNetherlands}) {
-        for (size_t i = 0; i < m_settings.GetCount(group); ++i) {
-            EXPECT_EQ(m_settings.GetAt(group, i)->GetColor(), 0xFFFFFFU);
-            EXPECT_TRUE(m_settings.GetAt(group, i)->GetShow());
-        }
-    }
+    EXPECT_EQ(SavedBytesOf(m_settings), SavedBytesOf(*std::make_unique<CalendarSettings>()));
 }

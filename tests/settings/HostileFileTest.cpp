@@ -19,14 +19,14 @@ enum class Outcome
     TooLong
 };
 
-Outcome Load(CalendarSettings& settings)
+Outcome Load(CalendarSettings& settings, const CString& strPath = ZebrikUtils::GetCalendarSettingsPath(4))
 {
     try {
         EXPECT_TRUE(settings.Load());
         return Outcome::Loaded;
     } catch (CArchiveException* pException) {
         const int nCause = pException->m_cause;
-        EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
+        EXPECT_EQ(pException->m_strFileName, strPath);
         pException->Delete();
         EXPECT_TRUE(nCause == CArchiveException::endOfFile || nCause == CArchiveException::badSchema);
         return nCause == CArchiveException::endOfFile ? Outcome::EndOfFile : Outcome::BadSchema;
@@ -36,15 +36,27 @@ Outcome Load(CalendarSettings& settings)
     }
 }
 
+const CalendarDateEntry kEntry = MakeEntry(7);
+const std::string kEntryBytes = FileBytes().Entry(kEntry);
+
 FileBytes NationalSections()
 {
-    return FileBytes().U16(3).Overlay({{0, 5, false}, {1, 6, true}}).Overlay({{100, 7, true}}).Overlay({});
+    return FileBytes()
+        .U16(3)
+        .Overlay({MakeEntry(0, "", false, 5), MakeEntry(1, "", true, 6)})
+        .Overlay({MakeEntry(100, "", true, 7)})
+        .Overlay({});
 }
 
 std::string MakeFile()
 {
-    EntryRecord entry;
-    return NationalSections().Custom({entry, entry, entry}).ToDo({entry}).U32(12345);
+    return NationalSections().Custom({kEntry, kEntry, kEntry}).ToDo({kEntry}).U32(12345);
+}
+
+// A file up to the description of its only own date.
+FileBytes UpToText()
+{
+    return NationalSections().U16(3).U64(1).Rule(kEntry);
 }
 
 class HostileFile : public DataDirectory
@@ -70,20 +82,19 @@ TEST_F(HostileFile, CutAtAnyByte)
 
 TEST_F(HostileFile, KeepsWhatWasReadBeforeItEnded)
 {
-    EntryRecord entry;
-    const FileBytes threeEntries = NationalSections().Custom({entry, entry, entry});
+    const std::size_t nNational = NationalSections().Size();
+    const std::size_t nCustom = NationalSections().Custom({kEntry, kEntry, kEntry}).Size();
     const struct
     {
         std::size_t nLength;
         size_t nCustom;
         DWORD dwCanada; // of the first entry
     } cuts[] = {
-        {NationalSections().Size() - 10 - 1, 1,
-         0xFFFFFF},                            // in the only record of Canada; the old list is whole
-        {NationalSections().Size() + 1, 1, 7}, // in the word of the custom section
-        {NationalSections().Size() + 2, 0, 7}, // behind it: the old entries are gone
-        {threeEntries.Size() - 1, 2, 7},       // in the third entry
-        {threeEntries.Size(), 3, 7},
+        {nNational - 10 - 1, 1, 0xFFFFFF}, // in the only record of Canada; the old list is whole
+        {nNational + 1, 1, 7},             // in the word of the custom section
+        {nNational + 2, 0, 7},             // behind it: the old entries are gone
+        {nCustom - 1, 2, 7},               // in the third entry
+        {nCustom, 3, 7},
     };
     for (const auto& cut : cuts) {
         CalendarSettings settings;
@@ -107,37 +118,25 @@ TEST_F(HostileFile, CountsMoreThanThereIs)
     {
         std::uint64_t nCount;
         Outcome outcome;
-    } counts[] = {{4, Outcome::EndOfFile},
-                  {0x10000000, Outcome::EndOfFile},
-                  {nMaxCount, Outcome::EndOfFile},
-                  {nMaxCount + 1, Outcome::TooLong},
-                  {UINT64_MAX, Outcome::TooLong}};
-    EntryRecord entry;
-    const std::string strEntry = FileBytes().Entry(entry);
+        size_t nRead;
+    } counts[] = {{4, Outcome::EndOfFile, 1},
+                  {0x10000000, Outcome::EndOfFile, 1},
+                  {nMaxCount, Outcome::EndOfFile, 1},
+                  {nMaxCount + 1, Outcome::TooLong, 0},
+                  {UINT64_MAX, Outcome::TooLong, 0}};
     for (const auto& c : counts) {
-        const bool bTooLong = c.outcome == Outcome::TooLong;
         CalendarSettings settings;
-        WriteFile(4, NationalSections().U16(3).U64(c.nCount).Raw(strEntry));
+        WriteFile(4, NationalSections().U16(3).U64(c.nCount).Raw(kEntryBytes));
         EXPECT_EQ(Load(settings), c.outcome);
-        EXPECT_EQ(settings.GetCount(GroupCustom), bTooLong ? 0U : 1U);
+        EXPECT_EQ(settings.GetCount(GroupCustom), c.nRead);
 
-        WriteFile(4, NationalSections().Custom({}).U16(1).U64(c.nCount).Raw(strEntry));
+        WriteFile(4, NationalSections().Custom({}).U16(1).U64(c.nCount).Raw(kEntryBytes));
         EXPECT_EQ(Load(settings), c.outcome);
-        EXPECT_EQ(settings.GetCount(GroupToDo), bTooLong ? 0U : 1U);
+        EXPECT_EQ(settings.GetCount(GroupToDo), c.nRead);
 
         WriteFile(4, FileBytes().U16(3).U16(2).U64(c.nCount).I32(0).U32(9).U8(1));
         EXPECT_EQ(Load(settings), Outcome::EndOfFile) << "an overlay makes no list";
         EXPECT_EQ(settings.GetAt(GroupUS, 0)->GetColor(), 9U);
-    }
-}
-
-TEST_F(HostileFile, HoldsAnUnknownFormOfADate)
-{
-    EntryRecord entry;
-    for (const unsigned nForm : {0, 3, 0xFFFF}) {
-        CalendarSettings settings;
-        WriteFile(4, NationalSections().U16(3).U64(1).Entry(entry, nForm).ToDo({}).U32(1));
-        EXPECT_EQ(Load(settings), Outcome::BadSchema);
     }
 }
 
@@ -158,23 +157,23 @@ TEST_F(HostileFile, HasAByteThatIsAnother)
             }
         }
     }
+    for (const unsigned nForm : {0, 3, 0xFFFF}) {
+        CalendarSettings settings;
+        WriteFile(4, NationalSections().U16(3).U64(1).Entry(kEntry, nForm).ToDo({}).U32(1));
+        EXPECT_EQ(Load(settings), Outcome::BadSchema);
+    }
 }
 
 // Nothing is set aside on the word of a count or a length, and what is read takes a small multiple of its
 // bytes.
 TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
 {
-    EntryRecord entry;
-    entry.date.strDesc = "";
-    const std::string strEntry = FileBytes().Entry(entry);
+    const std::string strEntry = FileBytes().Entry(MakeEntry(7, ""));
     std::string strEntries;
     for (int i = 0; i < 20000; ++i)
         strEntries += strEntry;
-    const DateRecord date{.strDesc = ""};
-    const FileBytes beforeText = FileBytes().Date(date);
-    const std::string strBeforeLength =
-        static_cast<const std::string&>(beforeText).substr(0, beforeText.Size() - 1);
-
+    const std::string strLength = FileBytes().U8(255).U16(0xFFFF).U32(0x7FFFFFFF);
+    const std::string strZeros(100000, '\0');
     const struct
     {
         const char* szWhat;
@@ -183,81 +182,51 @@ TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
     } files[] = {
         {"a count of entries", 4, NationalSections().U16(3).U64(0x0FFFFFFFFFFFFFFF).Raw(strEntry)},
         {"many entries", 4, NationalSections().U16(3).U64(1000000).Raw(strEntries)},
-        {"the length of a text", 4,
-         NationalSections()
-             .U16(3)
-             .U64(1)
-             .Raw(strBeforeLength)
-             .U8(255)
-             .U16(0xFFFF)
-             .U32(0x7FFFFFFF)
-             .Raw("abc")},
-        {"a longer length", 4,
-         NationalSections()
-             .U16(3)
-             .U64(1)
-             .Raw(strBeforeLength)
-             .U8(255)
-             .U16(0xFFFF)
-             .U32(0xFFFFFFFF)
-             .U64(1ULL << 40)},
-        {"the length of a wide text", 4,
-         NationalSections()
-             .U16(3)
-             .U64(1)
-             .Raw(strBeforeLength)
-             .U8(255)
-             .U16(0xFFFE)
-             .U8(255)
-             .U16(0xFFFF)
-             .U32(0x7FFFFFFF)},
+        {"the length of a text", 4, UpToText().Raw(strLength).Raw("abc")},
+        {"a longer length", 4, UpToText().U8(255).U16(0xFFFF).U32(0xFFFFFFFF).U64(1ULL << 40)},
+        {"the length of a wide text", 4, UpToText().U8(255).U16(0xFFFE).Raw(strLength)},
         {"a count of names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(0xFFFFFFFE).Text("Canada")},
-        {"many names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(1000000).Raw(std::string(100000, 0))},
-        {"many rows", 1, FileBytes().U16(1).I32(1000000).Raw(std::string(100000, 0))},
+        {"many names", 1, FileBytes().U16(1).I32(0).U16(0xFFFF).U32(1000000).Raw(strZeros)},
+        {"many rows", 1, FileBytes().U16(1).I32(1000000).Raw(strZeros)},
         {"a count of rows", 1, FileBytes().U16(1).I32(INT32_MAX).Text("Canada").U32(1)},
     };
     for (const auto& file : files) {
         UseDirectory(m_root / std::to_string(file.nVersion));
         WriteFile(file.nVersion, file.strFile);
         CalendarSettings settings;
-        bool bThrew = false;
         g_nAllocated = 0;
-        try {
-            settings.Load();
-        } catch (CArchiveException* pException) {
-            bThrew = true;
-            pException->Delete();
-        }
+        const Outcome outcome = Load(settings, ZebrikUtils::GetCalendarSettingsPath(file.nVersion));
         const std::size_t nAllocated = g_nAllocated;
-        EXPECT_TRUE(bThrew) << file.szWhat;
+        EXPECT_EQ(outcome, Outcome::EndOfFile) << file.szWhat;
         EXPECT_LT(nAllocated, 16 * file.strFile.size() + 64 * 1024) << file.szWhat;
     }
 }
 
+// In longer forms than need be, and of 16-bit characters.
 TEST_F(HostileFile, BringsTextsOfEveryForm)
 {
     const std::string strWide("F\0o\0u\0r\0", 8);
-    const DateRecord date{.strDesc = ""};
-    const FileBytes beforeText = FileBytes().Date(date);
-    const std::string strBeforeLength =
-        static_cast<const std::string&>(beforeText).substr(0, beforeText.Size() - 1);
+    const std::string strLong(0xFFFE, 'x');
+    std::string strLongWide;
+    for (const char ch : strLong)
+        strLongWide.append({ch, '\0'});
     const struct
     {
         std::string text;
-        const char* szDesc;
+        std::string strDesc;
     } texts[] = {
-        {FileBytes().U8(255).U16(4).Raw("Four"), "Four"}, // longer forms than need be
+        {FileBytes().U8(255).U16(4).Raw("Four"), "Four"},
         {FileBytes().U8(255).U16(0xFFFF).U32(4).Raw("Four"), "Four"},
         {FileBytes().U8(255).U16(0xFFFF).U32(0xFFFFFFFF).U64(4).Raw("Four"), "Four"},
         {FileBytes().U8(255).U16(0xFFFE).U8(4).Raw(strWide), "Four"},
         {FileBytes().U8(255).U16(0xFFFE).U8(255).U16(4).Raw(strWide), "Four"},
+        {FileBytes().U8(255).U16(0xFFFE).U8(255).U16(0xFFFE).Raw(strLongWide), strLong},
         {FileBytes().U8(255).U16(0xFFFE).U8(0), ""},
     };
     for (const auto& c : texts) {
-        FileBytes file = NationalSections().U16(3).U64(1).Raw(strBeforeLength).Raw(c.text);
-        WriteFile(4, file.U16(1).U8(1).U32(0).ToDo({}).U32(1));
+        WriteFile(4, UpToText().Raw(c.text).U16(1).U8(1).U32(0).ToDo({}).U32(1));
         CalendarSettings settings;
         ASSERT_EQ(Load(settings), Outcome::Loaded);
-        EXPECT_EQ(settings.GetAt(GroupCustom, 0)->m_strDesc, c.szDesc);
+        EXPECT_TRUE(settings.GetAt(GroupCustom, 0)->m_strDesc == c.strDesc.c_str());
     }
 }
