@@ -4,14 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <limits>
 #include <string>
 #include <vector>
 
 namespace {
-
-using Occurrence = DateEntry::OCCURRENCE;
 
 // The dates of a year on which the entry matches, as "month-day".
 std::vector<std::string> MatchesIn(const DateEntry& entry, int nYear)
@@ -25,32 +22,23 @@ std::vector<std::string> MatchesIn(const DateEntry& entry, int nYear)
     return dates;
 }
 
-DateEntry Fixed(int nDay, int nMonth, bool bRuleFlag = false)
+constexpr auto fixed = &DateEntry::SetDay;
+constexpr auto weekday = &DateEntry::SetDayOfWeek;
+constexpr auto nearDay = &DateEntry::SetBeforeAfterDay;
+constexpr auto nearWeekday = &DateEntry::SetBeforeAfterDayOfWeek;
+
+template <class Setter, class... Args>
+DateEntry Make(Setter setter, Args... args)
 {
     DateEntry entry;
-    entry.SetDay("x", nDay, nMonth);
-    entry.m_bRuleFlag = bRuleFlag;
+    (entry.*setter)("x", args...);
     return entry;
 }
 
-DateEntry Weekday(Occurrence occurrence, int nDayOfWeek, int nMonth)
+DateEntry WorkingDay(int nDay, int nMonth)
 {
-    DateEntry entry;
-    entry.SetDayOfWeek("x", occurrence, nDayOfWeek, nMonth);
-    return entry;
-}
-
-DateEntry NearDay(int nDay, int nMonth, int nSigned)
-{
-    DateEntry entry;
-    entry.SetBeforeAfterDay("x", nDay, nMonth, nSigned);
-    return entry;
-}
-
-DateEntry NearWeekday(Occurrence occurrence, int nDayOfWeek, int nMonth, int nSigned)
-{
-    DateEntry entry;
-    entry.SetBeforeAfterDayOfWeek("x", occurrence, nDayOfWeek, nMonth, nSigned);
+    DateEntry entry = Make(fixed, nDay, nMonth);
+    entry.m_bRuleFlag = true;
     return entry;
 }
 
@@ -59,37 +47,36 @@ DateEntry NearWeekday(Occurrence occurrence, int nDayOfWeek, int nMonth, int nSi
 TEST(DateEntry, MatchesTheDatesOfItsRule)
 {
     using enum DateEntry::OCCURRENCE;
-    using Dates = std::vector<std::string>;
     const struct
     {
         const char* szWhat;
         DateEntry entry;
         int nYear;
-        Dates dates;
+        std::vector<std::string> dates;
     } cases[] = {
         {"blank", DateEntry(), 2026, {}},
-        {"fixed", Fixed(4, 7), 2026, {"7-4"}},
-        {"leap day in a leap year", Fixed(29, 2), 2024, {"2-29"}},
-        {"leap day in a common year", Fixed(29, 2), 2026, {}},
-        {"working day: itself", Fixed(16, 10, true), 2026, {"10-16"}},
-        {"working day: Saturday to Friday", Fixed(16, 10, true), 2027, {"10-15"}},
-        {"working day: Sunday to Monday", Fixed(16, 10, true), 2022, {"10-17"}},
-        {"working day of another month", Fixed(1, 8, true), 2026, {"7-31"}},
-        {"working day that would be last year's", Fixed(1, 1, true), 2022, {}},
-        {"Monday before a Monday", NearDay(25, 5, -2), 2026, {"5-18"}},
-        {"Monday before a Tuesday", NearDay(25, 5, -2), 2027, {"5-24"}},
-        {"Monday after a Monday", NearDay(25, 5, 2), 2026, {"6-1"}},
-        {"Sunday before a Monday", NearDay(25, 5, -1), 2026, {"5-24"}},
-        {"Wednesday before the last Friday", NearWeekday(OCCURRENCE_LAST, 6, 4, -4), 2026, {"4-22"}},
-        {"Sunday after the first Monday", NearWeekday(OCCURRENCE_FIRST, 2, 9, 1), 2026, {"9-13"}},
-        {"Tuesday after the first Monday", NearWeekday(OCCURRENCE_FIRST, 2, 11, 3), 2026, {"11-3"}},
-        {"Saturday before the first Sunday", NearWeekday(OCCURRENCE_FIRST, 1, 3, -7), 2026, {"2-28"}},
-        {"Friday after the last Thursday", NearWeekday(OCCURRENCE_LAST, 5, 4, 6), 2026, {"5-1"}},
-        {"picked in the next year", NearDay(28, 12, 1), 2025, {}},
-        {"picked in the year before", NearDay(1, 1, -2), 2026, {}},
-        {"a fourth week that 1582 lacked", Weekday(OCCURRENCE_FOURTH, 6, 10), 1582, {}},
-        {"the last one all the same", Weekday(OCCURRENCE_LAST, 6, 10), 1582, {"10-29"}},
-        {"the second, over the gap", Weekday(OCCURRENCE_SECOND, 6, 10), 1582, {"10-22"}},
+        {"fixed", Make(fixed, 4, 7), 2026, {"7-4"}},
+        {"leap day in a leap year", Make(fixed, 29, 2), 2024, {"2-29"}},
+        {"leap day in a common year", Make(fixed, 29, 2), 2026, {}},
+        {"working day: itself", WorkingDay(16, 10), 2026, {"10-16"}},
+        {"working day: Saturday to Friday", WorkingDay(16, 10), 2027, {"10-15"}},
+        {"working day: Sunday to Monday", WorkingDay(16, 10), 2022, {"10-17"}},
+        {"working day of another month", WorkingDay(1, 8), 2026, {"7-31"}},
+        {"working day that would be last year's", WorkingDay(1, 1), 2022, {}},
+        {"Monday before a Monday", Make(nearDay, 25, 5, -2), 2026, {"5-18"}},
+        {"Monday before a Tuesday", Make(nearDay, 25, 5, -2), 2027, {"5-24"}},
+        {"Monday after a Monday", Make(nearDay, 25, 5, 2), 2026, {"6-1"}},
+        {"Sunday before a Monday", Make(nearDay, 25, 5, -1), 2026, {"5-24"}},
+        {"Wednesday before the last Friday", Make(nearWeekday, OCCURRENCE_LAST, 6, 4, -4), 2026, {"4-22"}},
+        {"Sunday after the first Monday", Make(nearWeekday, OCCURRENCE_FIRST, 2, 9, 1), 2026, {"9-13"}},
+        {"Tuesday after the first Monday", Make(nearWeekday, OCCURRENCE_FIRST, 2, 11, 3), 2026, {"11-3"}},
+        {"Saturday before the first Sunday", Make(nearWeekday, OCCURRENCE_FIRST, 1, 3, -7), 2026, {"2-28"}},
+        {"Friday after the last Thursday", Make(nearWeekday, OCCURRENCE_LAST, 5, 4, 6), 2026, {"5-1"}},
+        {"picked in the next year", Make(nearDay, 28, 12, 1), 2025, {}},
+        {"picked in the year before", Make(nearDay, 1, 1, -2), 2026, {}},
+        {"a fourth week that 1582 lacked", Make(weekday, OCCURRENCE_FOURTH, 6, 10), 1582, {}},
+        {"the last one all the same", Make(weekday, OCCURRENCE_LAST, 6, 10), 1582, {"10-29"}},
+        {"the second, over the gap", Make(weekday, OCCURRENCE_SECOND, 6, 10), 1582, {"10-22"}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(MatchesIn(c.entry, c.nYear), c.dates) << c.szWhat;
@@ -98,23 +85,18 @@ TEST(DateEntry, MatchesTheDatesOfItsRule)
 TEST(DateEntry, PicksEachWeekdayOfEachMonth)
 {
     using enum DateEntry::OCCURRENCE;
-    for (int nYear = 1990; nYear <= 2017; ++nYear) { // every shape of a year
-        for (int nMonth = 1; nMonth <= 12; ++nMonth) {
-            std::array<std::vector<std::string>, 8> byDayOfWeek;
-            for (DateTime date(nYear, nMonth, 1, 0, 0, 0); date.GetMonth() == nMonth; date.AddDays(1)) {
-                byDayOfWeek[static_cast<size_t>(date.GetDayOfWeek())].push_back(
-                    std::to_string(nMonth) + "-" + std::to_string(date.GetDay()));
-            }
+    for (DateTime date(1990, 1, 1, 0, 0, 0); date.GetYear() <= 2017;
+         date.AddDays(1)) { // every shape of a year
+        const int nYear = date.GetYear();
+        const int nMonth = date.GetMonth();
+        const int nDay = date.GetDay();
+        const bool bLast = nDay + 7 > DateTime::GetDaysInMonth(nYear, nMonth);
+        for (const auto occurrence :
+             {OCCURRENCE_FIRST, OCCURRENCE_SECOND, OCCURRENCE_THIRD, OCCURRENCE_FOURTH, OCCURRENCE_LAST}) {
+            const bool bPicked = occurrence == OCCURRENCE_LAST ? bLast : (nDay + 6) / 7 == occurrence;
             for (int nDayOfWeek = 1; nDayOfWeek <= 7; ++nDayOfWeek) {
-                const auto& days = byDayOfWeek[static_cast<size_t>(nDayOfWeek)];
-                for (const auto occurrence : {OCCURRENCE_FIRST, OCCURRENCE_SECOND, OCCURRENCE_THIRD,
-                                              OCCURRENCE_FOURTH, OCCURRENCE_LAST}) {
-                    const auto& expected = occurrence == OCCURRENCE_LAST
-                                               ? days.back()
-                                               : days[static_cast<size_t>(occurrence - 1)];
-                    ASSERT_EQ(MatchesIn(Weekday(occurrence, nDayOfWeek, nMonth), nYear),
-                              std::vector<std::string>{expected});
-                }
+                ASSERT_EQ(Make(weekday, occurrence, nDayOfWeek, nMonth).IsMatch(nDay, nMonth, nYear),
+                          bPicked && nDayOfWeek == date.GetDayOfWeek());
             }
         }
     }
@@ -138,7 +120,7 @@ TEST(DateEntry, HoldsInTheYearsOfItsKind)
     for (const auto& c : cases) {
         std::vector<int> years;
         for (int nYear = 2005; nYear <= 2008; ++nYear) {
-            DateEntry entry = Weekday(DateEntry::OCCURRENCE_SECOND, 1, 3);
+            DateEntry entry = Make(weekday, DateEntry::OCCURRENCE_SECOND, 1, 3);
             entry.m_nKind = c.nKind;
             entry.m_nStartYear = c.nStartYear;
             if (!MatchesIn(entry, nYear).empty())
@@ -151,45 +133,38 @@ TEST(DateEntry, HoldsInTheYearsOfItsKind)
 // What a damaged file may bring must be answered, by no and without harm.
 TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
 {
-    const int values[] = {std::numeric_limits<int>::min(), -8, -7, -1, 0, 1, 5, 7, 12, 31, 32,
-                          std::numeric_limits<int>::max()};
+    constexpr int kMin = std::numeric_limits<int>::min();
+    constexpr int kMax = std::numeric_limits<int>::max();
+    constexpr int kRules[] = {-1, 0, 1, 2, 3, 4, 5, kMax};
+    constexpr int kValues[] = {kMin, -8, -7, -1, 0, 1, 5, 7, 12, 31, 32, kMax};
     int nValid = 0;
-    for (const int nRule : {-1, 0, 1, 2, 3, 4, 5, 0x7FFFFFFF}) {
-        for (const int n0 : values) {
-            for (const int n1 : values) {
-                for (const int n2 : values) {
-                    DateEntry entry;
-                    entry.SetDesc("x");
-                    entry.m_nRuleWord = nRule;
-                    entry.m_bRuleFlag = true;
-                    entry.m_anRule[0] = n0;
-                    entry.m_anRule[1] = n1;
-                    entry.m_anRule[2] = n2;
-                    entry.m_anRule[3] = n2;
-                    bool bMatch = false;
-                    for (const int n : values)
-                        bMatch = entry.IsMatch(n, n, n) || bMatch;
-                    for (const int nYear : {1582, 9999})
-                        bMatch = !MatchesIn(entry, nYear).empty() || bMatch;
-                    nValid += entry.IsValid() ? 1 : 0;
-                    ASSERT_TRUE(entry.IsValid() || !bMatch) << nRule << ' ' << n0 << ' ' << n1 << ' ' << n2;
-                }
-            }
-        }
+    for (size_t i = 0; i < 8 * 12 * 12 * 12; ++i) {
+        DateEntry entry;
+        entry.SetDesc("x");
+        entry.m_bRuleFlag = true;
+        entry.m_nRuleWord = kRules[i % 8];
+        entry.m_anRule[0] = kValues[i / 8 % 12];
+        entry.m_anRule[1] = kValues[i / 96 % 12];
+        entry.m_anRule[2] = entry.m_anRule[3] = kValues[i / 1152];
+        bool bMatch = !MatchesIn(entry, 1582).empty() || !MatchesIn(entry, 9999).empty();
+        for (const int n : kValues)
+            bMatch = entry.IsMatch(n, n, n) || bMatch;
+        nValid += entry.IsValid() ? 1 : 0;
+        ASSERT_TRUE(entry.IsValid() || !bMatch) << i;
     }
     EXPECT_GT(nValid, 0);
-    EXPECT_FALSE(Fixed(1, 1, true).IsMatch(99, 1, 1)) << "the first day of all is a Saturday";
+    EXPECT_FALSE(WorkingDay(1, 1).IsMatch(99, 1, 1)) << "the first day of all is a Saturday";
 }
 
 TEST(DateEntry, IsValidWithADescriptionAndARule)
 {
     EXPECT_FALSE(DateEntry().IsValid());
-    EXPECT_TRUE(Fixed(29, 2).IsValid());
-    EXPECT_FALSE(Fixed(30, 2).IsValid());
-    EXPECT_TRUE(NearWeekday(DateEntry::OCCURRENCE_LAST, 6, 4, -4).IsValid());
-    EXPECT_FALSE(NearWeekday(DateEntry::OCCURRENCE_LAST, 6, 4, 0).IsValid());
+    EXPECT_TRUE(Make(fixed, 29, 2).IsValid());
+    EXPECT_FALSE(Make(fixed, 30, 2).IsValid());
+    EXPECT_TRUE(Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4).IsValid());
+    EXPECT_FALSE(Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, 0).IsValid());
 
-    DateEntry entry = Fixed(1, 1);
+    DateEntry entry = Make(fixed, 1, 1);
     entry.SetDesc("");
     EXPECT_FALSE(entry.IsValid());
     EXPECT_TRUE(entry.IsMatch(1, 1, 2026)) << "a description is all that is missing";
@@ -202,24 +177,19 @@ TEST(DateEntry, IsValidWithADescriptionAndARule)
 
 TEST(DateEntry, ReplacesItsRule)
 {
-    DateEntry entry = NearWeekday(DateEntry::OCCURRENCE_LAST, 6, 4, -4);
+    DateEntry entry = Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4);
     entry.SetDay("y", 4, 7);
     EXPECT_EQ(MatchesIn(entry, 2026), std::vector<std::string>{"7-4"});
     EXPECT_STREQ(entry.m_strDesc, "y");
 }
 
-TEST(CalendarDateEntry, StartsShownAndWhite)
+TEST(CalendarDateEntry, StartsShownAndWhiteAndNeedsOnlyADescriptionWhenCalculated)
 {
-    const CalendarDateEntry entry;
+    CalendarDateEntry entry;
     EXPECT_TRUE(entry.GetShow());
     EXPECT_FALSE(entry.GetCalculated());
     EXPECT_EQ(entry.GetColor(), 0xFFFFFFU);
     EXPECT_FALSE(entry.IsValid());
-}
-
-TEST(CalendarDateEntry, NeedsOnlyADescriptionWhenCalculated)
-{
-    CalendarDateEntry entry;
     entry.SetCalculated(true);
     EXPECT_FALSE(entry.IsValid());
     entry.SetDesc("x");

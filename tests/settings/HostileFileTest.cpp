@@ -201,32 +201,3 @@ TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
         EXPECT_LT(nAllocated, 16 * file.strFile.size() + 64 * 1024) << file.szWhat;
     }
 }
-
-// In longer forms than need be, and of 16-bit characters.
-TEST_F(HostileFile, BringsTextsOfEveryForm)
-{
-    const std::string strWide("F\0o\0u\0r\0", 8);
-    const std::string strLong(0xFFFE, 'x');
-    std::string strLongWide;
-    for (const char ch : strLong)
-        strLongWide.append({ch, '\0'});
-    const struct
-    {
-        std::string text;
-        std::string strDesc;
-    } texts[] = {
-        {FileBytes().U8(255).U16(4).Raw("Four"), "Four"},
-        {FileBytes().U8(255).U16(0xFFFF).U32(4).Raw("Four"), "Four"},
-        {FileBytes().U8(255).U16(0xFFFF).U32(0xFFFFFFFF).U64(4).Raw("Four"), "Four"},
-        {FileBytes().U8(255).U16(0xFFFE).U8(4).Raw(strWide), "Four"},
-        {FileBytes().U8(255).U16(0xFFFE).U8(255).U16(4).Raw(strWide), "Four"},
-        {FileBytes().U8(255).U16(0xFFFE).U8(255).U16(0xFFFE).Raw(strLongWide), strLong},
-        {FileBytes().U8(255).U16(0xFFFE).U8(0), ""},
-    };
-    for (const auto& c : texts) {
-        WriteFile(4, UpToText().Raw(c.text).U16(1).U8(1).U32(0).ToDo({}).U32(1));
-        CalendarSettings settings;
-        ASSERT_EQ(Load(settings), Outcome::Loaded);
-        EXPECT_TRUE(settings.GetAt(GroupCustom, 0)->m_strDesc == c.strDesc.c_str());
-    }
-}

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <stdexcept>
+#include <utility>
 
 using namespace std::string_literals;
 
@@ -37,6 +38,17 @@ protected:
         CArchive ar(&file, CArchive::load, 4096, nullptr);
         read(ar);
         ar.Close();
+    }
+
+    // A text that fills the file.
+    CString ReadText(const std::string& bytes)
+    {
+        CString text;
+        Read(bytes, [&text](CArchive& ar) {
+            ar >> text;
+            EXPECT_EQ(ar.GetBytesLeft(), 0u);
+        });
+        return text;
     }
 
     // The cause with which reading fails.
@@ -70,34 +82,24 @@ TEST_F(Archive, KeepsNumbersInTheirWidth)
               "\xFE\x34\x12\xEF\xCD\xAB\x89\xFE\xFF\xFF\xFF\xFD\xFF\xFF\xFF\x01\0\0\0\0\0\0\0\xFF\xFF"s);
 
     Read(bytes, [](CArchive& ar) {
-        BYTE b;
-        WORD w;
-        DWORD d;
-        int i;
-        LONG l;
-        ULONGLONG q;
-        short s;
-        ar >> b >> w >> d >> i >> l >> q >> s;
-        EXPECT_EQ(b, 0xFE);
-        EXPECT_EQ(w, 0x1234);
-        EXPECT_EQ(d, 0x89ABCDEFu);
-        EXPECT_EQ(i, -2);
-        EXPECT_EQ(l, -3);
-        EXPECT_EQ(q, 1u);
-        EXPECT_EQ(s, -1);
+        const auto next = [&ar](auto number) {
+            ar >> number;
+            return number;
+        };
+        EXPECT_EQ(next(BYTE()), 0xFE);
+        EXPECT_EQ(next(WORD()), 0x1234);
+        EXPECT_EQ(next(DWORD()), 0x89ABCDEFu);
+        EXPECT_EQ(next(int()), -2);
+        EXPECT_EQ(next(LONG()), -3);
+        EXPECT_EQ(next(ULONGLONG()), 1u);
+        EXPECT_EQ(next(short()), -1);
         EXPECT_EQ(ar.GetBytesLeft(), 0u);
     });
 }
 
-struct LengthCase
-{
-    std::size_t length;
-    std::string leadIn;
-};
-
 TEST_F(Archive, WritesTextsWithTheShortestLength)
 {
-    const LengthCase kCases[] = {
+    const std::pair<std::size_t, std::string> kCases[] = {
         {0, "\0"s},
         {254, "\xFE"s},
         {255, "\xFF\xFF\0"s},
@@ -106,54 +108,31 @@ TEST_F(Archive, WritesTextsWithTheShortestLength)
         {70000, "\xFF\xFF\xFF\x70\x11\x01\0"s},
     };
     for (const auto& [length, leadIn] : kCases) {
-        const std::string text(length, 'x');
-        const auto bytes = BytesOf([&text](CArchive& ar) { ar << CString(text); });
+        const CString text('x', static_cast<int>(length));
+        const auto bytes = BytesOf([&](CArchive& ar) { ar << text; });
         EXPECT_EQ(bytes.substr(0, leadIn.size()), leadIn) << length;
         EXPECT_EQ(bytes.size(), leadIn.size() + length);
-        Read(bytes, [&text](CArchive& ar) {
-            CString read;
-            ar >> read;
-            EXPECT_EQ(read, text.c_str()) << text.size();
-        });
+        EXPECT_TRUE(ReadText(bytes) == text) << length;
     }
 }
 
 TEST_F(Archive, ReadsEveryFormOfLength)
 {
-    const std::string kForms[] = {"\x02"s
-                                  "ab",
-                                  "\xFF\x02\0"s
-                                  "ab",
-                                  "\xFF\xFF\xFF\x02\0\0\0"s
-                                  "ab",
-                                  "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x02\0\0\0\0\0\0\0"s
-                                  "ab",
-                                  // Of 16-bit characters, with the length in each form.
-                                  "\xFF\xFE\xFF\x02"s
-                                  "a\0b\0"s,
-                                  "\xFF\xFE\xFF\xFF\x02\0"s
-                                  "a\0b\0"s,
-                                  "\xFF\xFE\xFF\xFF\xFF\xFF\x02\0\0\0"s
-                                  "a\0b\0"s};
-    for (const auto& form : kForms)
-        Read(form + "!", [](CArchive& ar) {
-            CString text;
-            char next;
-            ar >> text >> next;
-            EXPECT_EQ(text, "ab");
-            EXPECT_EQ(next, '!');
-        });
+    for (const auto& length : {"\x02"s, "\xFF\x02\0"s, "\xFF\xFF\xFF\x02\0\0\0"s,
+                               "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x02\0\0\0\0\0\0\0"s}) {
+        EXPECT_EQ(ReadText(length + "ab"), "ab");
+        EXPECT_EQ(ReadText("\xFF\xFE\xFF" + length + "a\0b\0"s), "ab") << "of 16-bit characters";
+    }
+    std::string wide;
+    for (int i = 0; i < 0xFFFE; ++i)
+        wide += "x\0"s;
+    EXPECT_TRUE(ReadText("\xFF\xFE\xFF\xFF\xFE\xFF" + wide) == CString('x', 0xFFFE))
+        << "the lead-in as a length";
 }
-
-struct CountCase
-{
-    ULONGLONG count;
-    std::string bytes;
-};
 
 TEST_F(Archive, CountsInThreeWidths)
 {
-    const CountCase kCases[] = {
+    const std::pair<ULONGLONG, std::string> kCases[] = {
         {0, "\0\0"s},
         {0xFFFE, "\xFE\xFF"s},
         {0xFFFF, "\xFF\xFF\xFF\xFF\0\0"s},
@@ -180,32 +159,24 @@ TEST_F(Archive, ListsOfTextsComeBackAndAppend)
 
 TEST_F(Archive, EndsEarlyWithAnExceptionAndWithoutTakingMemory)
 {
-    const auto readText = [](CArchive& ar) {
-        CString text;
-        ar >> text;
-    };
-    const auto readList = [](CArchive& ar) { CStringList().Serialize(ar); };
+    const std::string kBadTexts[] = {
+        ""s,
+        "\x03\x61\x62"s,
+        "\xFF"s,
+        "\xFF\xFF\xFF"s,
+        "\xFF\xFE\xFF"s,
+        "\xFF\xFF\xFF\xFE\xFF\xFF\xFF\x61"s,                             // 4 GB
+        "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"s, // more than there is
+        "\xFF\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x61"s,
+        "\xFF\xFE\xFF\x02\x61\0\x62"s};
+    for (const auto& bytes : kBadTexts)
+        EXPECT_EQ(CauseOf([&] { ReadText(bytes); }), CArchiveException::endOfFile) << bytes.size();
     const auto readNumber = [](CArchive& ar) {
         DWORD number;
         ar >> number;
     };
-    const std::string kBadTexts[] = {
-        ""s,
-        "\x03"s
-        "ab",
-        "\xFF"s,
-        "\xFF\xFF\xFF"s,
-        "\xFF\xFE\xFF"s,
-        "\xFF\xFF\xFF\xFE\xFF\xFF\xFF"s
-        "ab",                                                            // 4 GB
-        "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x7F"s, // more than there is
-        "\xFF\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF"s
-        "a",
-        "\xFF\xFE\xFF\x02"s
-        "a\0b"s};
-    for (const auto& bytes : kBadTexts)
-        EXPECT_EQ(CauseOf(bytes, readText), CArchiveException::endOfFile) << bytes.size();
     EXPECT_EQ(CauseOf("\x01\x02\x03", readNumber), CArchiveException::endOfFile);
+    const auto readList = [](CArchive& ar) { CStringList().Serialize(ar); };
     EXPECT_EQ(CauseOf("\xFF\xFF\xFF\xFF\xFF\x7F\x01z", readList), CArchiveException::endOfFile);
 }
 

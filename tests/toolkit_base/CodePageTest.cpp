@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -15,15 +16,9 @@ Units UnitsOf(const WideText& wide)
     return Units(wide.begin(), wide.end());
 }
 
-struct Utf8Case
-{
-    const char* text;
-    Units units;
-};
-
 TEST(CodePage, ConvertsUtf8BothWays)
 {
-    const Utf8Case kCases[] = {
+    const std::pair<const char*, Units> kCases[] = {
         {"", {}},
         {"Mei", {'M', 'e', 'i'}},
         {"\x7F\xC2\x80\xDF\xBF", {0x7F, 0x80, 0x7FF}},

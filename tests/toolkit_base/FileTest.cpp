@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 namespace {
 
@@ -70,13 +71,7 @@ TEST_F(File, OpeningFailsWithCauseAndPath)
 {
     m_directory.Write("file", "x");
     std::filesystem::create_directory(m_directory.PathOf("directory"));
-    struct Case
-    {
-        const char* name;
-        UINT flags;
-        int cause;
-    };
-    constexpr Case kCases[] = {
+    constexpr std::tuple<const char*, UINT, int> kCases[] = {
         {"missing.dat", CFile::modeRead, CFileException::fileNotFound},
         {"missing/a.dat", CFile::modeRead, CFileException::badPath},
         {"missing/a.dat", kCreate, CFileException::badPath},

@@ -32,18 +32,16 @@ TEST(Text, Finds)
     EXPECT_EQ(text.FindOneOf("cb"), 3);
 }
 
-struct ReplaceCase
-{
-    const char* text;
-    const char* oldText;
-    const char* newText;
-    int count;
-    const char* result;
-};
-
 TEST(Text, Replaces)
 {
-    constexpr ReplaceCase kCases[] = {
+    constexpr struct
+    {
+        const char* text;
+        const char* oldText;
+        const char* newText;
+        int count;
+        const char* result;
+    } kCases[] = {
         {"a&b&&c", "&", "&&", 3, "a&&b&&&&c"}, {"aaa", "aa", "b", 1, "ba"},
         {"abc", "x", "y", 0, "abc"},           {"abc", "", "y", 0, "abc"},
         {"a\r\nb", "\r\n", "", 1, "ab"},       {"", "a", "b", 0, ""},
