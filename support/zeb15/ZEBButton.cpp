@@ -1,6 +1,8 @@
 #include "ZEBButton.h"
 #include "GraphicsUtils.h"
 
+#include <WindowAccessible.h>
+
 namespace {
 constexpr int DEFAULT_FONT_HEIGHT = 15;
 constexpr int PADDING = 2;     // between the edge of the face and its content
@@ -37,6 +39,7 @@ BEGIN_MESSAGE_MAP(CZEBButton, CButton)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, &CZEBButton::OnMouseLeave)
+    ON_MESSAGE(WM_GETOBJECT, &CZEBButton::OnGetObject)
 END_MESSAGE_MAP()
 
 CZEBButton::CZEBButton()
@@ -222,4 +225,54 @@ void CZEBButton::RedrawIfCreated()
 {
     if (m_hWnd)
         Invalidate(FALSE);
+}
+
+// What a screen reader says of the button.
+class CZEBButton::Accessible final : public AccessibleOf<CZEBButton>
+{
+public:
+    using AccessibleOf::AccessibleOf;
+
+private:
+    // The caption; a button that has only an icon is named by its tip.
+    CString GetName(LONG) const override
+    {
+        CString strCaption;
+        GetWnd().GetWindowText(strCaption);
+        strCaption.Replace("&", "");
+        return strCaption.IsEmpty() ? AskTip() : strCaption;
+    }
+
+    // A button that is disabled in its regular looks only shows something.
+    LONG GetRole(LONG) const override
+    {
+        const bool bLabel = GetWnd().m_bRegularFontWhenDisabled && !GetWnd().IsWindowEnabled();
+        return bLabel ? ROLE_SYSTEM_STATICTEXT : ROLE_SYSTEM_PUSHBUTTON;
+    }
+
+    // Without caption and icon there is nothing to see.
+    LONG GetState(LONG) const override
+    {
+        const bool bBlank = GetWnd().m_eIcon == ZEBIcon::IconNone && GetWnd().GetWindowTextLength() == 0;
+        return GetWindowState() | (bBlank ? STATE_SYSTEM_INVISIBLE : 0);
+    }
+
+    CString GetAction(LONG) const override { return GetWnd().IsWindowEnabled() ? "Press" : ""; }
+    void DoAction(LONG) override { GetWnd().PostMessage(BM_CLICK); }
+
+    CString AskTip() const
+    {
+        TOOLTIPTEXTA tip{};
+        tip.hdr = {m_hWnd, reinterpret_cast<UINT_PTR>(m_hWnd), TTN_NEEDTEXTA};
+        tip.lpszText = tip.szText;
+        tip.uFlags = TTF_IDISHWND;
+        ::SendMessageA(::GetParent(m_hWnd), WM_NOTIFY, tip.hdr.idFrom, reinterpret_cast<LPARAM>(&tip));
+        return tip.lpszText;
+    }
+};
+
+LRESULT CZEBButton::OnGetObject(WPARAM wParam, LPARAM lParam)
+{
+    return WindowAccessible::IsAskedFor(lParam) ? WindowAccessible::HandOut(new Accessible(m_hWnd), wParam)
+                                                : Default();
 }

@@ -57,10 +57,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class Accessible;
+
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM, LPARAM);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 
     ShadeProps::State GetShadeState(UINT nItemState) const;
     COLORREF GetCaptionColor(bool bDisabled) const;

@@ -1,3 +1,4 @@
+#include "accessible_element.h"
 #include "focus.h"
 #include "hooks.h"
 #include "host_widget.h"
@@ -67,6 +68,7 @@ void forget(Window& window)
     discardMessagesOf(window);
     killTimersOf(window);
     forgetMouse(window);
+    forgetAccessible(window.handle);
     removeWindow(window);
     destroyHost(window);
 }

@@ -2,6 +2,7 @@
 #include "host_widget.h"
 #include "keyboard.h"
 #include "mouse.h"
+#include "oleacc.h"
 #include "surface.h"
 
 using namespace winapi;
@@ -113,6 +114,7 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
         return TRUE;
     case WM_SETTEXT:
         takeText(*window, reinterpret_cast<LPCSTR>(lParam));
+        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle, OBJID_CLIENT, CHILDID_SELF);
         return TRUE;
     case WM_GETTEXT:
         return giveText(*window, wParam, lParam);

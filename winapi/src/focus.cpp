@@ -2,6 +2,7 @@
 
 #include "hooks.h"
 #include "host_widget.h"
+#include "oleacc.h"
 
 #include <algorithm>
 
@@ -41,6 +42,8 @@ HWND moveFocus(HWND window)
     state().focus = window;
     if (IsWindow(old))
         SendMessageA(old, WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
+    if (state().focus == window)
+        NotifyWinEvent(EVENT_OBJECT_FOCUS, window, OBJID_CLIENT, CHILDID_SELF);
     // The window that lost it may have given it to another.
     if (window && state().focus == window && IsWindow(window))
         SendMessageA(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(old), 0);

@@ -1,5 +1,6 @@
 #include "host_widget.h"
 
+#include "accessible_element.h"
 #include "application.h"
 #include "focus.h"
 #include "keyboard.h"
@@ -299,6 +300,7 @@ HostWidget& hostOf(Window& root)
 {
     if (!root.host) {
         application();
+        installAccessibility();
         root.host = new HostWidget(root);
     }
     return *root.host;

@@ -13,6 +13,7 @@ public:
     explicit HostWidget(Window& window);
     ~HostWidget() override;
 
+    WindowPtr served() const { return findWindow(m_handle); }
     bool isEmbedded() const { return !isWindow(); }
     QPoint screenOrigin() const;
 
@@ -47,7 +48,6 @@ protected:
     bool focusNextPrevChild(bool) override { return false; } // Tab is a key like any other
 
 private:
-    WindowPtr served() const { return findWindow(m_handle); }
     void takePlace();
 
     HWND m_handle;

@@ -4,6 +4,8 @@
 #include "MonthBlock.h"
 #include "resource.h"
 
+#include <oleacc.h>
+
 const unsigned int CCalendarWnd::CALWND_ONSELCHANGE =
     ::RegisterWindowMessageA("02DCA7F3-3BA7-4355-8307-672F728EC143");
 const unsigned int CCalendarWnd::CALWND_ONNODATE =
@@ -26,6 +28,7 @@ ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
 ON_WM_KEYDOWN()
 ON_WM_MOUSEWHEEL()
+ON_MESSAGE(WM_GETOBJECT, &CCalendarWnd::OnGetObject)
 ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CCalendarWnd::OnToolTipNotify)
 ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 0, 0xFFFF, &CCalendarWnd::OnToolTipNotify)
 

@@ -87,6 +87,8 @@ public:
     static void EnableToDoList();
 
 protected:
+    class Accessible;
+
     enum ButtonId : UINT
     {
         PrevYearButtonId = 2600,
@@ -167,6 +169,12 @@ protected:
     // What a tip of a step button says, in which month and year a press leads.
     CString GetStepTip(int nButtonId) const;
 
+    // What screen readers are told. An item is a cell, counted from 1; 0 stands for the control.
+    CString GetDayName(int nCell) const;
+    LONG GetSelectedItem() const;
+    void AnnounceSelection() const;
+    void AnnounceMonth() const;
+
     // Options.
     void FilterOptionsMenu(HMENU hMenu) const;
     void ShowDateRange(RangeBase base, RangeUnit unit, int nCount);
@@ -183,6 +191,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     BOOL OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt); // no message leads here
     afx_msg BOOL OnToolTipNotify(UINT id, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 
     afx_msg void OnPreviousYearButton();
     afx_msg void OnNextYearButton();

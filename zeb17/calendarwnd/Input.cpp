@@ -50,6 +50,7 @@ void CCalendarWnd::SelectShownDay(int nDay, const MonthBlock::Place& place)
     m_date.SetDate(m_date.GetYear(), m_date.GetMonth(), nDay);
     NotifyParentWnd(CALWND_ONSELCHANGE, false);
     MoveSelectionRect(GetCellRect(place));
+    AnnounceSelection();
 }
 
 // `nOffset` counts from day 1 of the month shown, which has `nDays` days.
@@ -62,6 +63,7 @@ void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
     date.Set(m_date.GetYear(), m_date.GetMonth(), nAnchor, 0, 0, 0);
     date.AddDays(nAway);
     ShowDate(date);
+    AnnounceSelection();
     NotifyParentWnd(CALWND_ONSELCHANGE, false);
 }
 
@@ -157,6 +159,7 @@ void CCalendarWnd::SelectInMonth(void (DateTime::*pSet)())
     (m_date.*pSet)();
     NotifyParentWnd(CALWND_ONSELCHANGE, true);
     MoveSelectionRect(CRect());
+    AnnounceSelection();
 }
 
 // A step out of the range of dates leaves the date where it is.
@@ -170,6 +173,7 @@ void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
         InvalidateGrid();
     } else
         MoveSelectionRect(CRect());
+    AnnounceSelection();
     NotifyParentWnd(CALWND_ONSELCHANGE, true);
 }
 
@@ -203,6 +207,7 @@ BOOL CCalendarWnd::OnSetCursor(CWnd*, UINT, UINT)
 void CCalendarWnd::OnSetFocus(CWnd* pOldWnd)
 {
     CWnd::OnSetFocus(pOldWnd);
+    AnnounceSelection();
     if (m_rcSelection.IsRectEmpty())
         return;
     InvalidateSelection();

@@ -76,6 +76,11 @@ constexpr Place PlaceOfCell(int nCell)
     return {2 + nCell / kColumns, nCell % kColumns + 1};
 }
 
+constexpr int CellOfPlace(Place place)
+{
+    return (place.nRow - 2) * kColumns + place.nColumn - 1;
+}
+
 // What cell 0 to 41 shows. No cell is ever blank.
 constexpr Cell CellAt(const Shape& shape, int nCell)
 {

@@ -47,6 +47,7 @@ void CCalendarWnd::SetDate(const DateTime& date)
 {
     m_bHaveDate = date.IsValid();
     ShowDate(m_bHaveDate ? date : Now());
+    AnnounceSelection();
     if (m_bHaveDate)
         NotifyParentWnd(CALWND_ONSELCHANGE, true);
 }
@@ -117,6 +118,7 @@ void CCalendarWnd::NotifyAndRefresh()
         NotifyParentWnd(CALWND_ONSELCHANGE, true);
     RefreshMonth();
     InvalidateGrid();
+    AnnounceSelection();
 }
 
 void CCalendarWnd::OnTodayButton()
@@ -125,6 +127,7 @@ void CCalendarWnd::OnTodayButton()
     if (!m_date.IsToday())
         ShowDate(Now());
     SetFocus();
+    AnnounceSelection();
     NotifyParentWnd(CALWND_ONSELCHANGE, true);
 }
 
@@ -134,6 +137,7 @@ void CCalendarWnd::OnClearButton()
     if (!m_bAllowNoDate)
         return;
     m_bHaveDate = false;
+    AnnounceSelection();
     if (m_rcSelection.IsRectEmpty())
         return;
     try {
@@ -153,12 +157,14 @@ void CCalendarWnd::ReloadSpecialDates()
     m_settings.Load();
     DetermineSpecialDays();
     InvalidateGrid();
+    AnnounceMonth();
 }
 
 void CCalendarWnd::RefreshMonth()
 {
     UpdateMonthYearText();
     DetermineSpecialDays();
+    AnnounceMonth();
 }
 
 void CCalendarWnd::UpdateMonthYearText()

@@ -1,0 +1,52 @@
+// The text and the variants of calls on objects.
+#include "oleauto.h"
+
+#include <cstdlib>
+#include <string>
+
+// The length in bytes stands before the characters, a null behind them.
+BSTR SysAllocStringLen(const OLECHAR* text, UINT length)
+{
+    const DWORD bytes = length * static_cast<DWORD>(sizeof(OLECHAR));
+    auto* const memory = static_cast<char*>(std::calloc(1, sizeof bytes + bytes + sizeof(OLECHAR)));
+    if (!memory)
+        return nullptr;
+    std::memcpy(memory, &bytes, sizeof bytes);
+    if (text)
+        std::memcpy(memory + sizeof bytes, text, bytes);
+    return reinterpret_cast<BSTR>(memory + sizeof bytes);
+}
+
+BSTR SysAllocString(const OLECHAR* text)
+{
+    return text ? SysAllocStringLen(text, static_cast<UINT>(std::char_traits<OLECHAR>::length(text))) : nullptr;
+}
+
+void SysFreeString(BSTR text)
+{
+    if (text)
+        std::free(reinterpret_cast<char*>(text) - sizeof(DWORD));
+}
+
+UINT SysStringLen(BSTR text)
+{
+    DWORD bytes = 0;
+    if (text)
+        std::memcpy(&bytes, reinterpret_cast<const char*>(text) - sizeof bytes, sizeof bytes);
+    return bytes / static_cast<DWORD>(sizeof(OLECHAR));
+}
+
+void VariantInit(VARIANT* variant)
+{
+    *variant = {};
+}
+
+HRESULT VariantClear(VARIANT* variant)
+{
+    if (variant->vt == VT_BSTR)
+        SysFreeString(variant->bstrVal);
+    else if (variant->vt == VT_DISPATCH && variant->pdispVal)
+        variant->pdispVal->Release();
+    VariantInit(variant);
+    return S_OK;
+}

@@ -1,0 +1,146 @@
+// What a screen reader says of the control. Its items are the 42 days; the buttons speak for themselves.
+
+#include "CalendarWnd.h"
+
+#include "CalendarTexts.h"
+#include "DownArrowButton.h"
+#include "MonthBlock.h"
+
+#include <LocaleUtils.h>
+#include <StringUtils.h>
+#include <WindowAccessible.h>
+
+namespace {
+
+// The item of cell 0 to 41.
+constexpr LONG ItemOfCell(int nCell)
+{
+    return nCell + 1;
+}
+
+constexpr int CellOfItem(LONG nItem)
+{
+    return static_cast<int>(nItem) - 1;
+}
+
+CString FormatDay(const DateTime& date)
+{
+    if (!date.IsValid()) // beyond the first or the last date there is
+        return "";
+    return LocaleUtils::FormatDate(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetDayOfWeek(), false);
+}
+
+}
+
+class CCalendarWnd::Accessible final : public AccessibleOf<CCalendarWnd>
+{
+public:
+    using AccessibleOf::AccessibleOf;
+
+private:
+    LONG GetItemCount() const override
+    {
+        return GetWnd().m_date.IsValid() && !GetWnd().m_vRowEdges.empty() ? MonthBlock::kCells : 0;
+    }
+
+    CString GetName(LONG nItem) const override
+    {
+        if (nItem != CHILDID_SELF)
+            return GetWnd().GetDayName(CellOfItem(nItem));
+        CString strTitle;
+        GetWnd().m_pMonthYearButton->GetWindowText(strTitle);
+        return strTitle;
+    }
+
+    LONG GetRole(LONG nItem) const override
+    {
+        return nItem == CHILDID_SELF ? ROLE_SYSTEM_TABLE : ROLE_SYSTEM_CELL;
+    }
+
+    LONG GetState(LONG nItem) const override
+    {
+        const LONG nSelected = GetSelectedItem();
+        if (nItem == CHILDID_SELF)
+            return GetWindowState() & ~(nSelected != 0 ? STATE_SYSTEM_FOCUSED : 0);
+        LONG nState = GetWindowState() | STATE_SYSTEM_SELECTABLE;
+        return nItem == nSelected ? nState | STATE_SYSTEM_SELECTED : nState & ~STATE_SYSTEM_FOCUSED;
+    }
+
+    CRect GetItemRect(LONG nItem) const override
+    {
+        return GetWnd().GetCellRect(MonthBlock::PlaceOfCell(CellOfItem(nItem)));
+    }
+
+    LONG GetItemAt(CPoint point) const override
+    {
+        if (GetItemCount() == 0)
+            return CHILDID_SELF;
+        const auto place =
+            MonthBlock::PlaceAt(GetWnd().m_vRowEdges, GetWnd().m_vColumnEdges, point.x, point.y);
+        return place ? ItemOfCell(MonthBlock::CellOfPlace(*place)) : CHILDID_SELF;
+    }
+
+    LONG GetSelectedItem() const override { return GetWnd().GetSelectedItem(); }
+
+    CString GetAction(LONG nItem) const override
+    {
+        return nItem != CHILDID_SELF ? StringUtils::DecryptText(CalendarTexts::SelectDay) : CString();
+    }
+
+    void DoAction(LONG nItem) override
+    {
+        const CPoint point = GetItemRect(nItem).CenterPoint();
+        const LPARAM lParam = MAKELPARAM(point.x, point.y);
+        ::SendMessageA(m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, lParam);
+        ::SendMessageA(m_hWnd, WM_LBUTTONUP, 0, lParam);
+    }
+};
+
+LRESULT CCalendarWnd::OnGetObject(WPARAM wParam, LPARAM lParam)
+{
+    return WindowAccessible::IsAskedFor(lParam) ? WindowAccessible::HandOut(new Accessible(m_hWnd), wParam)
+                                                : Default();
+}
+
+// The date in full, whether it is today, and what is special about it.
+CString CCalendarWnd::GetDayName(int nCell) const
+{
+    DateTime date = m_date;
+    date.SetDay(1);
+    date.AddDays(nCell + 1 - MonthBlock::FirstColumn(date.GetDayOfWeek(), LocaleUtils::GetFirstDayOfWeek()));
+    CString strName = FormatDay(date);
+    if (nCell == m_nTodayCell) {
+        CString strToday = StringUtils::DecryptText(CalendarTexts::Today);
+        strToday.Replace("&", "");
+        strName += ", " + strToday;
+    }
+    CString strDesc = m_vDayDescs[static_cast<std::size_t>(nCell)];
+    strDesc.Replace("\r\n", ", ");
+    return strDesc.IsEmpty() ? strName : strName + ", " + strDesc;
+}
+
+LONG CCalendarWnd::GetSelectedItem() const
+{
+    const std::optional<MonthBlock::Shape> shape = MonthBlock::ShapeOf(m_date);
+    if (!m_bHaveDate || !shape || m_vRowEdges.empty())
+        return CHILDID_SELF;
+    return ItemOfCell(MonthBlock::CellOfPlace(MonthBlock::PlaceOfDay(shape->nFirstColumn, m_date.GetDay())));
+}
+
+void CCalendarWnd::AnnounceSelection() const
+{
+    const LONG nItem = GetSelectedItem();
+    if (::GetFocus() == m_hWnd)
+        ::NotifyWinEvent(EVENT_OBJECT_FOCUS, m_hWnd, OBJID_CLIENT, nItem);
+    ::NotifyWinEvent(EVENT_OBJECT_SELECTION, m_hWnd, OBJID_CLIENT, nItem);
+}
+
+// With the days the names of the control and of its step buttons are others.
+void CCalendarWnd::AnnounceMonth() const
+{
+    ::NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+    ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+    for (const CZEBButton* const pButton :
+         {m_pPrevYearButton, m_pNextYearButton, m_pPrevMonthButton, m_pNextMonthButton})
+        ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, pButton->GetSafeHwnd(), OBJID_CLIENT, CHILDID_SELF);
+}
