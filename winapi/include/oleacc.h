@@ -66,8 +66,8 @@ struct IAccessible : IDispatch
 #define STATE_SYSTEM_FOCUSABLE 0x00100000
 #define STATE_SYSTEM_SELECTABLE 0x00200000
 
-// The reference that an object goes by in the answer to WM_GETOBJECT, and back; each such answer is to be taken
-// back once.
+// The reference that an object goes by in the answer to WM_GETOBJECT, and back; each such answer is to be
+// taken back once.
 WINUSERAPI LRESULT WINAPI LresultFromObject(REFIID id, WPARAM wParam, IUnknown* object);
 WINUSERAPI HRESULT WINAPI ObjectFromLresult(LRESULT result, REFIID id, WPARAM wParam, void** object);
 

@@ -217,7 +217,8 @@ public:
 
     void* interface_cast(QAccessible::InterfaceType type) override
     {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                    : nullptr;
     }
     QStringList actionNames() const override
     {
@@ -307,6 +308,13 @@ public:
         QAccessibleInterface* const element = accessibleOf(*focus);
         QAccessibleInterface* const item = element ? element->focusChild() : nullptr;
         return item ? item : element;
+    }
+    // The focus of the widget is the window's own, unless a child has it.
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = state.focused && !focusChild();
+        return state;
     }
 
 private:

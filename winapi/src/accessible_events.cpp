@@ -31,15 +31,33 @@ void tell(QAccessibleInterface* element, QAccessible::Event event)
     QAccessible::updateAccessibility(&news);
 }
 
+struct Selection
+{
+    HWND window = nullptr;
+    LONG item = CHILDID_SELF;
+};
+
+Selection& lastSelection()
+{
+    static Selection last;
+    return last;
+}
+
 // One item of a window is selected at a time: the one before it no longer is.
 void tellSelection(Window& window, LONG item)
 {
-    static std::pair<HWND, LONG> last;
-    const auto before = std::exchange(last, {window.handle, item});
-    if (before.first == window.handle && before.second != item && before.second != CHILDID_SELF)
-        tell(accessibleOf(window, before.second), QAccessible::SelectionRemove);
+    const Selection before = std::exchange(lastSelection(), {window.handle, item});
+    if (before.window == window.handle && before.item != item && before.item != CHILDID_SELF)
+        tell(accessibleOf(window, before.item), QAccessible::SelectionRemove);
     if (item != CHILDID_SELF)
         tell(accessibleOf(window, item), QAccessible::SelectionAdd);
+}
+
+void forgetItems(HWND window)
+{
+    forgetAccessibleItems(window);
+    if (lastSelection().window == window)
+        lastSelection() = {};
 }
 
 void tellDesktop(DWORD event, Window& window, LONG item)
@@ -49,7 +67,7 @@ void tellDesktop(DWORD event, Window& window, LONG item)
     };
     switch (event) {
     case EVENT_OBJECT_REORDER:
-        forgetAccessibleItems(window.handle);
+        forgetItems(window.handle);
         break;
     case EVENT_OBJECT_FOCUS:
         tell(element(), QAccessible::Focus);

@@ -19,7 +19,8 @@ BSTR SysAllocStringLen(const OLECHAR* text, UINT length)
 
 BSTR SysAllocString(const OLECHAR* text)
 {
-    return text ? SysAllocStringLen(text, static_cast<UINT>(std::char_traits<OLECHAR>::length(text))) : nullptr;
+    return text ? SysAllocStringLen(text, static_cast<UINT>(std::char_traits<OLECHAR>::length(text)))
+                : nullptr;
 }
 
 void SysFreeString(BSTR text)

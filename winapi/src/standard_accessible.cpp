@@ -73,9 +73,9 @@ QString labelOf(const Window& window)
 {
     const auto& siblings = window.parent->children;
     const auto self = std::find(siblings.begin(), siblings.end(), &window);
-    const auto label = std::find_if(std::make_reverse_iterator(self), siblings.rend(), [](const Window* sibling) {
-        return kindOf(*sibling).role == ROLE_SYSTEM_STATICTEXT;
-    });
+    const auto label =
+        std::find_if(std::make_reverse_iterator(self), siblings.rend(),
+                     [](const Window* sibling) { return kindOf(*sibling).role == ROLE_SYSTEM_STATICTEXT; });
     return label == siblings.rend() ? QString() : textOf((*label)->handle);
 }
 

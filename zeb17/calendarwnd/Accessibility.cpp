@@ -27,7 +27,8 @@ CString FormatDay(const DateTime& date)
 {
     if (!date.IsValid()) // beyond the first or the last date there is
         return "";
-    return LocaleUtils::FormatDate(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetDayOfWeek(), false);
+    return LocaleUtils::FormatDate(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetDayOfWeek(),
+                                   false);
 }
 
 }

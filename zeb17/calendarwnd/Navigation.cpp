@@ -126,8 +126,8 @@ void CCalendarWnd::OnTodayButton()
     m_bHaveDate = true;
     if (!m_date.IsToday())
         ShowDate(Now());
-    SetFocus();
     AnnounceSelection();
+    SetFocus();
     NotifyParentWnd(CALWND_ONSELCHANGE, true);
 }
 
