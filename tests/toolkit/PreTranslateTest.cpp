@@ -13,6 +13,7 @@ public:
 
     bool m_keep = false;
     bool m_throw = false;
+    bool m_dialog = false;
 
     BOOL PreTranslateMessage(MSG* pMsg) override
     {
@@ -21,7 +22,7 @@ public:
         if (m_throw)
             AfxThrowResourceException();
         m_log.push_back(m_name);
-        return m_keep || CWnd::PreTranslateMessage(pMsg);
+        return m_dialog ? ::IsDialogMessageA(m_hWnd, pMsg) : m_keep || CWnd::PreTranslateMessage(pMsg);
     }
 
 protected:
@@ -140,6 +141,15 @@ TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
     EXPECT_THAT(TakeLog(), ElementsAre());
     m_leaf.m_throw = true;
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER)) << "no exception crosses the filter";
+}
+
+TEST_F(PreTranslate, OffersAMessageOnceThoughADialogHandsItToTheFilter)
+{
+    ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE));
+    m_middle.m_dialog = true;
+    MSG message = MakeMessage();
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
+    EXPECT_THAT(m_log, ElementsAre("leaf", "middle", "leaf got it"));
 }
 
 TEST_F(PreTranslate, TemporaryObjectsEndWithoutTheirWindows)

@@ -62,7 +62,7 @@ static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam) no
 {
     ThreadState& state = ThreadState::Current();
     auto* message = reinterpret_cast<MSG*>(lParam);
-    if (code == MSGF_USER || code == MSGF_DIALOGBOX) {
+    if ((code == MSGF_USER || code == MSGF_DIALOGBOX) && !MessageOffer::IsAtHand(*message)) {
         if (GuardFromExceptions(*message, [=] { return AfxPreTranslateMessage(message); }))
             return TRUE;
         if (code == MSGF_USER && state.depth == 0)

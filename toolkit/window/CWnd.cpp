@@ -236,8 +236,8 @@ void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
 {
     const MSG& message = *GetCurrentMessage();
     LRESULT result = 0;
-    if (lpMeasureItemStruct->CtlType != ODT_MENU && ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM,
-                                                                   message.wParam, message.lParam, &result))
+    if (lpMeasureItemStruct->CtlType != ODT_MENU &&
+        ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM, message.wParam, message.lParam, &result))
         return;
     Default();
 }
@@ -273,6 +273,7 @@ const MSG* CWnd::GetCurrentMessage()
 
 BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 {
+    const MessageOffer offer(*pMsg);
     for (HWND hWnd = pMsg->hwnd; hWnd; hWnd = ::GetParent(hWnd)) {
         CWnd* window = FromHandlePermanent(hWnd);
         if (window && window->PreTranslateMessage(pMsg))

@@ -24,6 +24,14 @@ private:
 };
 }
 
+bool MessageOffer::IsAtHand(const MSG& message)
+{
+    const MSG* const offered = ThreadState::Current().offered;
+    return offered && offered->hwnd == message.hwnd && offered->message == message.message &&
+           offered->wParam == message.wParam && offered->lParam == message.lParam &&
+           offered->time == message.time;
+}
+
 LRESULT CALLBACK CWnd::Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     CWnd* window = FromHandlePermanent(hWnd);

@@ -41,5 +41,6 @@ struct ThreadState
     CWnd* creating = nullptr; ///< the object that waits for the handle of its window
     LPCSTR creatingClass = nullptr;
     HHOOK messageFilter = nullptr;
-    SharedToolTip toolTip; ///< after the maps, which its end still uses
+    const MSG* offered = nullptr; ///< the message that is being offered to windows
+    SharedToolTip toolTip;        ///< after the maps, which its end still uses
 };

@@ -33,6 +33,26 @@ inline WNDPROC SetWindowProcedure(HWND hWnd, WNDPROC procedure)
         ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
+/// While it lives, its message is the one that is being offered to windows.
+class MessageOffer
+{
+public:
+    explicit MessageOffer(const MSG& message)
+        : m_before(std::exchange(ThreadState::Current().offered, &message))
+    {
+    }
+    ~MessageOffer() { ThreadState::Current().offered = m_before; }
+    MessageOffer(const MessageOffer&) = delete;
+    MessageOffer& operator=(const MessageOffer&) = delete;
+
+    /// Whether it is this message: one that is handed to IsDialogMessage by who was offered it comes by once
+    /// more.
+    static bool IsAtHand(const MSG& message);
+
+private:
+    const MSG* m_before;
+};
+
 /// While it lives, the next window created of the class becomes the object's, before its first message.
 class CreationHook
 {
