@@ -16,6 +16,9 @@ void installAccessibility();
 QAccessibleInterface* accessibleOf(Window& window);
 QAccessibleInterface* accessibleOf(Window& window, LONG item);
 
+// Tells of the window or item below the widget that has the focus, if one has.
+void tellFocusBelow(QWidget& host);
+
 // The items are others now, or the window is gone.
 void forgetAccessibleItems(HWND window);
 void forgetAccessible(HWND window);

@@ -2,6 +2,7 @@
 #include "accessible_element.h"
 
 #include <QAccessible>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -83,6 +84,12 @@ void tellDesktop(DWORD event, Window& window, LONG item)
     }
 }
 
+}
+
+void winapi::tellFocusBelow(QWidget& host)
+{
+    QAccessibleInterface* const element = QAccessible::queryAccessibleInterface(&host);
+    tell(element ? element->focusChild() : nullptr, QAccessible::Focus);
 }
 
 void NotifyWinEvent(DWORD event, HWND handle, LONG objectId, LONG child)

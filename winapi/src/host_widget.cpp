@@ -8,6 +8,7 @@
 #include "window_surface.h"
 #include "zeb17_qt.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QEnterEvent>
 #include <QKeyEvent>
@@ -192,9 +193,17 @@ void HostWidget::focusInEvent(QFocusEvent* event)
     const WindowPtr window = served();
     if (!window || event->reason() == Qt::PopupFocusReason)
         return;
+    // Qt tells of the widget's focus after this, and is to tell of the window's that has it after that.
+    QMetaObject::invokeMethod(this, &HostWidget::tellFocus, Qt::QueuedConnection);
     activate(window.get(), ActivatedBy::Host);
     if (isAlive(*window) && isEmbedded() && IsWindow(window->lastFocus))
         SetFocus(window->lastFocus);
+}
+
+void HostWidget::tellFocus()
+{
+    if (QAccessible::isActive() && hasFocus())
+        tellFocusBelow(*this);
 }
 
 void HostWidget::focusOutEvent(QFocusEvent* event)

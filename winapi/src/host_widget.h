@@ -49,6 +49,7 @@ protected:
 
 private:
     void takePlace();
+    void tellFocus();
 
     HWND m_handle;
     int m_eventDepth = 0;

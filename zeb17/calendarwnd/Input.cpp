@@ -207,7 +207,8 @@ BOOL CCalendarWnd::OnSetCursor(CWnd*, UINT, UINT)
 void CCalendarWnd::OnSetFocus(CWnd* pOldWnd)
 {
     CWnd::OnSetFocus(pOldWnd);
-    AnnounceSelection();
+    if (m_bHaveDate)
+        AnnounceSelection();
     if (m_rcSelection.IsRectEmpty())
         return;
     InvalidateSelection();
