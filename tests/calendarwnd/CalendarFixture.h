@@ -1,9 +1,10 @@
 // A calendar in a real window, with a parent that records what it hears.
 #pragma once
 
+#include "RecordingLogger.h"
+
 #include <afxwin.h>
 
-#include <AppLogger.h>
 #include <CalendarWnd.h>
 #include <DownArrowButton.h>
 #include <MonthBlock.h>
@@ -92,16 +93,6 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-};
-
-class RecordingLogger : public AppLogger
-{
-public:
-    RecordingLogger() { m_pInstance = this; }
-    ~RecordingLogger() override { m_pInstance = nullptr; }
-    void AddLine(const CString& strLine) override { m_lines.emplace_back(strLine); }
-
-    std::vector<std::string> m_lines;
 };
 
 struct Flags

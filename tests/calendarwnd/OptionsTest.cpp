@@ -27,13 +27,11 @@ void Append(CMenu& menu, const std::vector<UINT>& ids)
         menu.AppendMenu(nId == 0 ? MF_SEPARATOR : MF_STRING, nId, nId == 0 ? nullptr : "Item");
 }
 
-const std::vector<UINT> kRanges = {42032, 42034, 42046, 42043, 42048, 42045, 42033, 42047, 42044,
-                                   42042, 42035, 42036, 42037, 42038, 42039, 42040, 42041};
-
-std::vector<UINT> WithRanges(std::vector<UINT> ids)
+// A module that has no menus: one of the system's, on either platform.
+HINSTANCE GetModuleWithoutMenus()
 {
-    ids.insert(ids.end(), kRanges.begin(), kRanges.end());
-    return ids;
+    const HINSTANCE hModule = ::GetModuleHandleA("user32.dll");
+    return hModule != nullptr ? hModule : ::GetModuleHandleA("c.dll");
 }
 
 }
@@ -67,42 +65,52 @@ protected:
         EXPECT_EQ(ToText(parent.m_heard[1].dtEnd), ToText(range.last));
         EXPECT_TRUE(calendar->m_bHaveDate);
     }
+
+    std::unique_ptr<CImageMenu> LoadOptionsMenu()
+    {
+        CImageMenu menu;
+        return std::unique_ptr<CImageMenu>(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, calendar.get()));
+    }
 };
 
 TEST_F(OptionsTest, MenuForms)
 {
     Start();
-    const std::vector<UINT> copyAndPrint = {42030, 42031, 0, 42050};
     struct
     {
         bool bWebPage, bRanges;
-        std::vector<UINT> ids;
+        std::vector<UINT> ids; // before those of the ranges
     } const cases[] = {
-        {true, true, WithRanges({42030, 42031, 0, 42050, 42049, 0})},
-        {false, true, WithRanges({42030, 42031, 0, 42050, 0})},
+        {true, true, {42030, 42031, 0, 42050, 42049, 0}},
+        {false, true, {42030, 42031, 0, 42050, 0}},
         {true, false, {42030, 42031, 0, 42050, 42049}},
         {false, false, {42030, 42031, 0, 42050}},
     };
-    for (const auto& c : cases) {
-        CImageMenu menu;
-        const std::unique_ptr<CImageMenu> popup(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, calendar.get()));
-        ASSERT_TRUE(popup);
-        calendar->m_bAllowWebPage = c.bWebPage;
-        calendar->m_bAllowDateRanges = c.bRanges;
+    const std::vector<UINT> all = GetIds(LoadOptionsMenu()->m_hMenu);
+    for (auto [bWebPage, bRanges, ids] : cases) {
+        calendar->m_bAllowWebPage = bWebPage;
+        calendar->m_bAllowDateRanges = bRanges;
+        calendar->m_date = bRanges ? Date(2026, 7, 15) : DateTime();
+        const auto popup = LoadOptionsMenu();
+        const auto isEnabled = [&](UINT nId) {
+            return (::GetMenuState(popup->m_hMenu, nId, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0;
+        };
+        EXPECT_EQ(isEnabled(42030), bRanges);
+        EXPECT_EQ(isEnabled(42031), bRanges);
+        EXPECT_EQ(isEnabled(42049), bWebPage);
+        EXPECT_TRUE(isEnabled(42050));
         calendar->FilterOptionsMenu(popup->m_hMenu);
-        EXPECT_EQ(GetIds(popup->m_hMenu), c.ids);
+        if (bRanges)
+            ids.insert(ids.end(), all.begin() + 6, all.end());
+        EXPECT_EQ(GetIds(popup->m_hMenu), ids);
     }
 }
 
 TEST_F(OptionsTest, SeparatorsAreTidied)
 {
     Start();
-    const std::pair<std::vector<UINT>, std::vector<UINT>> cases[] = {{{0, 0, 1, 0, 0, 0, 2, 0, 0}, {1, 0, 2}},
-                                                                     {{0, 0}, {}},
-                                                                     {{}, {}},
-                                                                     {{1}, {1}},
-                                                                     {{0, 1}, {1}},
-                                                                     {{1, 0}, {1}}};
+    const std::pair<std::vector<UINT>, std::vector<UINT>> cases[] = {
+        {{0, 0, 1, 0, 0, 0, 2, 0, 0}, {1, 0, 2}}, {{0, 0}, {}}, {{}, {}}, {{1}, {1}}};
     for (const auto& [before, after] : cases) {
         CMenu menu;
         Append(menu, before);
@@ -119,20 +127,24 @@ TEST_F(OptionsTest, SeparatorsAreTidied)
     EXPECT_EQ(::GetMenuItemCount(menu), 2);
 }
 
-TEST_F(OptionsTest, ItemsAreEnabledByDateAndFlag)
+TEST_F(OptionsTest, MenuThatDoesNotShowIsLogged)
 {
-    Start();
-    for (const bool bValid : {false, true}) {
-        calendar->m_date = bValid ? Date(2026, 7, 15) : DateTime();
-        calendar->m_bAllowWebPage = bValid;
-        CImageMenu menu;
-        const std::unique_ptr<CImageMenu> popup(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, calendar.get()));
-        ASSERT_TRUE(popup);
-        for (const UINT nId : {42030u, 42031u, 42049u})
-            EXPECT_EQ((::GetMenuState(popup->m_hMenu, nId, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED)) == 0,
-                      bValid);
-        EXPECT_EQ(::GetMenuState(popup->m_hMenu, 42050, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED), 0u);
-    }
+    Start({.bShowOptions = false});
+    calendar->OnOptionsButton(); // has no menu to show
+    EXPECT_THAT(logger.m_lines, testing::IsEmpty());
+
+    Renew(); // without a window that a menu could belong to
+    HINSTANCE& hResources = AfxGetModuleState()->m_hCurrentResourceHandle;
+    const HINSTANCE hSaved = hResources;
+    calendar->OnOptionsButton();
+    hResources = GetModuleWithoutMenus();
+    calendar->OnOptionsButton();
+    AppLogger::m_pInstance = nullptr;
+    calendar->OnOptionsButton();
+    hResources = hSaved;
+    EXPECT_THAT(logger.m_lines,
+                ElementsAre(testing::MatchesRegex("\\{E80C3B37-2E59-4924-A01D-320D1318EC50\\}.+"),
+                            "{FEC0DBA9-2245-4F66-8549-E7287A594599}"));
 }
 
 TEST_F(OptionsTest, RangesOfTheYear)
@@ -216,11 +228,4 @@ TEST_F(OptionsTest, CopyPutsTheDateOnTheClipboard)
         EXPECT_FALSE(strText.IsEmpty());
     }
     EXPECT_THAT(TakeHeard(), testing::IsEmpty());
-}
-
-TEST_F(OptionsTest, ButtonWithoutOptions)
-{
-    Start({.bShowOptions = false});
-    calendar->OnOptionsButton();
-    EXPECT_THAT(logger.m_lines, testing::IsEmpty());
 }

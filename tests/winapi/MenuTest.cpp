@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include "test_menu.h"
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -56,13 +57,10 @@ TEST_F(MenuTest, ItemsTellWhatTheyAre)
     EXPECT_EQ(static_cast<UINT>(2 << 8 | MF_POPUP), GetMenuState(menu, 3, MF_BYPOSITION));
     EXPECT_EQ(0u, GetMenuState(menu, 20, MF_BYCOMMAND));
     EXPECT_EQ(static_cast<UINT>(-1), GetMenuState(menu, 99, MF_BYCOMMAND));
-}
 
-TEST_F(MenuTest, TextIsCutToTheBuffer)
-{
-    char buffer[8] = {};
+    char buffer[] = "xxxxx";
     EXPECT_EQ(2, GetMenuStringA(menu, 12, buffer, 3, MF_BYCOMMAND));
-    EXPECT_EQ("Th", std::string(buffer, 2));
+    EXPECT_EQ(std::string("Th\0xx", 5), std::string(buffer, 5));
     EXPECT_EQ(5, GetMenuStringA(menu, 12, nullptr, 0, MF_BYCOMMAND));
 }
 
@@ -95,10 +93,9 @@ TEST_F(MenuTest, ARemovedSubmenuLivesOnAndADeletedOneDoesNot)
     AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(sub), "Sub");
     EXPECT_TRUE(DeleteMenu(menu, 4, MF_BYPOSITION));
     EXPECT_FALSE(IsMenu(sub));
-}
 
-TEST_F(MenuTest, DestroyingTakesTheSubmenusAlong)
-{
+    sub = CreatePopupMenu();
+    AppendMenuA(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(sub), "Sub");
     EXPECT_TRUE(DestroyMenu(menu));
     EXPECT_FALSE(DestroyMenu(menu));
     EXPECT_FALSE(IsMenu(sub));
@@ -176,74 +173,49 @@ private:
 
     void hear(HWND window, UINT message, WPARAM wParam)
     {
-        switch (message) {
-        case WM_TIMER:
+        static const std::map<UINT, std::string> names = {
+            {WM_ENTERMENULOOP, "enter"}, {WM_INITMENU, "init"},     {WM_INITMENUPOPUP, "initpopup"},
+            {WM_MENUSELECT, "select"},   {WM_EXITMENULOOP, "exit"}, {WM_UNINITMENUPOPUP, "uninitpopup"},
+            {WM_COMMAND, "command"}};
+        if (message == WM_TIMER) {
             KillTimer(window, wParam);
             m_hands();
-            break;
-        case WM_ENTERMENULOOP:
-            heard += "enter ";
-            break;
-        case WM_INITMENU:
-            heard += "init ";
-            break;
-        case WM_INITMENUPOPUP:
-            heard += "initpopup ";
-            break;
-        case WM_MENUSELECT:
-            heard +=
-                HIWORD(wParam) == 0xFFFF ? "selectnone " : "select" + std::to_string(LOWORD(wParam)) + " ";
-            break;
-        case WM_UNINITMENUPOPUP:
-            heard += "uninitpopup ";
-            break;
-        case WM_EXITMENULOOP:
-            heard += "exit ";
-            break;
-        case WM_COMMAND:
-            heard += "command" + std::to_string(wParam) + " ";
-            break;
         }
+        const auto name = names.find(message);
+        if (name == names.end())
+            return;
+        heard += name->second;
+        if (message == WM_MENUSELECT || message == WM_COMMAND)
+            heard += HIWORD(wParam) == 0xFFFF ? "none" : std::to_string(LOWORD(wParam));
+        heard += ' ';
     }
 
     static inline MenuShowingTest* s_test = nullptr;
     std::function<void()> m_hands;
 };
 
-TEST_F(MenuShowingTest, TheOwnerHearsTheCommandAfterTheMenuIsGone)
+TEST_F(MenuShowingTest, TheOwnerHearsOfTheMenuAndThenOfItsCommand)
 {
-    const int result = show(0, [this] {
-        press(VK_DOWN);
-        press(VK_RETURN);
-    });
-    EXPECT_EQ(TRUE, result);
-    EXPECT_EQ("enter init initpopup select10 uninitpopup selectnone exit returned command10 ", heard);
-}
-
-TEST_F(MenuShowingTest, TheCommandCanBeTheResult)
-{
-    EXPECT_EQ(12, show(TPM_RETURNCMD, [this] {
-                  press(VK_UP);
-                  press(VK_RETURN);
-              }));
-    EXPECT_EQ("enter init initpopup select12 uninitpopup selectnone exit returned ", heard);
-}
-
-TEST_F(MenuShowingTest, EscapeAndCancellingEndIt)
-{
-    const std::string nothing = "enter init initpopup uninitpopup selectnone exit returned ";
-    EXPECT_EQ(TRUE, show(0, [this] { press(VK_ESCAPE); }));
-    EXPECT_EQ(nothing, heard);
-    EXPECT_EQ(0, show(TPM_RETURNCMD, [] { EndMenu(); }));
-    EXPECT_EQ(nothing, heard);
-    EXPECT_EQ(TRUE, show(0, [this] { SendMessageA(owner, WM_CANCELMODE, 0, 0); }));
-    EXPECT_EQ(nothing, heard);
-}
-
-TEST_F(MenuShowingTest, ALetterChoosesTheItemThatIsMarkedWithIt)
-{
-    show(0, [this] { PostMessageA(owner, WM_CHAR, 'o', 0); });
-    EXPECT_EQ("enter init initpopup select10 uninitpopup selectnone exit returned command10 ", heard);
+    const struct
+    {
+        UINT flags;
+        std::function<void()> hands;
+        int result;
+        std::string selected;
+        std::string command;
+    } cases[] = {
+        {0, [this] { press(VK_DOWN), press(VK_RETURN); }, TRUE, "select10 ", "command10 "},
+        {0, [this] { PostMessageA(owner, WM_CHAR, 'o', 0); }, TRUE, "select10 ", "command10 "},
+        {TPM_RETURNCMD, [this] { press(VK_UP), press(VK_RETURN); }, 12, "select12 ", ""},
+        {TPM_RETURNCMD, [] { EndMenu(); }, 0, "", ""},
+        {0, [this] { press(VK_ESCAPE); }, TRUE, "", ""},
+        {0, [this] { SendMessageA(owner, WM_CANCELMODE, 0, 0); }, TRUE, "", ""},
+    };
+    for (const auto& [flags, hands, result, selected, command] : cases) {
+        EXPECT_EQ(result, show(flags, hands));
+        EXPECT_EQ("enter init initpopup " + selected + "uninitpopup selectnone exit returned " + command,
+                  heard);
+    }
 }
 
 TEST_F(MenuShowingTest, OnlyOneMenuIsShownAtATime)

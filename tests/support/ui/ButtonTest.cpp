@@ -124,11 +124,6 @@ TEST_F(ButtonTest, FaceShowsTheState)
         EXPECT_EQ(canvas.GetPixel(kWidth - 1, kHeight - 1), kBorder) << nState;
     }
     button.DrawItem(nullptr);
-}
-
-TEST_F(ButtonTest, HotWhileTheMouseIsOverIt)
-{
-    Create("");
     button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
     Draw(0);
     EXPECT_EQ(canvas.GetPixel(1, 1), kHot);
@@ -144,13 +139,10 @@ TEST_F(ButtonTest, CaptionIsCentredAndMovesWhenPressed)
     EXPECT_NEAR(rcNormal.CenterPoint().x, kWidth / 2, 1);
     EXPECT_NEAR(rcNormal.CenterPoint().y, kHeight / 2, 2);
     EXPECT_EQ(FindContent(ODS_SELECTED), rcNormal + CPoint(1, 1));
-}
 
-TEST_F(ButtonTest, MnemonicIsUnderlined)
-{
-    Create("nnn");
+    button.SetWindowText("nnn");
     const CRect rcPlain = FindContent(0);
-    button.SetWindowText("&nnn");
+    button.SetWindowText("&nnn"); // underlines its mnemonic
     const CRect rcMarked = FindContent(0);
     EXPECT_GT(rcMarked.bottom, rcPlain.bottom);
     EXPECT_EQ(rcMarked.CenterPoint().x, rcPlain.CenterPoint().x);
@@ -178,13 +170,13 @@ TEST_F(ButtonTest, DisabledCaptionIsLightAndGreyUnlessItIsToStay)
 TEST_F(ButtonTest, FontFollowsSetFont)
 {
     Create("Month");
-    button.SetFont("Arial", 12, 400, 0, 0);
-    const CRect rcSmall = FindContent(0);
-    button.SetFont("Arial", 20, 400, 0, 0);
-    const CRect rcLarge = FindContent(0);
-    EXPECT_GT(rcLarge.Width(), rcSmall.Width() * 5 / 4);
-    button.SetFont("Arial", 12, 400, 0, 1);
-    EXPECT_GT(FindContent(0).bottom, rcSmall.bottom);
+    const auto FindContentIn = [this](long nSize, BYTE nUnderline) {
+        button.SetFont("Arial", nSize, 400, 0, nUnderline);
+        return FindContent(0);
+    };
+    const CRect rcSmall = FindContentIn(12, 0);
+    EXPECT_GT(FindContentIn(20, 0).Width(), rcSmall.Width() * 5 / 4);
+    EXPECT_GT(FindContentIn(12, 1).bottom, rcSmall.bottom);
 }
 
 TEST_F(ButtonTest, IconStandsWhereItWasPut)
@@ -202,8 +194,8 @@ TEST_F(ButtonTest, IconStandsWhereItWasPut)
         EXPECT_EQ(FindContent(0), CRect(ptIcon, ZEBIcon::GetSize(ZEBIcon::IconNextMonth)));
     }
     button.m_bIconOnly = true;
-    const CRect rcOnly = FindContent(0);
-    EXPECT_EQ(rcOnly.CenterPoint(), CPoint(39, 12));
+    EXPECT_EQ(FindContent(0).CenterPoint(), CPoint(39, 12));
+    EXPECT_GT(FindDarkest(FindContent(ODS_DISABLED)), FindDarkest(FindContent(0)) + 50);
 }
 
 TEST_F(ButtonTest, IconAndCaptionShareTheFace)
@@ -221,14 +213,6 @@ TEST_F(ButtonTest, IconAndCaptionShareTheFace)
     EXPECT_NEAR(rcBoth.right, rcAlone.right + 7, 1);
 }
 
-TEST_F(ButtonTest, DisabledIconIsPaler)
-{
-    Create("");
-    button.SetIcon(ZEBIcon::IconNextYear, BS_LEFT, BS_VCENTER, false);
-    const int nEnabled = FindDarkest(FindContent(0));
-    EXPECT_GT(FindDarkest(FindContent(ODS_DISABLED)), nEnabled + 50);
-}
-
 TEST_F(ButtonTest, FocusIsFramedUnlessHidden)
 {
     Create("");
@@ -236,20 +220,13 @@ TEST_F(ButtonTest, FocusIsFramedUnlessHidden)
     EXPECT_TRUE(FindContent(ODS_FOCUS | ODS_NOFOCUSRECT).IsRectEmpty());
 }
 
-TEST_F(ButtonTest, StaysOwnerDrawn)
-{
-    Create("");
-    EXPECT_EQ(button.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_OWNERDRAW));
-    button.SetButtonStyle(BS_DEFPUSHBUTTON);
-    EXPECT_EQ(button.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_OWNERDRAW));
-    EXPECT_FALSE(button.IsChecked());
-    EXPECT_STREQ(button.GetRuntimeClass()->m_lpszClassName, "CZEBButton");
-}
-
-TEST_F(ButtonTest, KnowsItsFocus)
+TEST_F(ButtonTest, StaysOwnerDrawnAndKnowsItsFocus)
 {
     EXPECT_FALSE(button.GetHaveFocus());
     Create("");
+    button.SetButtonStyle(BS_DEFPUSHBUTTON);
+    EXPECT_EQ(button.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_OWNERDRAW));
+    EXPECT_FALSE(button.IsChecked());
     ::SetActiveWindow(frame.m_hWnd);
     button.SetFocus();
     EXPECT_TRUE(button.GetHaveFocus());

@@ -1,5 +1,3 @@
-#include "Canvas.h"
-
 #include <afxext.h>
 
 #include <UIPrinter.h>
@@ -7,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <string>
+#include <utility>
 
 namespace {
 
@@ -34,28 +32,20 @@ private:
     HDC m_hDC;
 };
 
-TEST(UIPrinterTest, WithoutAPrinterTheJobFails)
+TEST(UIPrinterTest, WithoutAPrinterOrItsConsentTheJobFails)
 {
-    PrintInfo info;
-    TestPrinter printer(nullptr);
-    printer.Print(&info);
-    EXPECT_TRUE(info.GetErrorMsg().Find("The printer could not be opened.") == 0) << info.GetErrorMsg();
-    EXPECT_EQ(printer.m_nContents, 0);
-    EXPECT_EQ(printer.m_nEnds, 1);
-    printer.Print(nullptr);
-    EXPECT_EQ(printer.m_nEnds, 1);
-}
-
-TEST(UIPrinterTest, ARefusedJobIsTold)
-{
-    const HDC hScreen = ::GetDC(nullptr);
-    PrintInfo info;
-    TestPrinter printer(::CreateCompatibleDC(hScreen)); // takes no job
-    ::ReleaseDC(nullptr, hScreen);
-    printer.Print(&info);
-    EXPECT_TRUE(info.GetErrorMsg().Find("The print job could not be started.") == 0) << info.GetErrorMsg();
-    EXPECT_EQ(printer.m_nContents, 0);
-    EXPECT_EQ(printer.m_nEnds, 1);
+    const HDC hNoPrinter = ::CreateCompatibleDC(nullptr); // takes no job
+    const std::pair<HDC, const char*> cases[] = {{nullptr, "The printer could not be opened. "},
+                                                 {hNoPrinter, "The print job could not be started. "}};
+    for (const auto& [hDC, pszError] : cases) {
+        PrintInfo info;
+        TestPrinter printer(hDC);
+        printer.Print(&info);
+        EXPECT_EQ(info.GetErrorMsg().Find(pszError), 0) << info.GetErrorMsg();
+        printer.Print(nullptr);
+        EXPECT_EQ(printer.m_nContents, 0);
+        EXPECT_EQ(printer.m_nEnds, 1);
+    }
 }
 
 // Prints a page to a file on the default printer and notes its measures.
