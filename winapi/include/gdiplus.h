@@ -1,4 +1,4 @@
-// The flat GDI+ interface, as far as it is used: anti-aliased filling.
+// The flat GDI+ interface, as far as it is used: anti-aliased filling, and pictures as files.
 //
 // As on Windows, GDI+ must be started by the program; until then every call gives GdiplusNotInitialized.
 #pragma once
