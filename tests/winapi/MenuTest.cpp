@@ -60,7 +60,8 @@ TEST_F(MenuTest, ItemsTellWhatTheyAre)
 
     char buffer[] = "xxxxx";
     EXPECT_EQ(2, GetMenuStringA(menu, 12, buffer, 3, MF_BYCOMMAND));
-    EXPECT_EQ(std::string("Th\0xx", 5), std::string(buffer, 5));
+    EXPECT_EQ("Th", std::string(buffer, 2));
+    EXPECT_STREQ("xx", buffer + 3);
     EXPECT_EQ(5, GetMenuStringA(menu, 12, nullptr, 0, MF_BYCOMMAND));
 }
 
