@@ -6,6 +6,7 @@
 #include <gdiplus.h>
 
 #include <random>
+#include <tuple>
 
 namespace {
 
@@ -73,6 +74,12 @@ CRect TestCalendar::GetDayRect(int nDay) const
     return GetCellRect(MonthBlock::PlaceOfDay(MonthBlock::ShapeOf(m_date)->nFirstColumn, nDay));
 }
 
+LRESULT TestCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    m_nPaints += message == WM_PAINT;
+    return CCalendarWnd::WindowProc(message, wParam, lParam);
+}
+
 LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (FindName(message) == nullptr || m_pCalendar == nullptr)
@@ -80,7 +87,8 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const bool bRange = message == CCalendarWnd::CALWND_DATERANGE_CHANGED;
     m_heard.push_back({message, wParam, bRange ? 0 : lParam, m_pCalendar->GetDate(),
                        bRange ? *reinterpret_cast<const DateTime*>(lParam) : DateTime(),
-                       m_pCalendar->m_bHaveDate, m_pCalendar->GetTitle(), m_pCalendar->m_rcSelection});
+                       m_pCalendar->m_bHaveDate, m_pCalendar->GetTitle(), m_pCalendar->m_rcSelection,
+                       m_pCalendar->m_vDayDescs, ::GetFocus()});
     return 0;
 }
 
@@ -178,6 +186,17 @@ CRect CalendarTest::GetInvalid()
     CRect rc;
     ::GetUpdateRect(calendar->m_hWnd, &rc, FALSE);
     return rc;
+}
+
+void CalendarTest::ExpectMonth()
+{
+    const auto look = [this] {
+        return std::tuple(calendar->GetTitle(), calendar->m_nTodayCell, calendar->m_vDayColors,
+                          calendar->m_vDayDescs);
+    };
+    const auto found = look();
+    calendar->RefreshMonth();
+    ASSERT_TRUE(found == look());
 }
 
 void CalendarTest::Press(CPoint point)

@@ -70,6 +70,11 @@ public:
 
     CString GetTitle() const;
     CRect GetDayRect(int nDay) const; // text rectangle of a day of the month shown
+
+    int m_nPaints = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
 // One registered message, and what the control showed at that moment.
@@ -83,6 +88,8 @@ struct Heard
     bool bHaveDate;
     CString strTitle;
     CRect rcSelection;
+    std::vector<CString> descs;
+    HWND hFocus;
 };
 
 class RecordingParent : public CWnd
@@ -146,6 +153,9 @@ protected:
     void Command(UINT nId);
     void AddSpecialDay(const char* strText, int nDay, int nMonth, COLORREF cr);
     void HideNationalDays();
+
+    // Title and tables of the cells are those of the month shown.
+    void ExpectMonth();
 
     // Names of what was heard since the last call, such as "SELCHANGE 1".
     std::vector<std::string> TakeHeard();

@@ -31,21 +31,6 @@ class CreationTest : public CalendarTest
 {
 };
 
-TEST_F(CreationTest, ObjectWithoutWindow)
-{
-    EXPECT_FALSE(calendar->m_bHaveDate);
-    EXPECT_FALSE(calendar->m_bUseSpecialDates);
-    EXPECT_TRUE(calendar->m_bAllowNoDate && calendar->m_bShowOptions && calendar->m_bAllowWebPage);
-    EXPECT_FALSE(calendar->m_bAllowDateRanges);
-    EXPECT_EQ(calendar->m_nFirstDayColumn, -1);
-    EXPECT_EQ(calendar->m_nTodayCell, -1);
-    EXPECT_EQ(calendar->m_nNextToolId, 0u);
-    EXPECT_TRUE(calendar->m_vRowEdges.empty() && calendar->m_vColumnEdges.empty());
-    EXPECT_EQ(calendar->m_vDayColors, std::vector<COLORREF>(42, 0xFFFFFF));
-    EXPECT_EQ(calendar->m_vDayDescs.size(), 42u);
-    EXPECT_TRUE(TestCalendar().GetDate().IsToday());
-}
-
 TEST_F(CreationTest, EndsWithoutADateAndSaysSo)
 {
     ASSERT_TRUE(Create());
@@ -133,16 +118,11 @@ TEST_F(CreationTest, CreatedTwice)
     EXPECT_EQ(calendar->m_hWnd, hWnd);
     EXPECT_TRUE(calendar->m_bUseSpecialDates);
     EXPECT_THAT(parent.m_heard, IsEmpty());
-}
 
-TEST_F(CreationTest, CreatedAgainAfterItsEnd)
-{
-    Start();
     calendar->DestroyWindow();
     Start();
     calendar->SetDate(Date(2026, 8, 1));
     EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 1"));
-    EXPECT_THAT(logger.m_lines, IsEmpty());
 }
 
 TEST_F(CreationTest, MissingButtonObject)

@@ -33,38 +33,59 @@ TEST_F(InputTest, PressEveryCell)
     std::vector<DateTime> months = {Date(2010, 2, 1), Date(2015, 2, 1), Date(2024, 2, 1)};
     for (int nMonth = 1; nMonth <= 12; ++nMonth)
         months.push_back(Date(2026, nMonth, 1));
-    for (size_t i = 0; i < months.size() * MonthBlock::kCells; ++i) {
-        const DateTime first = months[i / MonthBlock::kCells];
-        const int nCell = static_cast<int>(i) % MonthBlock::kCells;
-        ASSERT_TRUE(LocaleUtils::SetLocale(i % 2 != 0 ? "en-US" : "nl-NL"));
-        Show(first, false);
-        parent.m_heard.clear();
-        DateTime expected = first;
-        expected.AddDays(nCell + 1 - MonthBlock::ShapeOf(first)->nFirstColumn);
-        Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint());
-        ASSERT_EQ(ToText(calendar->m_date), ToText(expected));
-        ASSERT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0"));
+    for (const char* strLocale : {"en-US", "nl-NL"}) {
+        ASSERT_TRUE(LocaleUtils::SetLocale(strLocale));
+        for (size_t i = 0; i < months.size() * MonthBlock::kCells; ++i) {
+            const DateTime first = months[i / MonthBlock::kCells];
+            const int nCell = static_cast<int>(i) % MonthBlock::kCells;
+            Show(first, false);
+            DateTime expected = first;
+            expected.AddDays(nCell + 1 - MonthBlock::ShapeOf(first)->nFirstColumn);
+            Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint());
+            ASSERT_EQ(ToText(calendar->m_date), ToText(expected));
+            ASSERT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0"));
+        }
     }
 }
 
-TEST_F(InputTest, PressWithoutADay)
+// Each pixel of a row and of a column. Those on an edge and behind it belong to the cell before them, those
+// outside of the days to none.
+TEST_F(InputTest, PressEveryPixel)
+{
+    Start();
+    const auto press = [this](CPoint point, const std::vector<int>& edges, int n, int nFirstDay, int nStep) {
+        Show(Date(2026, 2, 28), false); // the month starts in the first cell
+        parent.SetFocus();
+        Press(point);
+        EXPECT_EQ(::GetFocus(), calendar->m_hWnd);
+        const bool bInside = n >= edges.front() && n <= edges.back() + 1;
+        const auto nPassed = std::ranges::count_if(edges.begin() + 1, edges.end() - 1,
+                                                   [n](int nEdge) { return n > nEdge + 1; });
+        DateTime expected = Date(2026, 2, nFirstDay);
+        expected.AddDays(static_cast<int>(nPassed) * nStep);
+        EXPECT_EQ(ToText(bInside ? expected : Date(2026, 2, 28)), ToText(calendar->m_date)) << n;
+        EXPECT_EQ(TakeHeard().size(), bInside ? 1u : 0u) << n;
+    };
+    const CPoint center = calendar->GetCellRect({3, 2}).CenterPoint();
+    for (int x = -3; x < kWidth + 3; ++x)
+        press({x, center.y}, calendar->m_vColumnEdges, x, 8, 1);
+    // The row of names counts as none, down to the pixel behind its edge.
+    std::vector<int> edges(calendar->m_vRowEdges.begin() + 1, calendar->m_vRowEdges.end());
+    edges.front() += 2;
+    for (int y = 20; y < kHeight; ++y)
+        press({center.x, y}, edges, y, 2, 7);
+}
+
+TEST_F(InputTest, PressBeforeTheFirstPaint)
 {
     ASSERT_TRUE(Create());
     parent.SetFocus();
     parent.m_heard.clear();
     ::ValidateRect(calendar->m_hWnd, nullptr);
-    calendar->m_nFirstDayColumn = -1; // as before the first paint
+    calendar->m_nFirstDayColumn = -1;
     Press(CPoint(150, 120));
     EXPECT_EQ(::GetFocus(), calendar->m_hWnd);
     EXPECT_THAT(TakeHeard(), IsEmpty());
-
-    Repaint();
-    for (const CPoint point : {CPoint(150, 30), CPoint(150, 44), CPoint(301, 100), CPoint(150, 216)}) {
-        parent.SetFocus();
-        Press(point);
-        EXPECT_EQ(::GetFocus(), calendar->m_hWnd);
-        EXPECT_THAT(TakeHeard(), IsEmpty()) << point.x << ',' << point.y;
-    }
 }
 
 TEST_F(InputTest, DoubleClickIsTwoPresses)
@@ -83,66 +104,47 @@ TEST_F(InputTest, DoubleClickIsTwoPresses)
     EXPECT_EQ(ToText(calendar->m_date), "2026-7-11");
 }
 
-// The whole ring in both directions, for each choice of the two optional buttons.
+// From each stop of the ring in both directions, for each choice of the two optional buttons. A move redraws
+// the frame at the day of the date, except away from Clear and the previous month.
 TEST_F(InputTest, FocusRing)
 {
-    for (const bool bOptions : {false, true})
-        for (const bool bNoDate : {false, true}) {
-            Renew();
-            Start({.bAllowNoDate = bNoDate, .bShowOptions = bOptions});
-            std::vector<CWnd*> ring = {
-                calendar.get(),
-                calendar->m_pTodayButton,
-                bOptions ? calendar->m_pOptionsButton : nullptr,
-                bNoDate ? calendar->m_pClearButton : nullptr,
-                calendar->m_pPrevMonthButton,
-                calendar->m_pNextMonthButton,
-                calendar->m_pPrevYearButton,
-                calendar->m_pNextYearButton,
-                &parent,
-            };
-            std::erase(ring, nullptr);
-            for (size_t i = 1; i < ring.size(); ++i) {
-                Tab(false);
-                ASSERT_EQ(::GetFocus(), ring[i]->m_hWnd) << bOptions << bNoDate << i;
-            }
-            calendar->m_pNextYearButton->SetFocus();
-            for (size_t i = ring.size() - 2; i-- > 0;) {
-                Tab(true);
-                ASSERT_EQ(::GetFocus(), ring[i]->m_hWnd) << bOptions << bNoDate << i;
-            }
-            Tab(true);
-            EXPECT_EQ(::GetFocus(), parent.m_hWnd);
-            EXPECT_THAT(TakeHeard(), IsEmpty());
-        }
-}
-
-// A move redraws the frame at the day of the date, except away from Clear and the previous month.
-TEST_F(InputTest, FocusMovesRedrawTheFrame)
-{
-    Start();
-    const std::pair<CWnd*, bool> stops[] = {
-        {calendar.get(), true},
-        {calendar->m_pTodayButton, true},
-        {calendar->m_pOptionsButton, true},
-        {calendar->m_pClearButton, false},
-        {calendar->m_pPrevMonthButton, false},
-        {calendar->m_pNextMonthButton, true},
-        {calendar->m_pPrevYearButton, true},
-        {calendar->m_pNextYearButton, true},
+    struct Stop
+    {
+        CWnd* pWnd;
+        bool bPresent;
+        bool bRedraws;
     };
-    for (const bool bHaveDate : {true, false})
-        for (const bool bShift : {false, true})
-            for (const auto& [pStop, bRedraws] : stops) {
+    for (int nCase = 0; nCase < 8; ++nCase) {
+        const bool bOptions = nCase & 1, bNoDate = nCase & 2, bHaveDate = nCase & 4;
+        Renew();
+        Start({.bAllowNoDate = bNoDate, .bShowOptions = bOptions});
+        std::vector<Stop> ring = {
+            {&parent, true, false},
+            {calendar.get(), true, true},
+            {calendar->m_pTodayButton, true, true},
+            {calendar->m_pOptionsButton, bOptions, true},
+            {calendar->m_pClearButton, bNoDate, false},
+            {calendar->m_pPrevMonthButton, true, false},
+            {calendar->m_pNextMonthButton, true, true},
+            {calendar->m_pPrevYearButton, true, true},
+            {calendar->m_pNextYearButton, true, true},
+            {&parent, true, false},
+        };
+        std::erase_if(ring, [](const Stop& stop) { return !stop.bPresent; });
+        for (size_t i = 1; i + 1 < ring.size(); ++i)
+            for (const bool bShift : {false, true}) {
+                SCOPED_TRACE(testing::Message() << nCase << ' ' << i << bShift);
                 Show(Date(2026, 7, 8), bHaveDate);
-                pStop->SetFocus();
+                ring[i].pWnd->SetFocus();
                 const CRect rcElsewhere = calendar->GetDayRect(22);
                 calendar->m_rcSelection = rcElsewhere; // shows whether the frame was put right
                 Tab(bShift);
-                EXPECT_EQ(calendar->m_rcSelection,
-                          bHaveDate && bRedraws ? calendar->GetDayRect(8) : rcElsewhere)
-                    << pStop->GetDlgCtrlID() << bShift;
+                EXPECT_EQ(::GetFocus(), ring[bShift ? i - 1 : i + 1].pWnd->m_hWnd);
+                const bool bRedrawn = bHaveDate && ring[i].bRedraws;
+                EXPECT_EQ(calendar->m_rcSelection, bRedrawn ? calendar->GetDayRect(8) : rcElsewhere);
             }
+        EXPECT_THAT(TakeHeard(), IsEmpty());
+    }
 }
 
 TEST_F(InputTest, TabIsLeftAloneWithoutAWholeRing)
@@ -168,8 +170,8 @@ TEST_F(InputTest, KeysWorkOnTheButtonsToo)
     Key(VK_ESCAPE);
     EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 1")); // Enter and Esc are the button's own
     Key('T');
-    EXPECT_EQ(::GetFocus(), calendar->m_hWnd);
-    EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 1"));
+    ASSERT_EQ(parent.m_heard.size(), 1u);
+    EXPECT_EQ(parent.m_heard[0].hFocus, calendar->m_hWnd); // moved before the parent hears
 }
 
 TEST_F(InputTest, HorizontalWheelDoesNothing)

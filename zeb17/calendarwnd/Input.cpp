@@ -143,12 +143,12 @@ bool CCalendarWnd::MoveFocus(bool bBackward)
                                           [pFocus](const FocusStop& stop) { return stop.pWnd == pFocus; });
     if (pStop == pEnd)
         return false;
-    const bool bRedrawFrame = m_bHaveDate && pStop->bRedrawsFrame;
+    const bool bRedrawsFrame = pStop->bRedrawsFrame;
     do
         pStop += bBackward ? -1 : 1;
     while (!pStop->bPresent);
     pStop->pWnd->SetFocus();
-    if (bRedrawFrame)
+    if (bRedrawsFrame && m_bHaveDate) // as it is after the host has heard of the focus
         MoveSelectionRect(CRect());
     return true;
 }
