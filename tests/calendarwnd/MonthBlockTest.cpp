@@ -54,22 +54,3 @@ TEST(MonthBlock, SplitsIntoEqualSteps)
         EXPECT_EQ(edges, expected);
     }
 }
-
-TEST(MonthBlock, PressesCountToTheCellBefore)
-{
-    const std::vector<int> rows = {24, 43, 71, 99, 127, 155, 183, 214};
-    const std::vector<int> columns = {1, 43, 85, 127, 169, 211, 253, 299};
-    struct
-    {
-        int x, y, nRow, nColumn; // row 0 for none
-    } const cases[] = {
-        {20, 44, 0, 0},    {20, 45, 2, 1},   {20, 72, 2, 1},   {20, 73, 3, 1},  {1, 60, 2, 1},
-        {0, 60, 0, 0},     {44, 60, 2, 1},   {45, 60, 2, 2},   {300, 60, 2, 7}, {301, 60, 0, 0},
-        {300, 215, 7, 7},  {20, 216, 0, 0},  {20, 23, 0, 0},   {20, 24, 0, 0},  {254, 215, 7, 6},
-        {-500, 100, 0, 0}, {255, 184, 6, 7}, {255, 185, 7, 7},
-    };
-    for (const auto& c : cases) {
-        const auto place = MonthBlock::PlaceAt(rows, columns, c.x, c.y).value_or(MonthBlock::Place{0, 0});
-        EXPECT_EQ(place, (MonthBlock::Place{c.nRow, c.nColumn})) << c.x << ',' << c.y;
-    }
-}
