@@ -146,21 +146,24 @@ TEST_F(Input, TheWheelGoesToTheWindowUnderThePointerAndUpFromThere)
 
 TEST_F(Input, HoverAndLeave)
 {
-    constexpr DWORD hoverTime = 400; // longer than messages are waited for: Wine looks again at that rate
-    constexpr int enough = 20;
+    constexpr DWORD hoverTime = 400; // Wine looks at this rate, which lets serveMessages come to an end
+    const auto awaited = [this] {
+        constexpr int enough = 20;
+        std::string heard;
+        for (int i = 0; heard.empty() && i < enough; ++i) {
+            Sleep(hoverTime / 4);
+            heard = served();
+        }
+        return heard;
+    };
     movePointer(120, 130);
     serveMessages();
     recorder.only({"MOUSELEAVE", "MOUSEHOVER"});
     TRACKMOUSEEVENT track{sizeof track, TME_HOVER | TME_LEAVE, child, hoverTime};
     ASSERT_TRUE(TrackMouseEvent(&track));
-    std::string heard;
-    for (int i = 0; heard.empty() && i < enough; ++i) {
-        Sleep(hoverTime / 4);
-        heard = served();
-    }
-    EXPECT_EQ(heard, "c.MOUSEHOVER");
+    EXPECT_EQ(awaited(), "c.MOUSEHOVER");
     movePointer(350, 280);
-    EXPECT_EQ(served(), "c.MOUSELEAVE");
+    EXPECT_EQ(awaited(), "c.MOUSELEAVE");
 }
 
 TEST_F(Input, KeysAndTheirCharacters)
