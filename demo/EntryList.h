@@ -12,13 +12,19 @@ public:
 
     bool CreateList(const CRect& rect, CWnd* parent, UINT id);
 
-    // Lists what the settings hold now.
-    void Refill();
-    // Deletes the selected entry; false if none is selected.
-    bool DeleteSelected();
+    // Lists what the settings hold now, and selects the entry, if it is among them.
+    void Refill(const CalendarDateEntry* selected);
+
+    // The selected entry and its group; null if none is selected.
+    CalendarDateEntry* Selected();
+    CalendarSettings::Group SelectedGroup() const;
+
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override;
+    void DrawItem(LPDRAWITEMSTRUCT item) override;
 
 private:
-    void AddGroup(CalendarSettings::Group group);
+    CalendarDateEntry* EntryAt(int row);
+    CalendarSettings::Group GroupAt(int row) const;
 
     CalendarSettings& m_settings;
 };

@@ -1,5 +1,8 @@
 #include "ErrorText.h"
 
+#include <afxwin.h>
+
+#include <cstdio>
 #include <exception>
 
 bool RunTellingErrors(const std::function<void()>& action, CString& words)
@@ -16,4 +19,11 @@ bool RunTellingErrors(const std::function<void()>& action, CString& words)
         words = e.what();
     }
     return false;
+}
+
+void TellUser(const CString& words, bool attended)
+{
+    std::fprintf(stderr, "zeb17_demo: %s\n", words.GetString());
+    if (attended)
+        AfxMessageBox(words, MB_OK | MB_ICONEXCLAMATION);
 }

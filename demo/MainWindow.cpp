@@ -2,23 +2,33 @@
 
 #include "ErrorText.h"
 
+#include "SaveQuestion.h"
+
 #include <FileUtils.h>
 #include <GraphicsUtils.h>
+#include <Keyboard.h>
 #include <UIPrinter.h>
 #include <afxdlgs.h>
 #include <resource.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 constexpr UINT kCalendarId = 100;
-constexpr UINT kStatusId = 101;
-constexpr UINT kPanelId = 102;
+constexpr UINT kPanelId = 101;
+constexpr UINT kRangeId = 102;
+constexpr UINT kHeardId = 103;
 constexpr int kMargin = 12;
-constexpr int kStatusHeight = 20;
-constexpr int kPanelWidth = 220;
-const CRect kWindowRect(CPoint(80, 80), CSize(640, 420));
+constexpr int kGap = 8;
+constexpr int kRangeHeight = 20;
+constexpr int kHeardHeight = 80;
+constexpr int kPanelWidth = 280;
+constexpr int kMaxHeard = 100;
+constexpr int kMinCalendarWidth = 300;
+constexpr int kMinCalendarHeight = 200;
+const CRect kWindowRect(CPoint(80, 80), CSize(820, 560));
 const CRect kAnywhere(0, 0, 100, 100); // Arrange gives each child its place
 
 CString FormatDate(const DateTime& date)
@@ -35,7 +45,9 @@ CString FormatDate(const DateTime& date)
 BEGIN_MESSAGE_MAP(MainWindow, CWnd)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
     ON_WM_ERASEBKGND()
+    ON_WM_CLOSE()
     ON_WM_DESTROY()
     ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONSELCHANGE, &MainWindow::OnSelChange)
     ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONNODATE, &MainWindow::OnNoDate)
@@ -45,6 +57,13 @@ BEGIN_MESSAGE_MAP(MainWindow, CWnd)
     ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_DATERANGE_CHANGED, &MainWindow::OnDateRangeChanged)
 END_MESSAGE_MAP()
 
+MainWindow::MainWindow(bool attended)
+    : m_attended(attended), m_log([this](const CString& words) {
+          TellUser("The calendar could not do that.\n\n" + words, m_attended);
+      })
+{
+}
+
 bool MainWindow::CreateMain()
 {
     const LPCTSTR windowClass =
@@ -53,42 +72,46 @@ bool MainWindow::CreateMain()
     if (!CreateEx(0, windowClass, "zeb17 demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, kWindowRect, nullptr,
                   0))
         return false;
-    return CreateStatus() && CreateCalendar();
-}
-
-bool MainWindow::CreateStatus()
-{
-    if (!m_status.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), this, kStatusId))
-        return false;
     LOGFONT lf = {};
     GraphicsUtils::SetDefaultFont(lf, "", 13, -1, false, false, false);
     m_font.CreateFontIndirect(&lf);
-    m_status.SetFont(&m_font);
+    if (!CreateHeard() || !CreateCalendar())
+        return false;
+    CRect client;
+    GetClientRect(&client);
+    Arrange(client.Width(), client.Height());
     return true;
 }
 
-// A file that can't be read is told to the user, and left as it is: the calendar then goes without special
-// dates.
+bool MainWindow::CreateHeard()
+{
+    constexpr DWORD list = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | WS_VSCROLL | LBS_NOINTEGRALHEIGHT;
+    if (!m_range.Create("Last range: none yet", WS_CHILD | WS_VISIBLE, kAnywhere, this, kRangeId) ||
+        !m_heard.Create(list, kAnywhere, this, kHeardId))
+        return false;
+    m_range.SetFont(&m_font);
+    m_heard.SetFont(&m_font);
+    return true;
+}
+
+// A file that can't be read is left as it is: the calendar then goes without special dates.
 bool MainWindow::CreateCalendar()
 {
     const auto create = [this](bool useSpecialDates) {
         return m_calendar.Create(kCalendarId, kAnywhere, useSpecialDates, this, true, true, true, true);
     };
     bool created = false;
-    CString error;
-    const bool readable = RunTellingErrors([&] { created = create(true); }, error);
+    const bool readable = RunTellingErrors([&] { created = create(true); }, m_loadError);
     if (!readable)
         created = create(false);
-    if (!created || !m_panel.CreatePanel(kAnywhere, this, kPanelId, m_font))
-        return false;
-    m_panel.Refresh();
-    m_panel.AllowSave(readable);
-    CRect client;
-    GetClientRect(&client);
-    Arrange(client.Width(), client.Height());
-    if (!readable)
-        TellUser("Your dates could not be read, so none are shown and none can be saved.\n\n" + error);
-    return true;
+    return created && m_panel.CreatePanel(kAnywhere, this, kPanelId, m_font, readable);
+}
+
+void MainWindow::TellLoadError()
+{
+    if (!m_loadError.IsEmpty())
+        TellUser("Your dates could not be read, so none are shown and none can be changed.\n\n" + m_loadError,
+                 m_attended);
 }
 
 void MainWindow::OnSize(UINT, int cx, int cy)
@@ -99,26 +122,55 @@ void MainWindow::OnSize(UINT, int cx, int cy)
 
 void MainWindow::Arrange(int cx, int cy)
 {
-    const int statusTop = cy - kMargin - kStatusHeight;
-    const int panelLeft = cx - kMargin - kPanelWidth;
-    const int height = statusTop - 2 * kMargin;
-    m_calendar.MoveWindow(kMargin, kMargin, panelLeft - 2 * kMargin, height);
-    m_panel.MoveWindow(panelLeft, kMargin, kPanelWidth, height);
-    m_status.MoveWindow(kMargin, statusTop, cx - 2 * kMargin, kStatusHeight);
+    const int width = std::max(cx - 3 * kMargin - kPanelWidth, kMinCalendarWidth);
+    const int height = std::max(cy - 2 * kMargin - kGap - kRangeHeight - kHeardHeight, kMinCalendarHeight);
+    const int rangeTop = kMargin + height + kGap;
+    const int heardTop = rangeTop + kRangeHeight;
+    m_calendar.MoveWindow(kMargin, kMargin, width, height);
+    m_range.MoveWindow(kMargin, rangeTop, width, kRangeHeight);
+    m_heard.MoveWindow(kMargin, heardTop, width, kHeardHeight);
+    m_panel.MoveWindow(2 * kMargin + width, kMargin, kPanelWidth, heardTop + kHeardHeight - kMargin);
 }
 
-// The calendar hands the focus to its parent when Tab leaves it: then it is the panel's turn.
+bool MainWindow::IsInCalendar(HWND window) const
+{
+    return window != nullptr && (window == m_calendar.m_hWnd || ::IsChild(m_calendar.m_hWnd, window));
+}
+
+// The calendar hands the focus to its parent when Tab leaves it: then it is its neighbour's turn. Otherwise
+// the window has just become active, and goes on where it was.
 void MainWindow::OnSetFocus(CWnd* pOldWnd)
 {
     if (m_panel.GetSafeHwnd() == nullptr)
         return;
-    const HWND old = pOldWnd != nullptr ? pOldWnd->GetSafeHwnd() : nullptr;
-    const bool fromCalendar =
-        old != nullptr && (old == m_calendar.m_hWnd || ::IsChild(m_calendar.m_hWnd, old));
-    if (fromCalendar)
-        m_panel.FocusFirst();
+    if (IsInCalendar(pOldWnd != nullptr ? pOldWnd->GetSafeHwnd() : nullptr))
+        ::SetFocus(::GetNextDlgTabItem(m_hWnd, m_calendar, Keyboard::IsShiftKeyDown()));
     else
-        m_calendar.SetFocus();
+        ::SetFocus(::IsWindow(m_lastFocus) ? m_lastFocus : m_calendar.m_hWnd);
+}
+
+void MainWindow::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
+{
+    const HWND focus = ::GetFocus();
+    if (nState == WA_INACTIVE && ::IsChild(m_hWnd, focus))
+        m_lastFocus = focus;
+    CWnd::OnActivate(nState, pWndOther, bMinimized);
+}
+
+// Outside of the calendar, which has keys of its own, the keyboard is that of a dialog. Enter presses the
+// button that has the focus.
+BOOL MainWindow::PreTranslateMessage(MSG* pMsg)
+{
+    if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    if (IsInCalendar(pMsg->hwnd))
+        return FALSE;
+    if (pMsg->message != WM_KEYDOWN || pMsg->wParam != VK_RETURN)
+        return ::IsDialogMessage(m_hWnd, pMsg);
+    const LRESULT code = ::SendMessage(pMsg->hwnd, WM_GETDLGCODE, 0, 0);
+    if ((code & DLGC_BUTTON) != 0)
+        ::SendMessage(pMsg->hwnd, BM_CLICK, 0, 0);
+    return (code & DLGC_BUTTON) != 0;
 }
 
 BOOL MainWindow::OnEraseBkgnd(CDC* pDC)
@@ -127,6 +179,15 @@ BOOL MainWindow::OnEraseBkgnd(CDC* pDC)
     GetClientRect(&client);
     pDC->FillSolidRect(&client, GetSysColor(COLOR_BTNFACE));
     return TRUE;
+}
+
+void MainWindow::OnClose()
+{
+    using Answer = SaveQuestion::Answer;
+    const Answer answer = m_panel.IsChanged() ? SaveQuestion().Ask(*this, m_font) : Answer::DontSave;
+    if (answer == Answer::Cancel || (answer == Answer::Save && !m_panel.Save()))
+        return;
+    DestroyWindow();
 }
 
 void MainWindow::OnDestroy()
@@ -164,7 +225,7 @@ LRESULT MainWindow::OnPromptSaveWebPage(WPARAM, LPARAM)
     CFileDialog dialog(FALSE, "html", "calendar.html", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                        "Web pages (*.html)|*.html|All files|*.*||", this);
     if (dialog.DoModal() == IDOK && !SaveWebPage(dialog.GetPathName()))
-        TellUser("The web page could not be written to " + dialog.GetPathName() + ".");
+        TellUser("The web page could not be written to " + dialog.GetPathName() + ".", m_attended);
     return 0;
 }
 
@@ -172,7 +233,9 @@ LRESULT MainWindow::OnDateRangeChanged(WPARAM, LPARAM lParam)
 {
     // The pointer is good during this call only.
     const DateTime last = *reinterpret_cast<const DateTime*>(lParam);
-    ShowHeard("CALWND_DATERANGE_CHANGED", CurrentDate() + " to " + FormatDate(last));
+    const CString range = CurrentDate() + " to " + FormatDate(last);
+    m_range.SetWindowText("Last range: " + range);
+    ShowHeard("CALWND_DATERANGE_CHANGED", range);
     return 0;
 }
 
@@ -181,13 +244,15 @@ CString MainWindow::CurrentDate() const
     return FormatDate(m_calendar.GetDate());
 }
 
-// The line in the window for the user's eyes, and on standard output for whoever drives the demo.
+// A row in the window for the user's eyes, and a line on standard output for whoever drives the demo.
 void MainWindow::ShowHeard(const char* message, const CString& details)
 {
     CString line(message);
     if (!details.IsEmpty())
         line += " " + details;
-    m_status.SetWindowText(line);
+    if (m_heard.GetCount() == kMaxHeard)
+        m_heard.DeleteString(0);
+    m_heard.SetTopIndex(m_heard.AddString(line));
     std::printf("%s\n", static_cast<LPCTSTR>(line));
     std::fflush(stdout);
 }
@@ -199,12 +264,4 @@ bool MainWindow::PrintToFile(const CString& path)
     m_calendar.SendMessage(WM_COMMAND, ID_OPTIONS_PRINT);
     UIPrinter::SetOutputFile("");
     return FileUtils::DoesFileExist(path);
-}
-
-void MainWindow::TellUser(const CString& words)
-{
-    if (m_attended)
-        AfxMessageBox(words, MB_OK | MB_ICONEXCLAMATION);
-    else
-        std::fprintf(stderr, "zeb17_demo: %s\n", static_cast<LPCTSTR>(words));
 }

@@ -1,8 +1,9 @@
-// The window of the sample host: the calendar, the panel of its dates, and a line that names the last message
-// heard.
+// The window of the sample host: the calendar, the panel of its dates, the last range of dates and the
+// messages heard.
 #pragma once
 
 #include "DemoCalendar.h"
+#include "HostLog.h"
 #include "SettingsPanel.h"
 
 #include <afxwin.h>
@@ -11,9 +12,11 @@ class MainWindow : public CWnd
 {
 public:
     // `attended`: somebody is there to answer a message box.
-    explicit MainWindow(bool attended) : m_attended(attended) {}
+    explicit MainWindow(bool attended);
 
     bool CreateMain();
+    // Tells the user, once the window is there, if the data file could not be read.
+    void TellLoadError();
     bool SaveWebPage(const CString& path) const { return m_calendar.SaveCalendarWebPage(path); }
     bool PrintToFile(const CString& path);
     void SelectDate(const DateTime& date) { m_calendar.SetDate(date); }
@@ -21,7 +24,9 @@ public:
 protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg LRESULT OnSelChange(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnNoDate(WPARAM wParam, LPARAM lParam);
@@ -29,19 +34,24 @@ protected:
     afx_msg LRESULT OnEscKey(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPromptSaveWebPage(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDateRangeChanged(WPARAM wParam, LPARAM lParam);
+    BOOL PreTranslateMessage(MSG* pMsg) override;
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool CreateStatus();
+    bool CreateHeard();
     bool CreateCalendar();
     void Arrange(int cx, int cy);
-    void TellUser(const CString& words);
+    bool IsInCalendar(HWND window) const;
     void ShowHeard(const char* message, const CString& details);
     CString CurrentDate() const;
 
     const bool m_attended;
+    HostLog m_log;
+    CString m_loadError;
     CFont m_font;
-    CStatic m_status;
+    CStatic m_range;
+    CListBox m_heard;
+    HWND m_lastFocus = nullptr; // while another window is active
     DemoCalendar m_calendar;
     SettingsPanel m_panel{m_calendar};
 };

@@ -88,6 +88,7 @@ public:
             m_window.SelectDate(*m_options.select);
         m_window.ShowWindow(SW_SHOW);
         m_window.UpdateWindow();
+        m_window.TellLoadError();
         return TRUE;
     }
 

@@ -8,16 +8,6 @@
 
 namespace {
 
-// The values of m_nRuleWord, and what lies in m_anRule.
-enum Rule : std::int32_t
-{
-    RULE_NONE = 0,
-    RULE_DAY = 1,              // day, month
-    RULE_DAY_OF_WEEK = 2,      // occurrence, day of week, month
-    RULE_NEAR_DAY = 3,         // day, month, signed day of week
-    RULE_NEAR_DAY_OF_WEEK = 4, // occurrence, day of week, month, signed day of week
-};
-
 // The forms of a stored entry. The first knew neither the flag nor the limit's year.
 constexpr WORD kFirstForm = 1;
 constexpr WORD kCurrentForm = 2;

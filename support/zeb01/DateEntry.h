@@ -31,6 +31,16 @@ public:
         KIND_UNTIL_YEAR = 5, // up to and including m_nStartYear
     };
 
+    // The rule of m_nRuleWord, and what lies in m_anRule; the setters below write both.
+    enum RULE : std::int32_t
+    {
+        RULE_NONE = 0,
+        RULE_DAY = 1,              // day, month
+        RULE_DAY_OF_WEEK = 2,      // occurrence, day of week, month
+        RULE_NEAR_DAY = 3,         // day, month, signed day of week
+        RULE_NEAR_DAY_OF_WEEK = 4, // occurrence, day of week, month, signed day of week
+    };
+
     // A blank entry, which matches no date until a rule is set.
     DateEntry() = default;
     virtual ~DateEntry() = default;
@@ -60,10 +70,10 @@ public:
     // queried year, so what it picks in the year before or after never matches. Any numbers may be asked for.
     bool IsMatch(int nDay, int nMonth, int nYear) const;
 
-    std::int32_t m_nRuleWord = 0; // which rule, see DateEntry.cpp
+    std::int32_t m_nRuleWord = RULE_NONE;
     std::int32_t m_nKind = KIND_EVERY_YEAR;
-    bool m_bRuleFlag = false;      // a fixed date that is kept on the nearest working day
-    std::int32_t m_anRule[4] = {}; // what the rule says, see DateEntry.cpp
+    bool m_bRuleFlag = false; // a fixed date that is kept on the nearest working day
+    std::int32_t m_anRule[4] = {};
     std::int32_t m_nStartYear = 0; // the year of the limit
     std::int32_t m_nID = 0;
     CString m_strDesc;

@@ -17,26 +17,38 @@ start_display() {
     read -r _ xvfb_pid <"$work/xvfb"
 }
 
-# start_demo [DATA]: the sample host on a data folder of that name in the work folder, made when it isn't there.
-start_demo() {
-    local data=${1:-data} options=(--today 2026-11-24 --locale en-US --data)
-    mkdir -p "$work/$data"
+# launch PROGRAM [OPTION...]: runs a program of this platform; what it says goes to $heard and $work/errors.
+launch() {
+    local program=$1
+    shift
     if [ "$platform" = linux ]; then
-        QT_QPA_PLATFORM=xcb "$root/build/linux/bin/zeb17_demo" "${options[@]}" "$work/$data" >"$heard" 2>"$work/errors" &
+        QT_QPA_PLATFORM=xcb "$root/build/linux/bin/$program" "$@" >"$heard" 2>"$work/errors" &
     else
-        "$root/scripts/wine-run" "$root/build/windows/bin/zeb17_demo.exe" "${options[@]}" "Z:${work//\//\\}\\$data" \
-            >"$heard" 2>"$work/errors" &
+        "$root/scripts/wine-run" "$root/build/windows/bin/$program.exe" "$@" >"$heard" 2>"$work/errors" &
     fi
     demo_pid=$!
+}
+
+# wait_for TITLE: waits for the window of that title and leaves its number in $window.
+wait_for() {
     for _ in $(seq 600); do
-        window=$(xdotool search --onlyvisible --name '^zeb17 demo$' 2>/dev/null | head -n 1)
+        window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1)
         [ -z "$window" ] || break
         sleep 0.1
     done
-    [ -n "$window" ] || { echo "the window did not come up"; cat "$work/errors"; exit 1; }
+    [ -n "$window" ] || { echo "the window '$1' did not come up"; cat "$work/errors"; exit 1; }
     sleep 1
     xdotool windowfocus "$window"
     sleep 0.5
+}
+
+# start_demo [DATA]: the sample host on a data folder of that name in the work folder, made when it isn't there.
+start_demo() {
+    local data=$work/${1:-data}
+    mkdir -p "$data"
+    [ "$platform" = linux ] || data="Z:${data//\//\\}"
+    launch zeb17_demo --today 2026-11-24 --locale en-US --data "$data"
+    wait_for 'zeb17 demo'
     seen=0
     measure
 }
@@ -53,7 +65,7 @@ measure() {
     # Without a window manager Wine draws a frame and a caption of its own inside the window.
     [ "$platform" = linux ] || { X=$((X + 4)) Y=$((Y + 23)) WIDTH=$((WIDTH - 8)) HEIGHT=$((HEIGHT - 27)); }
     left=$((X + 12)) top=$((Y + 12))
-    width=$((WIDTH - 12 - 220 - 24)) height=$((HEIGHT - 12 - 20 - 24))
+    width=$((WIDTH - 36 - 280)) height=$((HEIGHT - 24 - 8 - 20 - 80))
     column=$(((width - 2) / 7)) rest=$(((width - 2) % 7))
     [ $rest -lt 5 ] || column=$((column + 1))
     local grid=$((height - 23 - 25 - 2 - 19))
@@ -74,10 +86,15 @@ check() {
         sleep 0.1
     done
     seen=$(lines)
+    compare_texts "$name" "$expected" "$actual"
+}
+
+compare_texts() { # NAME EXPECTED ACTUAL
+    local name=$1 expected=$2 actual=$3
     checks=$((checks + 1))
     [ "$actual" = "$expected" ] && return
     failures=$((failures + 1))
-    printf 'FAILED %s\n  expected: %s\n  heard:    %s\n' "$name" "${expected//$'\n'/ | }" "${actual//$'\n'/ | }"
+    printf 'FAILED %s\n  expected: %s\n  actual:   %s\n' "$name" "${expected//$'\n'/ | }" "${actual//$'\n'/ | }"
 }
 
 click_cell() { # cell 0 to 41

@@ -1,0 +1,46 @@
+// The rules of dates, as the editor takes them apart and as words for the user.
+#pragma once
+
+#include <DateEntry.h>
+#include <DateTime.h>
+
+#include <optional>
+#include <span>
+
+// The numbers that a rule is made of.
+enum class RulePart
+{
+    Day,
+    Month,
+    Occurrence,
+    DayOfWeek,
+    SignedDayOfWeek,
+};
+
+// A kind of rule: its name for the user, and its parts in the order in which m_anRule holds them.
+struct RuleForm
+{
+    DateEntry::RULE rule;
+    const char* name;
+    std::span<const RulePart> parts;
+
+    bool Has(RulePart part) const;
+};
+
+std::span<const RuleForm> RuleForms();
+
+struct Choice
+{
+    int value;
+    const char* name;
+};
+std::span<const Choice> Occurrences();
+std::span<const Choice> YearLimits();
+
+// "The fourth Thursday of November, from 2020", empty without a rule.
+CString DescribeRule(const DateEntry& entry);
+// "Next: Thursday, November 26, 2026", or that there is none.
+CString DescribeNext(const DateEntry& entry);
+
+// The first date from today on; none if the rule falls on no day any more.
+std::optional<DateTime> FindNext(const DateEntry& entry);
