@@ -12,7 +12,7 @@ has_dot() { # NAME CELL COLOUR
         [ "$(dot "$2")" != "$3" ] || break
         sleep 0.1
     done
-    compare_texts "$1" "$3" "$(dot "$2")"
+    check_text "$1" "$3" "$(dot "$2")"
 }
 
 click_entries() { # the row of the user's dates
@@ -59,7 +59,7 @@ drive_desk() {
     import -window root -crop "$around" "$work/before.png"
     sleep 1.5
     import -window root -crop "$around" "$work/after.png"
-    compare_texts 'a tip of an own date' shown "$(cmp -s <(convert "$work/before.png" rgb:-) <(convert "$work/after.png" rgb:-) && echo none || echo shown)"
+    check_text 'a tip of an own date' shown "$(cmp -s <(convert "$work/before.png" rgb:-) <(convert "$work/after.png" rgb:-) && echo none || echo shown)"
     picture desk-tip
 
     press_button s
@@ -70,7 +70,7 @@ drive_desk() {
     click_entries 0
     keys Return
     sleep 0.7
-    keys ctrl+a
+    keys End shift+Home
     xdotool type --delay 40 Show
     picture desk-editor
     keys Tab Tab Tab Up Return # the list of an entry that exists is fixed
@@ -82,11 +82,11 @@ drive_desk() {
     close_demo
     keys Escape
     sleep 0.5
-    compare_texts 'cancelled closing' open "$(is_open)"
+    check_text 'cancelled closing' open "$(is_open)"
     close_demo
     keys Return
     sleep 1
-    compare_texts 'saved and closed' closed "$(is_open)"
+    check_text 'saved and closed' closed "$(is_open)"
     start_demo desk
     has_dot 'the deletion was saved' 21 FFFFFF
     stop_demo
@@ -99,21 +99,21 @@ drive_failures() {
     file=$(data_file desk)
     printf 'damaged' >"$file"
     start_demo desk
-    compare_texts 'a damaged file is told' 1 "$(told 'could not be read')"
+    check_text 'a damaged file is told' 1 "$(told 'could not be read')"
     keys Return
     stop_demo
-    compare_texts 'a damaged file is left as it is' damaged "$(cat "$file")"
+    check_text 'a damaged file is left as it is' damaged "$(cat "$file")"
 
     rm "$file"
     start_demo desk
     add_entry Fair
     mkdir "$file"
     press_button s
-    compare_texts 'a save that fails is told' 1 "$(told 'could not be saved')"
+    check_text 'a save that fails is told' 1 "$(told 'could not be saved')"
     keys Return
     sleep 0.5
     rmdir "$file"
     press_button s
-    compare_texts 'the dates are still there to be saved' yes "$([ -s "$file" ] && echo yes || echo no)"
+    check_text 'the dates are still there to be saved' yes "$([ -s "$file" ] && echo yes || echo no)"
     stop_demo
 }

@@ -86,15 +86,15 @@ check() {
         sleep 0.1
     done
     seen=$(lines)
-    compare_texts "$name" "$expected" "$actual"
+    check_text "$name" "$expected" "$actual"
 }
 
-compare_texts() { # NAME EXPECTED ACTUAL
+check_text() { # NAME EXPECTED ACTUAL
     local name=$1 expected=$2 actual=$3
     checks=$((checks + 1))
     [ "$actual" = "$expected" ] && return
     failures=$((failures + 1))
-    printf 'FAILED %s\n  expected: %s\n  actual:   %s\n' "$name" "${expected//$'\n'/ | }" "${actual//$'\n'/ | }"
+    printf 'FAILED %s\n  expected: %s\n  found:    %s\n' "$name" "${expected//$'\n'/ | }" "${actual//$'\n'/ | }"
 }
 
 click_cell() { # cell 0 to 41

@@ -6,7 +6,7 @@ drive_hosts() {
     sleep 0.5
     local title
     title=$(xdotool getwindowname "$window")
-    compare_texts 'the title of the smallest host tells a date' yes "$([[ $title =~ [0-9]{4} ]] && echo yes || echo "$title")"
+    check_text 'the title of the smallest host tells a date' yes "$([[ $title =~ [0-9]{4} ]] && echo yes || echo "$title")"
     stop_demo
     [ "$platform" = linux ] || return 0
 
@@ -15,7 +15,7 @@ drive_hosts() {
     eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
     xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) click 1
     sleep 0.5
-    compare_texts 'a press in the Qt host is heard' 1 "$(grep -c '[0-9]' "$heard")"
+    check_text 'a press in the Qt host is heard' 1 "$(grep -c '[0-9]' "$heard")"
     picture qt-host
     stop_demo
 }
