@@ -58,14 +58,6 @@ Date NextDay(Date date)
     return {date.nYear + 1, 1, 1};
 }
 
-class ClockReleased : public testing::Test
-{
-protected:
-    void TearDown() override { Clock::Release(); }
-};
-
-using DateTimeToday = ClockReleased;
-
 }
 
 TEST(DateTime, CountsEveryDayOfTheRange)
@@ -249,7 +241,7 @@ TEST(DateTime, CarriesTheTimeAlongAndComparesDatesOnly)
     EXPECT_EQ(DateTime(2021, 4, 4, 24, 0, 0).m_nTimeWord, -1);
 }
 
-TEST_F(DateTimeToday, IsWhatTheClockSays)
+TEST(DateTime, IsTodayWhatTheClockSays)
 {
     Clock::SetFixed({2024, 2, 29, 23, 59, 58});
     DateTime now;

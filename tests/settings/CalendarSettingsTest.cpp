@@ -106,11 +106,6 @@ TEST_F(Settings, KeepTheColourOverAHiddenCalculatedDate)
     DWORD dwColor = 7;
     EXPECT_EQ(m_settings.GetDateDesc(4, 4, 2021, dwColor), "Eerste Paasdag");
     EXPECT_EQ(dwColor, 3U);
-
-    m_settings.SetAllShow(GroupNetherlands, false);
-    dwColor = 7;
-    EXPECT_TRUE(m_settings.GetDateDesc(4, 4, 2021, dwColor).IsEmpty());
-    EXPECT_EQ(dwColor, 7U);
 }
 
 TEST_F(Settings, NumberTheUsersDatesAndNeverReuseANumber)

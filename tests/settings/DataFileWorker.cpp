@@ -1,7 +1,6 @@
 // A process that works on the data file, as SaveTest runs it:
 //
-//     data_file_worker DIRECTORY save MARK      saves the settings of that mark once
-//     data_file_worker DIRECTORY die MARK N     the same, but ends without a word at the Nth file operation
+//     data_file_worker DIRECTORY die MARK N     saves, but ends without a word at the Nth file operation
 //     data_file_worker DIRECTORY share MARK N   N times: loads, checks that all is of one mark, and saves its
 //     own
 //
@@ -47,10 +46,8 @@ int Run(const std::string& strAction, int nMark, int nNumber)
         return Share(nMark, nNumber) ? EXIT_SUCCESS : EXIT_FAILURE;
     CalendarSettings settings;
     SetMark(settings, nMark);
-    if (strAction == "die") {
-        g_nOperationsLeft = nNumber;
-        g_fileFault = DieAtLast;
-    }
+    g_nOperationsLeft = nNumber;
+    g_fileFault = DieAtLast;
     settings.Save();
     return EXIT_SUCCESS;
 }
@@ -59,11 +56,11 @@ int Run(const std::string& strAction, int nMark, int nNumber)
 
 int main(int argc, char** argv)
 {
-    if (argc < 4)
+    if (argc < 5)
         return 2;
     ZebrikUtils::SetDataDirectory(argv[1]);
     try {
-        return Run(argv[2], std::atoi(argv[3]), argc > 4 ? std::atoi(argv[4]) : 0);
+        return Run(argv[2], std::atoi(argv[3]), std::atoi(argv[4]));
     } catch (CException* pException) {
         pException->Delete();
         return 3;

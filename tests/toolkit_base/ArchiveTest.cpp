@@ -1,7 +1,7 @@
 // The bytes of an archive, and archives that lie.
 #include <afx.h>
 
-#include <FileFault.h>
+#include <FullDisk.h>
 #include <TemporaryDirectory.h>
 
 #include <gtest/gtest.h>
@@ -17,8 +17,6 @@ namespace {
 class Archive : public testing::Test
 {
 protected:
-    ~Archive() override { g_fileFault = nullptr; }
-
     std::string Path() const { return m_directory.PathOf("a.dat"); }
 
     std::string BytesOf(const std::function<void(CArchive&)>& write)
@@ -222,9 +220,7 @@ TEST_F(Archive, BuffersWholeAndInPart)
 
 TEST_F(Archive, ReportsAFailedWriteOnceAndDropsWhatIsBufferedWhileAnExceptionPasses)
 {
-    g_fileFault = [](FileOperation operation) -> DWORD {
-        return operation == FileOperation::Write ? ERROR_DISK_FULL : ERROR_SUCCESS;
-    };
+    const FullDisk disk(1);
     const auto closeInDestructor = [this] {
         CFile file(Path().c_str(), 0x1001);
         CArchive(&file, CArchive::store) << 1;
