@@ -1,6 +1,8 @@
 // Text fields, lists and combo boxes. Included by afxwin.h.
 #pragma once
 
+#include <afxwin.h>
+
 // Their notifications, in the message map of the parent.
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
 #define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)

@@ -1,0 +1,50 @@
+# What a customer gets: the library, its headers, and the ways to find it. The control's own headers lie in
+# include/zeb17, those that they include in folders below it, one a layer.
+set(folders support toolkit)
+set(headers_support support/zeb01 support/zeb02 support/zeb06 support/zeb12 support/zeb13 support/zeb15)
+set(headers_toolkit toolkit/base toolkit/window)
+if(NOT WIN32)
+    list(APPEND folders winapi)
+    set(headers_winapi winapi/include)
+endif()
+
+set(include_dir "${CMAKE_INSTALL_INCLUDEDIR}/zeb17")
+set(config_dir "${CMAKE_INSTALL_LIBDIR}/cmake/zeb17")
+install(DIRECTORY zeb17/datemodel/ zeb17/settings/ zeb17/calendarwnd/ cmake/export/
+    DESTINATION "${include_dir}" COMPONENT development FILES_MATCHING PATTERN "*.h"
+    REGEX "/(CalendarTexts|DateTexts|LogLine|MonthBlock)\\.h$" EXCLUDE)
+target_include_directories(zeb17 PUBLIC "$<INSTALL_INTERFACE:${include_dir}>")
+set(ZEB17_PC_CFLAGS "-I\${includedir}/zeb17")
+foreach(folder IN LISTS folders)
+    list(TRANSFORM headers_${folder} APPEND "/")
+    install(DIRECTORY ${headers_${folder}}
+        DESTINATION "${include_dir}/${folder}" COMPONENT development FILES_MATCHING PATTERN "*.h"
+        REGEX "/(FileFault|WideText|handlemap|threadstate|wndproc)\\.h$" EXCLUDE)
+    target_include_directories(zeb17 PUBLIC "$<INSTALL_INTERFACE:${include_dir}/${folder}>")
+    string(APPEND ZEB17_PC_CFLAGS " -I\${includedir}/zeb17/${folder}")
+endforeach()
+
+target_compile_features(zeb17 INTERFACE cxx_std_20)
+install(TARGETS zeb17 EXPORT zeb17
+    RUNTIME COMPONENT runtime
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development)
+install(EXPORT zeb17 NAMESPACE zeb17:: FILE zeb17Targets.cmake DESTINATION "${config_dir}" COMPONENT development)
+
+include(CMakePackageConfigHelpers)
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/package/zeb17ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
+    "${CMAKE_BINARY_DIR}/package/zeb17ConfigVersion.cmake"
+    DESTINATION "${config_dir}" COMPONENT development)
+
+if(WIN32)
+    install(FILES ${ZEB17_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+    install(TARGETS zeb17_demo RUNTIME COMPONENT demo)
+else()
+    set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+    file(RELATIVE_PATH ZEB17_PC_PREFIX "/${pc_dir}" /)
+    string(REGEX REPLACE "/$" "" ZEB17_PC_PREFIX "${ZEB17_PC_PREFIX}")
+    configure_file(cmake/package/zeb17.pc.in "${CMAKE_BINARY_DIR}/package/zeb17.pc" @ONLY)
+    install(FILES "${CMAKE_BINARY_DIR}/package/zeb17.pc"
+        DESTINATION "${pc_dir}" COMPONENT development)
+endif()

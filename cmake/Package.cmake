@@ -1,0 +1,33 @@
+# CPack: on Linux two Debian packages, on Windows one archive. scripts/package makes them.
+set(CPACK_PACKAGE_VENDOR "zeb17")
+set(CPACK_PACKAGE_CONTACT "The zeb17 developers <zeb17@localhost>")
+set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "month-calendar control with special dates")
+set(CPACK_STRIP_FILES ON)
+
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_PACKAGE_FILE_NAME "zeb17-${PROJECT_VERSION}-windows-x86_64")
+else()
+    set(CPACK_GENERATOR DEB)
+    set(CPACK_DEB_COMPONENT_INSTALL ON)
+    set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+    set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+    set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "libzeb17-${PROJECT_VERSION_MAJOR}")
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS fonts-liberation)
+    set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+        "A window control that shows a month with special dates, dots and tool tips,\nprints it and writes it as a web page.")
+
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libzeb17-dev)
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION})")
+    set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+        "The headers of the month-calendar control zeb17, and what CMake and pkg-config\nneed to find it.")
+    set(CPACK_COMPONENTS_ALL runtime development)
+endif()
+include(CPack)
