@@ -6,14 +6,15 @@
 class ZEB17_EXPORT Clock
 {
 public:
+    // A moment in local time.
     struct Moment
     {
-        int nYear;
-        int nMonth;
-        int nDay;
-        int nHour;
-        int nMinute;
-        int nSecond;
+        int nYear;   // 1 to 9999
+        int nMonth;  // 1 to 12
+        int nDay;    // 1 to 31
+        int nHour;   // 0 to 23
+        int nMinute; // 0 to 59
+        int nSecond; // 0 to 59
     };
 
     // The fixed moment if one is set, else the local time of the system.

@@ -54,6 +54,7 @@ public:
     // Whether there is a description and a rule that falls on a date in some year.
     virtual bool IsValid() const;
 
+    // What the user reads; the rule stays.
     void SetDesc(const CString& strDesc);
 
     // The rules. Each sets the description too and replaces the rule set before; the limit of years stays.
@@ -70,13 +71,13 @@ public:
     // queried year, so what it picks in the year before or after never matches. Any numbers may be asked for.
     bool IsMatch(int nDay, int nMonth, int nYear) const;
 
-    std::int32_t m_nRuleWord = RULE_NONE;
-    std::int32_t m_nKind = KIND_EVERY_YEAR;
-    bool m_bRuleFlag = false; // a fixed date that is kept on the nearest working day
-    std::int32_t m_anRule[4] = {};
-    std::int32_t m_nStartYear = 0; // the year of the limit
-    std::int32_t m_nID = 0;
-    CString m_strDesc;
+    std::int32_t m_nRuleWord = RULE_NONE;   // a RULE
+    std::int32_t m_nKind = KIND_EVERY_YEAR; // the limit of years, a KIND
+    bool m_bRuleFlag = false;               // a fixed date that is kept on the nearest working day
+    std::int32_t m_anRule[4] = {};          // what the rule says, see RULE
+    std::int32_t m_nStartYear = 0;          // the year of the limit
+    std::int32_t m_nID = 0;                 // its number, by which the data file knows a national entry
+    CString m_strDesc;                      // what the user reads
 
 private:
     bool HoldsInYear(int nYear) const;

@@ -21,6 +21,7 @@ public:
     DateTime() = default;
     DateTime(int nYear, int nMonth, int nDay, int nHour, int nMinute, int nSecond);
 
+    // Whether this is a date.
     bool IsValid() const { return DayNumbers::IsValid(m_nDayNumber); }
 
     // Month 1 to 12, day from 1, hour 0 to 23.
@@ -44,6 +45,7 @@ public:
             m_nDayNumber = static_cast<std::int32_t>(static_cast<std::uint32_t>(m_nDayNumber) +
                                                      static_cast<std::uint32_t>(nDays));
     }
+    // As AddDays, in longer steps.
     void AddWeeks(int nWeeks);
     void AddMonths(int nMonths);
     void AddYears(int nYears);

@@ -12,22 +12,23 @@
 
 namespace DayNumbers {
 
+// A date as three numbers.
 struct Date
 {
-    int nYear;
-    int nMonth;
-    int nDay;
+    int nYear;  // 1 to 9999
+    int nMonth; // 1 to 12
+    int nDay;   // 1 to 31
 
-    constexpr bool operator==(const Date&) const = default;
+    constexpr bool operator==(const Date&) const = default; // the same day
 };
 
-inline constexpr int kMinYear = 1;
-inline constexpr int kMaxYear = 9999;
-inline constexpr std::int32_t kNone = 0;
-inline constexpr std::int32_t kFirst = 1;
-inline constexpr std::int32_t kLast = 3652061;
-inline constexpr Date kGregorianStart{1582, 10, 15};
-inline constexpr int kLastJulianDay = 4; // of October 1582
+inline constexpr int kMinYear = 1;                   // the first year of the range
+inline constexpr int kMaxYear = 9999;                // the last one
+inline constexpr std::int32_t kNone = 0;             // no date
+inline constexpr std::int32_t kFirst = 1;            // 1 January of year 1
+inline constexpr std::int32_t kLast = 3652061;       // 31 December 9999
+inline constexpr Date kGregorianStart{1582, 10, 15}; // the first day of the Gregorian calendar
+inline constexpr int kLastJulianDay = 4;             // of October 1582
 
 // 577737 Julian days from 1 January 1 to 4 October 1582: 1581 * 365 + 395 leap days + 277 days of 1582.
 inline constexpr std::int32_t kFirstGregorian = 577738;
@@ -37,14 +38,16 @@ inline constexpr std::uint32_t kJulianShift = 305;
 // The Gregorian 1 March 0 lies two days after the Julian one: 305 - 2 = 303.
 inline constexpr std::uint32_t kGregorianShift = 303;
 
-inline constexpr std::uint32_t kDaysInFourYears = 1461;
-inline constexpr std::uint32_t kDaysInFourCenturies = 146097;
+inline constexpr std::uint32_t kDaysInFourYears = 1461;       // Julian
+inline constexpr std::uint32_t kDaysInFourCenturies = 146097; // Gregorian
 
+// Whether the number stands for a date.
 constexpr bool IsValid(std::int32_t nDayNumber)
 {
     return static_cast<std::uint32_t>(nDayNumber) - 1U < static_cast<std::uint32_t>(kLast);
 }
 
+// By the Julian rule up to 1582, by the Gregorian one from then on.
 constexpr bool IsLeapYear(int nYear)
 {
     if (nYear <= kGregorianStart.nYear || nYear % 100 != 0)

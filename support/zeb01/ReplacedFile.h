@@ -12,6 +12,7 @@
 class ZEB17_EXPORT ReplacedFile : public CFile
 {
 public:
+    // Opens the file beside the one that it will replace, for writing.
     explicit ReplacedFile(const CString& strPath);
     ~ReplacedFile() override;
 

@@ -19,11 +19,13 @@ constexpr int Key(std::size_t nIndex)
     return static_cast<int>((nIndex * 7919 + 271) % 1021) + 128;
 }
 
+// The stored integer of the character at that place.
 constexpr int Encipher(char ch, std::size_t nIndex)
 {
     return static_cast<unsigned char>(ch) ^ Key(nIndex);
 }
 
+// The inverse of Encipher.
 constexpr char Decipher(int nValue, std::size_t nIndex)
 {
     return static_cast<char>((nValue ^ Key(nIndex)) & 0xFF);

@@ -9,7 +9,9 @@
 class ZEB17_EXPORT TextArray
 {
 public:
+    // Appends a line.
     void Add(const CString& strText) { m_vTexts.push_back(strText); }
+
     // Takes over the texts of the list in their order, in place of its own.
     void CopyFromList(const CStringList& list);
 
@@ -17,6 +19,7 @@ public:
     // the size of the array if not. Without bMatchCase the letters A to Z equal a to z.
     std::size_t Find(const CString& strText, bool bMatchCase, bool& bFound) const;
 
+    // The lines; the index is below the size.
     std::size_t GetSize() const { return m_vTexts.size(); }
     const CString& GetAt(std::size_t nIndex) const { return m_vTexts[nIndex]; }
 

@@ -19,6 +19,7 @@ public:
     MTMutex(const MTMutex&) = delete;
     MTMutex& operator=(const MTMutex&) = delete;
 
+    // Whether there is a mutex.
     bool IsValid() const { return m_hMutex != nullptr; }
 
     // Waits until the mutex is the calling thread's. False if there is no mutex or the wait failed.

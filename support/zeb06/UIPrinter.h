@@ -34,6 +34,7 @@ protected:
     // Gets the printer's context: from the user's dialog, or the default printer's.
     virtual void InitPrintProcess();
 
+    // Make the fonts of the three parts of a page.
     virtual void CreateHeaderFont(CFont& font) const;
     virtual void CreateContentFont(CFont& font) const;
     virtual void CreateFooterFont(CFont& font) const;
@@ -52,6 +53,7 @@ protected:
     virtual unsigned int DoCalculatePagesAcross();
     virtual unsigned int DoCalculatePagesDown();
 
+    // Prints all pages, and one of them: heading, content and footer.
     virtual void PrintPages();
     virtual void PrintPage();
 
@@ -65,6 +67,7 @@ protected:
     // Gives the texts of the footer: left, centre, right.
     virtual void GetPageTexts(CString& strLeft, CString& strCenter, CString& strRight);
 
+    // The footer: the texts that GetPageTexts gives.
     virtual void PrintPageFooter();
 
     // Ends the job; gives it up if something failed.

@@ -8,6 +8,7 @@
 class ZEB17_EXPORT BkgStyle
 {
 public:
+    // The components that have a look, by the numbers of the family.
     enum UIComponent
     {
         UIPushButton = 13
@@ -24,6 +25,7 @@ public:
     // replaced. False, with `pProps` untouched, if the style says nothing about the component.
     bool Get(UIComponent eComponent, ShadeProps*& pProps) const;
 
+    // Copies the properties for a component.
     void Set(UIComponent eComponent, const ShadeProps& props);
 
 private:

@@ -8,6 +8,7 @@
 class ZEB17_EXPORT ShadeProps
 {
 public:
+    // What a face is drawn for: at rest, under the mouse, held down, disabled.
     enum State
     {
         StateNormal,
@@ -25,15 +26,17 @@ public:
     // A face runs from `m_crFrom` at its top to `m_crTo` at its bottom; equal colours make it flat.
     struct Face
     {
-        COLORREF m_crFrom;
-        COLORREF m_crTo;
-        COLORREF m_crBorder;
+        COLORREF m_crFrom;   // 0x00BBGGRR, as all colours
+        COLORREF m_crTo;     // the other end of the shading
+        COLORREF m_crBorder; // the line around it
     };
 
     // A flat look in the colours that the system has for push buttons.
     ShadeProps();
+    // One face a state, in the order of the states.
     explicit ShadeProps(const std::array<Face, StateCount>& aFaces);
 
+    // The face of a state.
     const Face& GetFace(State eState) const { return m_aFaces[eState]; }
 
     // Fills `rect` with the face of the state and draws its border, 1 pixel wide, inside the edge.

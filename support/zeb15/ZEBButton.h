@@ -40,11 +40,13 @@ public:
     bool m_bIconOnly = false;
 
 protected:
+    // Draws the whole button: face, icon, caption and focus rectangle.
     void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
 
     // Whether the button shows itself pressed while nobody presses it; a push button never does.
     virtual bool IsChecked() const;
 
+    // Whether the button has the keyboard focus.
     virtual bool GetHaveFocus() const;
 
     // Divides the content rectangle between icon and caption: gives the icon's upper left corner and

@@ -25,6 +25,7 @@ struct Cell;
 struct Place;
 }
 
+// The control. Its members are protected, not private: hosts may derive from it.
 class ZEB17_EXPORT CCalendarWnd : public CWnd
 {
 public:
@@ -89,6 +90,7 @@ public:
 protected:
     class Accessible;
 
+    // The ids of the buttons, by which they send their commands.
     enum ButtonId : UINT
     {
         PrevYearButtonId = 2600,
@@ -107,6 +109,8 @@ protected:
         Today,
         Shown
     };
+
+    // How long a date range is.
     enum class RangeUnit
     {
         Month,
@@ -115,6 +119,8 @@ protected:
         Weeks
     };
 
+    // Handles the keys of the control and its buttons, and shows its tips the messages. TRUE for a Tab that
+    // moved the focus.
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // Creation.
@@ -181,6 +187,7 @@ protected:
     static DateTime GetRangeStart(DateTime date, RangeUnit unit, int nCount);
     static DateTime GetRangeEnd(DateTime start, RangeUnit unit); // of all units but weeks
 
+    // The handlers of the messages that they are named for; points and sizes in pixels of the client area.
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
@@ -193,6 +200,7 @@ protected:
     afx_msg BOOL OnToolTipNotify(UINT id, NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 
+    // The handlers of the buttons.
     afx_msg void OnPreviousYearButton();
     afx_msg void OnNextYearButton();
     afx_msg void OnPreviousMonthButton();
@@ -201,6 +209,7 @@ protected:
     afx_msg void OnClearButton();
     afx_msg void OnOptionsButton();
 
+    // The handlers of the options menu.
     afx_msg void OnUpdateOptionsCopydatelongform(CCmdUI* pCmdUI);
     afx_msg void OnUpdateOptionsCopydateshortform(CCmdUI* pCmdUI);
     afx_msg void OnUpdateOptionsGeneratewebpage(CCmdUI* pCmdUI);
@@ -230,19 +239,21 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
-    bool m_bHaveDate = false; // a date is selected
-    bool m_bUseSpecialDates = false;
-    bool m_bAllowNoDate = true;
-    bool m_bShowOptions = true;
-    bool m_bAllowWebPage = true;
-    bool m_bAllowDateRanges = false;
-    int m_nFirstDayColumn = -1;     // column of day 1, 1 to 7, as last painted; -1 before that
-    int m_nTodayCell = -1;          // cell of today, 0 to 41; -1 if today is outside the block
-    unsigned int m_nNextToolId = 0; // id that the next tool of m_toolTip gets
-    DateTime m_date;                // its month is shown; it is the selected date if m_bHaveDate
-    CalendarSettings m_settings;
-    CWnd* m_pParent = nullptr;      // not owned
-    CZEBButton* m_pMonthYearButton; // the eight buttons are owned
+    bool m_bHaveDate = false;        // a date is selected
+    bool m_bUseSpecialDates = false; // this and the next four as Create was told
+    bool m_bAllowNoDate = true;      // Clear is offered
+    bool m_bShowOptions = true;      // the menu is offered
+    bool m_bAllowWebPage = true;     // so is the web page in it
+    bool m_bAllowDateRanges = false; // and the date ranges
+    int m_nFirstDayColumn = -1;      // column of day 1, 1 to 7, as last painted; -1 before that
+    int m_nTodayCell = -1;           // cell of today, 0 to 41; -1 if today is outside the block
+    unsigned int m_nNextToolId = 0;  // id that the next tool of m_toolTip gets
+    DateTime m_date;                 // its month is shown; it is the selected date if m_bHaveDate
+    CalendarSettings m_settings;     // the special dates
+    CWnd* m_pParent = nullptr;       // hears the messages; not owned
+
+    // The buttons, which the control owns. The title is a disabled one.
+    CZEBButton* m_pMonthYearButton;
     CZEBButton* m_pPrevMonthButton;
     CZEBButton* m_pNextMonthButton;
     CZEBButton* m_pPrevYearButton;
@@ -250,13 +261,14 @@ protected:
     CZEBButton* m_pTodayButton;
     CZEBButton* m_pClearButton;
     CDownArrowButton* m_pOptionsButton;
-    CFont m_fontGrid;
-    CRect m_rcGrid;               // in client coordinates, as all rectangles here
-    CRect m_rcSelection;          // text rectangle of the cell of m_date; empty if not known
-    CRect m_rcToday;              // today's highlight, as last painted
-    CToolTipCtrl m_toolTip;       // one tool for each special cell
-    std::vector<int> m_vRowEdges; // empty, or 8 positions
-    std::vector<int> m_vColumnEdges;
+
+    CFont m_fontGrid;                   // of names and numbers
+    CRect m_rcGrid;                     // in client coordinates, as all rectangles here
+    CRect m_rcSelection;                // text rectangle of the cell of m_date; empty if not known
+    CRect m_rcToday;                    // today's highlight, as last painted
+    CToolTipCtrl m_toolTip;             // one tool for each special cell
+    std::vector<int> m_vRowEdges;       // empty, or 8 positions
+    std::vector<int> m_vColumnEdges;    // likewise
     std::vector<COLORREF> m_vDayColors; // one entry for each of the 42 cells
-    std::vector<CString> m_vDayDescs;
+    std::vector<CString> m_vDayDescs;   // likewise; empty where nothing is special
 };

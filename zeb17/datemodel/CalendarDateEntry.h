@@ -27,6 +27,7 @@ public:
     // Stores or loads the entry with all but the calculated flag. Failures are the archive's exceptions.
     void Serialize(CArchive& archive) override;
 
+    // What the operations above set and give.
     bool m_bShow = true;
     bool m_bCalculated = false;
     DWORD m_dwColor = 0xFFFFFF;

@@ -27,13 +27,17 @@ public:
     // hidden.
     virtual bool Lookup(int nDay, int nMonth, int nYear, CString& strDesc, DWORD& dwColor) const = 0;
 
+    // The entries, which stay the group's. Null past the end.
     size_t GetCount() const { return m_Entries.size(); }
-    // The entry stays the group's. Null past the end.
     CalendarDateEntry* GetAt(size_t nIndex) const;
+
+    // Give all entries a colour, 0x00BBGGRR, or show or hide them all.
     void SetAllColor(DWORD dwColor);
     void SetAllShow(bool bShow);
 
 protected:
+    // For the constructors of the groups: a blank entry, a fixed date (month 1 to 12, day 1 to 31), an entry
+    // whose date the group works out, and all that a table says.
     CalendarDateEntry* AddEntry();
     void AddDay(int nID, int nMonth, int nDay, const CString& strDesc, bool bRuleFlag);
     void AddCalculated(int nID, const CString& strDesc);

@@ -14,7 +14,9 @@ public:
     void Delete(const CalendarDateEntry* pEntry);
 
 protected:
+    // Stores a section: its word, the number of records, the records.
     void StoreEntries(CArchive& archive, WORD wSectionWord);
+
     // Takes the place of the old entries, with the records read before an exception of the archive.
     void LoadEntries(CArchive& archive, size_t nCount);
 

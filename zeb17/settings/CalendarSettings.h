@@ -21,6 +21,7 @@ class MTMutex;
 class ZEB17_EXPORT CalendarSettings
 {
 public:
+    // The groups of special dates.
     enum Group : int
     {
         GroupUS,
@@ -37,6 +38,7 @@ public:
     CalendarSettings(const CalendarSettings&) = delete;
     CalendarSettings& operator=(const CalendarSettings&) = delete;
 
+    // The name of a group, by which the oldest data file knows it, and the number of its entries.
     static CString GetName(Group group);
     size_t GetCount(Group group) const;
 
@@ -53,7 +55,8 @@ public:
     // the colour of the last entry reported, 0x00BBGGRR, and stays as it is if there is none.
     CString GetDateDesc(int nDay, int nMonth, int nYear, DWORD& dwColor) const;
 
-    void SetAllColor(Group group, DWORD dwColor); // 0x00BBGGRR
+    // Gives all entries of a group a colour, 0x00BBGGRR, or shows or hides them all.
+    void SetAllColor(Group group, DWORD dwColor);
     void SetAllShow(Group group, bool bShow);
 
     // An added entry, which must come from new, gets the next id and is owned by its group; null is ignored.
@@ -81,8 +84,9 @@ protected:
     // The newest data file that exists, and the version that its path stands for.
     bool GetReadFromDataFile(unsigned short& nVersion, CString& strPath) const;
 
+    // The readers of the forms; the second serves version 3 too. They throw what Load throws.
     void ReadDataFileVersion1(CArchive& archive);
-    void ReadDataFileVersion2(CArchive& archive); // and version 3
+    void ReadDataFileVersion2(CArchive& archive);
     void ReadDataFileVersion4(CArchive& archive);
 
 private:
