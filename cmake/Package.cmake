@@ -18,7 +18,7 @@ else()
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "libzeb17-${PROJECT_VERSION_MAJOR}")
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-    set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+    set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
     set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS fonts-liberation)
     set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
         "A window control that shows a month with special dates, dots and tool tips,\nprints it and writes it as a web page.")
