@@ -195,7 +195,8 @@ void CalendarTest::ExpectMonth()
                           calendar->m_vDayDescs);
     };
     const auto found = look();
-    calendar->RefreshMonth();
+    calendar->UpdateMonthYearText();
+    calendar->DetermineSpecialDays();
     ASSERT_TRUE(found == look());
 }
 

@@ -172,22 +172,19 @@ std::string MessageRecorder::take()
 
 std::string MessageRecorder::nameOf(HWND window) const
 {
-    const auto found = std::find_if(m_named.begin(), m_named.end(),
-                                    [&](const Named& named) { return named.window == window; });
-    return found == m_named.end() ? "-" : found->name;
+    const Named* const named = find(window);
+    return named ? named->name : "-";
 }
 
-MessageRecorder::Named* MessageRecorder::find(HWND window)
+const MessageRecorder::Named* MessageRecorder::find(HWND window) const
 {
-    const auto found = std::find_if(m_named.begin(), m_named.end(),
-                                    [&](const Named& named) { return named.window == window; });
+    const auto found = std::ranges::find(m_named, window, &Named::window);
     return found == m_named.end() ? nullptr : &*found;
 }
 
 void MessageRecorder::note(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const auto entry = std::find_if(std::begin(known), std::end(known),
-                                    [&](const auto& one) { return one.message == message; });
+    const auto entry = std::ranges::find(known, message, [](const auto& one) { return one.message; });
     if (entry == std::end(known))
         return;
     const std::string name = entry->name;

@@ -41,7 +41,7 @@ private:
     };
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void note(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    Named* find(HWND window);
+    const Named* find(HWND window) const;
 
     std::vector<Named> m_named;
     std::string m_creating;

@@ -22,6 +22,13 @@ void runQt()
         QCoreApplication::processEvents(QEventLoop::AllEvents);
 }
 
+void sendKey(QWidget* widget, int key, const QString& text = {})
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(widget, &event);
+    serveMessages();
+}
+
 std::vector<UINT> offered;
 UINT swallowed;
 
@@ -172,9 +179,7 @@ TEST_F(QtHost, TheKeyboardGoesInAndOut)
     EXPECT_EQ(GetFocus(), child) << "the child that had it last";
 
     SetFocus(top);
-    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, "\t");
-    QCoreApplication::sendEvent(widget, &tab);
-    runQt();
+    sendKey(widget, Qt::Key_Tab, "\t");
     EXPECT_TRUE(after->hasFocus());
 }
 
@@ -207,13 +212,9 @@ TEST_F(QtHost, AModifierLetGoElsewhereIsNoticed)
 {
     const HWND top = recorder.createTop("t");
     QWidget* const widget = QWidgetFromWindow(top);
-    QKeyEvent shift(QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &shift);
-    serveMessages();
+    sendKey(widget, Qt::Key_Shift);
     EXPECT_TRUE(GetKeyState(VK_SHIFT) & 0x8000);
-    QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
-    QCoreApplication::sendEvent(widget, &letter);
-    serveMessages();
+    sendKey(widget, Qt::Key_A, "a");
     EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
 }
 
