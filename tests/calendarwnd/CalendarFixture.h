@@ -23,12 +23,10 @@ inline constexpr UINT kCalendarId = 300;
 class TestCalendar : public CCalendarWnd
 {
 public:
-    using CCalendarWnd::ButtonId;
     using CCalendarWnd::m_bAllowDateRanges;
     using CCalendarWnd::m_bAllowNoDate;
     using CCalendarWnd::m_bAllowWebPage;
     using CCalendarWnd::m_bHaveDate;
-    using CCalendarWnd::m_bShowOptions;
     using CCalendarWnd::m_bUseSpecialDates;
     using CCalendarWnd::m_date;
     using CCalendarWnd::m_nFirstDayColumn;
@@ -56,12 +54,10 @@ public:
     using CCalendarWnd::DetermineSpecialDays;
     using CCalendarWnd::FilterOptionsMenu;
     using CCalendarWnd::GetCellRect;
-    using CCalendarWnd::MoveSelectionRect;
     using CCalendarWnd::OnClearButton;
     using CCalendarWnd::OnMouseHWheel;
     using CCalendarWnd::OnOptionsButton;
     using CCalendarWnd::OnSize;
-    using CCalendarWnd::OnTodayButton;
     using CCalendarWnd::OnToolTipNotify;
     using CCalendarWnd::PreTranslateMessage;
     using CCalendarWnd::RefreshMonth;
