@@ -15,14 +15,19 @@ public:
     TemporaryDirectory()
     {
         static int count = 0;
-        m_path = std::filesystem::temp_directory_path() /
-                 ("zeb17-test-" + std::to_string(GetCurrentProcessId()) + "-d" + std::to_string(++count));
-        std::filesystem::create_directories(m_path);
+        do // the id of a process that was killed, and left a directory behind, comes again
+            m_path = std::filesystem::temp_directory_path() /
+                     ("zeb17-test-" + std::to_string(GetCurrentProcessId()) + "-d" + std::to_string(++count));
+        while (!std::filesystem::create_directory(m_path));
     }
     ~TemporaryDirectory()
     {
+        namespace fs = std::filesystem;
         std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
+        // Read-only files would stay.
+        for (const auto& entry : fs::recursive_directory_iterator(m_path, ignored))
+            fs::permissions(entry, fs::perms::owner_write, fs::perm_options::add, ignored);
+        fs::remove_all(m_path, ignored);
     }
     TemporaryDirectory(const TemporaryDirectory&) = delete;
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
