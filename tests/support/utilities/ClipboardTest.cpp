@@ -33,14 +33,4 @@ TEST(Clipboard, TakesTheTextInPlaceOfTheOld)
     EXPECT_EQ(ClipboardText(), "M\xC3\xA4rz");
 }
 
-TEST(Clipboard, TellsWhenItIsTaken)
-{
-    ASSERT_TRUE(ClipboardUtils::CopyTextToClipboard("mine"));
-    EXPECT_TRUE(IsClipboardFormatAvailable(CF_UNICODETEXT));
-    const auto memory = GlobalAlloc(GMEM_MOVEABLE, 4);
-    EXPECT_EQ(SetClipboardData(CF_UNICODETEXT, memory), nullptr) << "not open";
-    GlobalFree(memory);
-    EXPECT_EQ(ClipboardText(), "mine");
-}
-
 }

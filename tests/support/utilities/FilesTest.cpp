@@ -4,13 +4,10 @@
 #include <ReplacedFile.h>
 #include <TextArray.h>
 
-#include <FullDisk.h>
 #include <TemporaryDirectory.h>
 #include <WideText.h>
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace std::string_literals;
 
@@ -57,23 +54,6 @@ TEST_F(Files, AreReplacedWholeOrNotAtAll)
     EXPECT_EQ(m_directory.Names(), Names{"a.dat"}) << "nothing is left behind";
     EXPECT_EQ(CauseOfReplacing(path, "second"), CFileException::none);
     EXPECT_EQ(m_directory.Read("a.dat"), "second");
-}
-
-TEST_F(Files, SurviveTheFailureOfEveryOperation)
-{
-    const CString path = PathOf("a.dat");
-    m_directory.Write("a.dat", "old");
-    int failures = 0;
-    for (int operation = 1;; ++operation) {
-        const FullDisk disk(operation);
-        if (CauseOfReplacing(path, "new") == CFileException::none)
-            break;
-        ++failures;
-        EXPECT_EQ(m_directory.Read("a.dat"), "old") << operation;
-        EXPECT_EQ(m_directory.Names(), Names{"a.dat"}) << operation;
-    }
-    EXPECT_EQ(failures, 5) << "create, write, flush, close, rename";
-    EXPECT_EQ(m_directory.Read("a.dat"), "new");
 }
 
 TEST_F(Files, AreNotReplacedWhereTheyMustNot)
@@ -137,15 +117,6 @@ TEST_F(Files, OfTextAreUtf8WithTheLineEndsOfAllReaders)
     EXPECT_EQ(m_directory.Read("page.html"), "<html>\r\n\r\nM\xC3\xA4rz\r\n");
     EXPECT_TRUE(FileUtils::WriteFileContent(path, lines, true, 2));
     EXPECT_EQ(m_directory.Read("page.html"), "\xEF\xBB\xBF  <html>\r\n  \r\n  M\xC3\xA4rz\r\n");
-}
-
-TEST_F(Files, ExistOrNot)
-{
-    m_directory.Write("a", "");
-    EXPECT_TRUE(FileUtils::DoesFileExist(PathOf("a")));
-    EXPECT_FALSE(FileUtils::DoesFileExist(PathOf("b")));
-    EXPECT_FALSE(FileUtils::DoesFileExist(PathOf(".")));
-    EXPECT_FALSE(FileUtils::DoesFileExist(""));
 }
 
 TEST_F(Files, HaveDirectoriesMadeAllTheWay)

