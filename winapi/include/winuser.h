@@ -269,6 +269,7 @@
 #define VK_OEM_MINUS 0xBD
 #define VK_OEM_PERIOD 0xBE
 #define VK_OEM_2 0xBF
+#define VK_PACKET 0xE7 // text that is not of one key
 
 // ---- styles ----
 

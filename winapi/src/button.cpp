@@ -40,6 +40,7 @@ private:
     void paintCheck(HDC dc, RECT rect);
     void paintGroup(HDC dc, RECT rect);
     void drawMark(HDC dc, const RECT& rect, int color, int frameColor);
+    void drawTick(HDC dc, const RECT& box);
     void drawLabel(HDC dc, RECT rect, UINT format);
 
     void setPushed(bool pushed);
@@ -226,8 +227,12 @@ void Button::paintCheck(HDC dc, RECT rect)
     box.bottom = box.top + boxSize;
     drawMark(dc, box, COLOR_WINDOW, COLOR_BTNSHADOW);
     if (m_state.check != BST_UNCHECKED) {
-        InflateRect(&box, -3, -3);
-        drawMark(dc, box, COLOR_BTNTEXT, COLOR_BTNTEXT);
+        if (isRadio()) {
+            InflateRect(&box, -3, -3);
+            drawMark(dc, box, COLOR_BTNTEXT, COLOR_BTNTEXT);
+        } else {
+            drawTick(dc, box);
+        }
     }
     rect.left += boxSize + gap;
     drawLabel(dc, rect, DT_LEFT | DT_VCENTER);
@@ -248,6 +253,15 @@ void Button::drawMark(HDC dc, const RECT& rect, int color, int frameColor)
     const HGDIOBJ oldBrush = SelectObject(dc, GetSysColorBrush(color));
     Ellipse(dc, rect.left, rect.top, rect.right, rect.bottom);
     SelectObject(dc, oldBrush);
+    DeleteObject(SelectObject(dc, oldPen));
+}
+
+void Button::drawTick(HDC dc, const RECT& box)
+{
+    const POINT corners[] = {
+        {box.left + 3, box.top + 6}, {box.left + 5, box.top + 9}, {box.left + 10, box.top + 3}};
+    const HGDIOBJ oldPen = SelectObject(dc, CreatePen(PS_SOLID, 2, GetSysColor(COLOR_BTNTEXT)));
+    Polyline(dc, corners, static_cast<int>(std::size(corners)));
     DeleteObject(SelectObject(dc, oldPen));
 }
 

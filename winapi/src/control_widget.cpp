@@ -143,6 +143,21 @@ void ControlWidget::sendFocus(bool gained)
     deliver(*m_widget, event);
 }
 
+void ControlWidget::sendComposition(QInputMethodEvent& event)
+{
+    if (m_widget)
+        deliver(*m_widget, event);
+}
+
+QVariant ControlWidget::answer(Qt::InputMethodQuery query) const
+{
+    if (!m_widget || !m_widget->testAttribute(Qt::WA_InputMethodEnabled)) // as it has one that is read only
+        return {};
+    const QVariant answer = m_widget->inputMethodQuery(query);
+    const bool isPlace = answer.typeId() == QMetaType::QRect || answer.typeId() == QMetaType::QRectF;
+    return isPlace ? answer.toRectF().translated(m_widget->pos()) : answer;
+}
+
 void ControlWidget::call(const char* slot)
 {
     if (m_widget)

@@ -28,6 +28,8 @@ public:
     void sendMouse(UINT message, LPARAM lParam);
     void sendKey(int qtKey, const QString& text = {});
     void sendFocus(bool gained);
+    void sendComposition(QInputMethodEvent& event);
+    QVariant answer(Qt::InputMethodQuery query) const;
     // Calls a slot without arguments.
     void call(const char* slot);
     // Steps of a wheel; true when the widget had a use for them.

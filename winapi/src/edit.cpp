@@ -6,6 +6,8 @@
 #include "window_class.h"
 
 #include <QClipboard>
+#include <QInputMethod>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStringDecoder>
@@ -96,6 +98,8 @@ struct EditState : ControlState
 {
     explicit EditState(const Window& window);
     void follow(Window& window) override { widget.follow(window, window.clientRect()); }
+    void compose(Window& window, QInputMethodEvent& event) override;
+    QVariant answer(Qt::InputMethodQuery query) const override { return widget.answer(query); }
 
     bool changed = false; // by what the widget is being told
     std::unique_ptr<TextField> field;
@@ -174,6 +178,7 @@ public:
     using Control::Control;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void compose(QInputMethodEvent& event);
 
 private:
     bool isMultiLine() const { return m_window.is(ES_MULTILINE); }
@@ -193,6 +198,7 @@ private:
     void press(UINT message, LPARAM lParam);
     bool keyDown(WPARAM key);
     void focus(bool gained);
+    void leaveComposition();
     void select(int start, int end);
     LRESULT giveSelection(WPARAM start, LPARAM end);
     void setReadOnly(bool readOnly);
@@ -406,9 +412,18 @@ bool Edit::keyDown(WPARAM key)
     return qtKey != 0;
 }
 
+// What is selected goes as soon as something is begun in its place.
+void Edit::compose(QInputMethodEvent& event)
+{
+    act([&] { m_state.widget.sendComposition(event); });
+}
+
 void Edit::focus(bool gained)
 {
+    if (!gained)
+        leaveComposition();
     m_state.widget.sendFocus(gained);
+    QGuiApplication::inputMethod()->update(Qt::ImQueryAll);
     InvalidateRect(hwnd(), nullptr, FALSE);
     notifyCommand(m_window, gained ? EN_SETFOCUS : EN_KILLFOCUS);
 }
@@ -444,6 +459,7 @@ void Edit::setReadOnly(bool readOnly)
 {
     m_window.style = readOnly ? m_window.style | ES_READONLY : m_window.style & ~DWORD(ES_READONLY);
     field().setReadOnly(readOnly);
+    QGuiApplication::inputMethod()->update(Qt::ImEnabled);
     InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
@@ -465,12 +481,25 @@ bool Edit::leaveToDialog(WPARAM key)
     return true;
 }
 
+// What was begun is given up.
+void Edit::leaveComposition()
+{
+    QGuiApplication::inputMethod()->reset();
+    QInputMethodEvent nothing;
+    m_state.widget.sendComposition(nothing);
+}
+
 void Edit::paint()
 {
     const ControlPaint context(hwnd(), m_state.font);
     m_state.widget.paint(context.dc());
 }
 
+}
+
+void EditState::compose(Window& window, QInputMethodEvent& event)
+{
+    Edit(window, *this).compose(event);
 }
 
 void registerEditClass()

@@ -2,6 +2,7 @@
 
 #include "focus.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -143,6 +144,13 @@ void postKey(const QKeyEvent& event, bool up)
     const bool alt = event.modifiers().testFlag(Qt::AltModifier) || key.key == VK_MENU;
     postInput(KeyInput{key.key, up, alt, scanCodeOf(event), key.extended, up ? QString() : event.text(),
                        event.modifiers()});
+}
+
+void postText(const QString& text)
+{
+    const auto modifiers = QGuiApplication::keyboardModifiers();
+    postInput(KeyInput{VK_PACKET, false, false, 0, false, text, modifiers});
+    postInput(KeyInput{VK_PACKET, true, false, 0, false, {}, modifiers});
 }
 
 std::optional<MSG> toMessage(const KeyInput& input)

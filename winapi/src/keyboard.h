@@ -8,6 +8,8 @@ class QKeyEvent;
 namespace winapi {
 
 void postKey(const QKeyEvent& event, bool up);
+// Text that an input method has made of several keys.
+void postText(const QString& text);
 
 // Shift, Control and Alt as an event of the window system tells them: their own key events may have gone
 // elsewhere.

@@ -7,10 +7,13 @@
 #include <QPointer>
 #include <QRect>
 #include <QRegion>
+#include <QVariant>
 
 #include <memory>
 #include <string>
 #include <vector>
+
+class QInputMethodEvent;
 
 namespace winapi {
 
@@ -33,6 +36,10 @@ struct ControlState
     virtual ~ControlState() = default;
     // Its window, or one above that, was moved, sized, shown or hidden.
     virtual void follow(Window&) {}
+    // Text that an input method is making, shown but not typed yet; and what it asks of the text that it is
+    // made for, with places in the widget of the top-level window. Nothing is made where it gets no answer.
+    virtual void compose(Window&, QInputMethodEvent&) {}
+    virtual QVariant answer(Qt::InputMethodQuery) const { return {}; }
 };
 
 struct Window
