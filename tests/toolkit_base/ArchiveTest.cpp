@@ -71,30 +71,6 @@ protected:
     TemporaryDirectory m_directory;
 };
 
-TEST_F(Archive, KeepsNumbersInTheirWidth)
-{
-    const auto bytes = BytesOf([](CArchive& ar) {
-        ar << BYTE(0xFE) << WORD(0x1234) << DWORD(0x89ABCDEF) << -2 << LONG(-3) << ULONGLONG(1) << short(-1);
-    });
-    EXPECT_EQ(bytes,
-              "\xFE\x34\x12\xEF\xCD\xAB\x89\xFE\xFF\xFF\xFF\xFD\xFF\xFF\xFF\x01\0\0\0\0\0\0\0\xFF\xFF"s);
-
-    Read(bytes, [](CArchive& ar) {
-        const auto next = [&ar](auto number) {
-            ar >> number;
-            return number;
-        };
-        EXPECT_EQ(next(BYTE()), 0xFE);
-        EXPECT_EQ(next(WORD()), 0x1234);
-        EXPECT_EQ(next(DWORD()), 0x89ABCDEFu);
-        EXPECT_EQ(next(int()), -2);
-        EXPECT_EQ(next(LONG()), -3);
-        EXPECT_EQ(next(ULONGLONG()), 1u);
-        EXPECT_EQ(next(short()), -1);
-        EXPECT_EQ(ar.GetBytesLeft(), 0u);
-    });
-}
-
 TEST_F(Archive, WritesTextsWithTheShortestLength)
 {
     const std::pair<std::size_t, std::string> kCases[] = {
@@ -141,18 +117,6 @@ TEST_F(Archive, CountsInThreeWidths)
         EXPECT_EQ(BytesOf([&](CArchive& ar) { ar.WriteCount(count); }), bytes);
         Read(bytes, [&](CArchive& ar) { EXPECT_EQ(ar.ReadCount(), count); });
     }
-}
-
-TEST_F(Archive, ListsOfTextsComeBackAndAppend)
-{
-    CStringList list;
-    for (const char* text : {"US", "", "Canada"})
-        list.AddTail(text);
-    const auto bytes = BytesOf([&](CArchive& ar) { list.Serialize(ar); });
-    EXPECT_EQ(bytes, "\x03\0\x02US\0\x06"s
-                     "Canada");
-    Read(bytes, [&](CArchive& ar) { list.Serialize(ar); });
-    EXPECT_EQ(list.GetCount(), 6);
 }
 
 TEST_F(Archive, EndsEarlyWithAnExceptionAndWithoutTakingMemory)

@@ -28,9 +28,7 @@ OpenMode GetOpenMode(UINT flags)
     constexpr DWORD kAccess[] = {GENERIC_READ, GENERIC_WRITE, GENERIC_READ | GENERIC_WRITE, GENERIC_READ};
     const DWORD access = kAccess[flags & 3];
     const DWORD sharing = access == GENERIC_READ ? FILE_SHARE_READ : 0;
-    if (!(flags & CFile::modeCreate))
-        return {access, sharing, OPEN_EXISTING};
-    return {access, sharing, static_cast<DWORD>(flags & CFile::modeNoTruncate ? OPEN_ALWAYS : CREATE_ALWAYS)};
+    return {access, sharing, static_cast<DWORD>(flags & CFile::modeCreate ? CREATE_ALWAYS : OPEN_EXISTING)};
 }
 
 }
@@ -141,16 +139,4 @@ void CFile::Abort() noexcept
 void CFile::Fail(DWORD error) const
 {
     ThrowFileException(error, m_strFileName);
-}
-
-void CFile::Rename(LPCTSTR oldPath, LPCTSTR newPath)
-{
-    if (!MoveFileExA(oldPath, newPath, 0))
-        ThrowFileException(GetLastError(), oldPath);
-}
-
-void CFile::Remove(LPCTSTR path)
-{
-    if (!DeleteFileA(path))
-        ThrowFileException(GetLastError(), path);
 }

@@ -14,8 +14,7 @@ public:
         modeRead = 0x0000,
         modeWrite = 0x0001,
         modeReadWrite = 0x0002,
-        modeCreate = 0x1000,    // the file is made anew, empty
-        modeNoTruncate = 0x2000 // with modeCreate: a file that exists keeps its content
+        modeCreate = 0x1000 // the file is made anew, empty
     };
     enum SeekPosition : UINT
     {
@@ -44,9 +43,6 @@ public:
     // Closes without a word about failures.
     virtual void Abort() noexcept;
     virtual CString GetFilePath() const { return m_strFileName; }
-
-    static void Rename(LPCTSTR oldPath, LPCTSTR newPath);
-    static void Remove(LPCTSTR path);
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
 

@@ -14,11 +14,6 @@ constexpr char ToLower(char ch)
     return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
 }
 
-constexpr char ToUpper(char ch)
-{
-    return ch >= 'a' && ch <= 'z' ? static_cast<char>(ch - 'a' + 'A') : ch;
-}
-
 int ToIndex(std::size_t place)
 {
     return place == std::string::npos ? -1 : static_cast<int>(place);
@@ -92,11 +87,6 @@ int CString::FindOneOf(const char* characters) const
     return ToIndex(m_text.find_first_of(characters));
 }
 
-int CString::ReverseFind(char ch) const
-{
-    return ToIndex(m_text.rfind(ch));
-}
-
 int CString::Replace(const char* oldText, const char* newText)
 {
     const std::size_t oldLength = std::strlen(oldText);
@@ -115,13 +105,6 @@ int CString::Replace(const char* oldText, const char* newText)
     return count;
 }
 
-int CString::Replace(char oldChar, char newChar)
-{
-    const auto count = std::count(m_text.begin(), m_text.end(), oldChar);
-    std::replace(m_text.begin(), m_text.end(), oldChar, newChar);
-    return static_cast<int>(count);
-}
-
 CString& CString::TrimLeft()
 {
     m_text.erase(0, m_text.find_first_not_of(kBlanks));
@@ -137,12 +120,6 @@ CString& CString::TrimRight()
 CString& CString::Trim()
 {
     return TrimRight().TrimLeft();
-}
-
-CString& CString::MakeUpper()
-{
-    std::transform(m_text.begin(), m_text.end(), m_text.begin(), ToUpper);
-    return *this;
 }
 
 CString& CString::MakeLower()
@@ -166,14 +143,6 @@ void CString::Format(const char* format, ...)
     va_list arguments;
     va_start(arguments, format);
     m_text = FormatText(format, arguments);
-    va_end(arguments);
-}
-
-void CString::AppendFormat(const char* format, ...)
-{
-    va_list arguments;
-    va_start(arguments, format);
-    m_text += FormatText(format, arguments);
     va_end(arguments);
 }
 

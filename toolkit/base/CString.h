@@ -45,20 +45,17 @@ public:
     CString Mid(int first) const;
     CString Mid(int first, int count) const;
 
-    // The index of the first (ReverseFind: the last) place at or behind `start`, or -1.
+    // The index of the first place at or behind `start`, or -1.
     int Find(const char* text, int start = 0) const;
     int Find(char ch, int start = 0) const;
     int FindOneOf(const char* characters) const;
-    int ReverseFind(char ch) const;
 
-    // Return how many places were replaced.
+    // Returns how many places were replaced.
     int Replace(const char* oldText, const char* newText);
-    int Replace(char oldChar, char newChar);
 
     CString& TrimLeft();
     CString& TrimRight();
     CString& Trim();
-    CString& MakeUpper();
     CString& MakeLower();
 
     // Below, at or above 0 as the text stands before, at or behind the other; by bytes.
@@ -74,7 +71,6 @@ public:
 
     // As printf; the text's own characters may be among the arguments.
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
-    void AppendFormat(const char* format, ...) __attribute__((format(printf, 2, 3)));
 
     // Room for `minLength` characters and a null, to be written to until ReleaseBuffer, which sets the length
     // (-1: up to the first null).

@@ -72,8 +72,3 @@ CDC* AfxArg::WParamDC(const AFX_EVENT& e)
 {
     return CDC::FromHandle(reinterpret_cast<HDC>(e.wParam));
 }
-
-CMenu* AfxArg::WParamMenu(const AFX_EVENT& e)
-{
-    return CMenu::FromHandle(reinterpret_cast<HMENU>(e.wParam));
-}

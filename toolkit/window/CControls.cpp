@@ -4,46 +4,11 @@ IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
-// Asks for a text whose length the control tells first; a negative length stands for none.
-static void FetchText(HWND hWnd, UINT message, int nIndex, int nLength, CString& rString)
-{
-    rString.Empty();
-    if (nLength <= 0)
-        return;
-    ::SendMessageA(hWnd, message, static_cast<WPARAM>(nIndex),
-                   reinterpret_cast<LPARAM>(rString.GetBuffer(nLength)));
-    rString.ReleaseBuffer();
-}
-
 // ---- CEdit ----
 
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     return CWnd::Create("EDIT", nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-void CEdit::GetSel(int& nStartChar, int& nEndChar) const
-{
-    DWORD start = 0;
-    DWORD end = 0;
-    ::SendMessageA(m_hWnd, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-    nStartChar = static_cast<int>(start);
-    nEndChar = static_cast<int>(end);
-}
-
-void CEdit::SetSel(int nStartChar, int nEndChar)
-{
-    SendMessage(EM_SETSEL, static_cast<WPARAM>(nStartChar), nEndChar);
-}
-
-void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo)
-{
-    SendMessage(EM_REPLACESEL, static_cast<WPARAM>(bCanUndo), reinterpret_cast<LPARAM>(lpszNewText));
-}
-
-BOOL CEdit::SetReadOnly(BOOL bReadOnly)
-{
-    return SendMessage(EM_SETREADONLY, static_cast<WPARAM>(bReadOnly)) != 0;
 }
 
 // ---- CListBox ----
@@ -55,19 +20,12 @@ BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nI
 
 void CListBox::GetText(int nIndex, CString& rString) const
 {
-    FetchText(m_hWnd, LB_GETTEXT, nIndex, GetTextLen(nIndex), rString);
-}
-
-DWORD_PTR CListBox::GetItemData(int nIndex) const
-{
-    return static_cast<DWORD_PTR>(::SendMessageA(m_hWnd, LB_GETITEMDATA, static_cast<WPARAM>(nIndex), 0));
-}
-
-UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
-{
-    const auto result = static_cast<DWORD>(Ask(LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y)));
-    bOutside = HIWORD(result);
-    return LOWORD(result);
+    rString.Empty();
+    const int length = GetTextLen(nIndex);
+    if (length <= 0) // LB_ERR is one of these
+        return;
+    Ask(LB_GETTEXT, nIndex, reinterpret_cast<LPARAM>(rString.GetBuffer(length)));
+    rString.ReleaseBuffer();
 }
 
 void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
@@ -93,11 +51,6 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     return CWnd::Create("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-void CComboBox::GetLBText(int nIndex, CString& rString) const
-{
-    FetchText(m_hWnd, CB_GETLBTEXT, nIndex, GetLBTextLen(nIndex), rString);
 }
 
 // ---- The message box ----

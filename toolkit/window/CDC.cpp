@@ -3,7 +3,6 @@
 IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
-IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
 CDC* CDC::FromHandle(HDC hDC)
 {
@@ -69,69 +68,18 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap)
     return CBitmap::FromHandle(static_cast<HBITMAP>(SelectHandle(pBitmap)));
 }
 
-CGdiObject* CDC::SelectStockObject(int nIndex)
-{
-    return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(nIndex)));
-}
-
 HGDIOBJ CDC::SelectHandle(const CGdiObject* pObject)
 {
     return pObject ? ::SelectObject(m_hDC, pObject->m_hObject) : nullptr;
 }
 
-int CDC::SelectClipRgn(CRgn* pRgn)
-{
-    return ::SelectClipRgn(m_hDC, pRgn ? static_cast<HRGN>(*pRgn) : nullptr);
-}
-
-CPen* CDC::GetCurrentPen() const
-{
-    return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN)));
-}
-
-CBrush* CDC::GetCurrentBrush() const
-{
-    return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH)));
-}
-
-CFont* CDC::GetCurrentFont() const
-{
-    return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT)));
-}
-
-CBitmap* CDC::GetCurrentBitmap() const
-{
-    return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP)));
-}
-
 // ---- Calls with more to them than the call ----
-
-CPoint CDC::SetViewportOrg(int x, int y)
-{
-    CPoint old;
-    ::SetViewportOrgEx(m_hDC, x, y, &old);
-    return old;
-}
-
-CPoint CDC::GetViewportOrg() const
-{
-    CPoint origin;
-    ::GetViewportOrgEx(m_hDC, &origin);
-    return origin;
-}
 
 CPoint CDC::SetWindowOrg(int x, int y)
 {
     CPoint old;
     ::SetWindowOrgEx(m_hDC, x, y, &old);
     return old;
-}
-
-CPoint CDC::GetWindowOrg() const
-{
-    CPoint origin;
-    ::GetWindowOrgEx(m_hDC, &origin);
-    return origin;
 }
 
 CPoint CDC::MoveTo(int x, int y)
@@ -180,17 +128,6 @@ CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr)
 }
 
 CClientDC::~CClientDC()
-{
-    ::ReleaseDC(m_hWnd, Detach());
-}
-
-CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr)
-{
-    if (!Attach(::GetWindowDC(m_hWnd)))
-        AfxThrowResourceException();
-}
-
-CWindowDC::~CWindowDC()
 {
     ::ReleaseDC(m_hWnd, Detach());
 }

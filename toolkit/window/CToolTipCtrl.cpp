@@ -49,17 +49,3 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
     SendTool(m_hWnd, TTM_GETTEXTA, capacity, tool);
     str.ReleaseBuffer();
 }
-
-void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
-{
-    TOOLINFOA tool = NameTool(pWnd, nIDTool);
-    tool.lpszText = const_cast<LPSTR>(lpszText); // only read
-    SendTool(m_hWnd, TTM_UPDATETIPTEXTA, 0, tool);
-}
-
-void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect)
-{
-    TOOLINFOA tool = NameTool(pWnd, nIDTool);
-    tool.rect = *lpRect;
-    SendTool(m_hWnd, TTM_NEWTOOLRECTA, 0, tool);
-}

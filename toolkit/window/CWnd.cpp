@@ -286,19 +286,6 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 
 // ---- Calls with more to them than the call ----
 
-BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
-{
-    const DWORD old = GetStyle();
-    const DWORD style = (old & ~dwRemove) | dwAdd;
-    if (style == old)
-        return FALSE;
-    ::SetWindowLongA(m_hWnd, GWL_STYLE, static_cast<LONG>(style));
-    if (nFlags)
-        ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0,
-                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | nFlags);
-    return TRUE;
-}
-
 void CWnd::ScreenToClient(LPRECT lpRect) const
 {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
@@ -320,11 +307,6 @@ void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
     ::SendMessageA(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont ? pFont->m_hObject : nullptr),
                    MAKELPARAM(bRedraw, 0));
-}
-
-CFont* CWnd::GetFont() const
-{
-    return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageA(m_hWnd, WM_GETFONT, 0, 0)));
 }
 
 BOOL CWnd::RedrawWindow(LPCRECT lpRect, CRgn* pRgn, UINT flags)

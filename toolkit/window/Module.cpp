@@ -29,16 +29,6 @@ HINSTANCE AfxGetInstanceHandle()
     return AfxGetModuleState()->m_hCurrentInstanceHandle;
 }
 
-HINSTANCE AfxGetResourceHandle()
-{
-    return AfxGetModuleState()->m_hCurrentResourceHandle;
-}
-
-void AfxSetResourceHandle(HINSTANCE hInstResource)
-{
-    AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
-}
-
 HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType)
 {
     const AFX_MODULE_STATE& state = *AfxGetModuleState();

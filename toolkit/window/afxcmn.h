@@ -19,21 +19,9 @@ public:
     void DelTool(CWnd* pWnd, UINT_PTR nIDTool = 0);
     /// Gives the text of a tool; empty for one that doesn't exist.
     void GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
-    void UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
     int GetToolCount() const { return static_cast<int>(::SendMessageA(m_hWnd, TTM_GETTOOLCOUNT, 0, 0)); }
-    void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect);
 
     /// Shows the control a message of a window with tools.
     void RelayEvent(MSG* lpMsg) { SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(lpMsg)); }
-    void Activate(BOOL bActivate) { SendMessage(TTM_ACTIVATE, static_cast<WPARAM>(bActivate)); }
     void Pop() { SendMessage(TTM_POP); }
-    void Update() { SendMessage(TTM_UPDATE); }
-    /// Delay in milliseconds of TTDT_AUTOPOP, TTDT_INITIAL or TTDT_RESHOW.
-    void SetDelayTime(DWORD dwDuration, int iTime) { SendMessage(TTM_SETDELAYTIME, dwDuration, iTime); }
-    int GetDelayTime(DWORD dwDuration) const
-    {
-        return static_cast<int>(::SendMessageA(m_hWnd, TTM_GETDELAYTIME, dwDuration, 0));
-    }
-    /// Width in pixels at which lines break; -1 for none.
-    int SetMaxTipWidth(int iWidth) { return static_cast<int>(SendMessage(TTM_SETMAXTIPWIDTH, 0, iWidth)); }
 };

@@ -5,11 +5,8 @@
 
 // Their notifications, in the message map of the parent.
 #define ON_EN_CHANGE(id, memberFxn) ON_CONTROL(EN_CHANGE, id, memberFxn)
-#define ON_EN_SETFOCUS(id, memberFxn) ON_CONTROL(EN_SETFOCUS, id, memberFxn)
-#define ON_EN_KILLFOCUS(id, memberFxn) ON_CONTROL(EN_KILLFOCUS, id, memberFxn)
 #define ON_LBN_SELCHANGE(id, memberFxn) ON_CONTROL(LBN_SELCHANGE, id, memberFxn)
 #define ON_LBN_DBLCLK(id, memberFxn) ON_CONTROL(LBN_DBLCLK, id, memberFxn)
-#define ON_CBN_SELCHANGE(id, memberFxn) ON_CONTROL(CBN_SELCHANGE, id, memberFxn)
 
 /// A text field of one line, or of several with ES_MULTILINE, which parts them by "\r\n".
 class ZEB17_EXPORT CEdit : public CWnd
@@ -18,14 +15,8 @@ class ZEB17_EXPORT CEdit : public CWnd
 public:
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    /// The selection, counted in characters of the text; equal numbers are the place of the caret.
-    void GetSel(int& nStartChar, int& nEndChar) const;
-    /// 0 and -1 select all.
-    void SetSel(int nStartChar, int nEndChar);
-    void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE);
     /// Limits what can be typed; 0 lifts the limit.
     void SetLimitText(UINT nMax) { SendMessage(EM_LIMITTEXT, nMax); }
-    BOOL SetReadOnly(BOOL bReadOnly = TRUE);
 };
 
 /// A list of rows, one of which may be selected. Indexes count from 0; LB_ERR stands for no row.
@@ -40,16 +31,11 @@ public:
     int SetCurSel(int nSelect) { return Ask(LB_SETCURSEL, nSelect); }
     /// Gives the index of the new row.
     int AddString(LPCTSTR lpszItem) { return Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszItem)); }
-    int InsertString(int nIndex, LPCTSTR lpszItem)
-    {
-        return Ask(LB_INSERTSTRING, nIndex, reinterpret_cast<LPARAM>(lpszItem));
-    }
     int DeleteString(UINT nIndex) { return Ask(LB_DELETESTRING, static_cast<int>(nIndex)); }
     void ResetContent() { Ask(LB_RESETCONTENT); }
     int GetTextLen(int nIndex) const { return Ask(LB_GETTEXTLEN, nIndex); }
     /// Empty for a row that isn't there.
     void GetText(int nIndex, CString& rString) const;
-    DWORD_PTR GetItemData(int nIndex) const;
     int SetItemData(int nIndex, DWORD_PTR dwItemData)
     {
         return Ask(LB_SETITEMDATA, nIndex, static_cast<LPARAM>(dwItemData));
@@ -58,10 +44,7 @@ public:
     {
         return Ask(LB_GETITEMRECT, nIndex, reinterpret_cast<LPARAM>(lpRect));
     }
-    int GetTopIndex() const { return Ask(LB_GETTOPINDEX); }
     int SetTopIndex(int nIndex) { return Ask(LB_SETTOPINDEX, nIndex); }
-    /// The row nearest to a point in client coordinates; bOutside tells that it isn't in it.
-    UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
 
     /// Tells the height of a row with the style LBS_OWNERDRAWFIXED.
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
@@ -91,9 +74,6 @@ public:
     int SetCurSel(int nSelect) { return Ask(CB_SETCURSEL, nSelect); }
     int AddString(LPCTSTR lpszString) { return Ask(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszString)); }
     void ResetContent() { Ask(CB_RESETCONTENT); }
-    int GetLBTextLen(int nIndex) const { return Ask(CB_GETLBTEXTLEN, nIndex); }
-    /// Empty for an entry that isn't there.
-    void GetLBText(int nIndex, CString& rString) const;
 
 private:
     int Ask(UINT message, int wParam = 0, LPARAM lParam = 0) const

@@ -24,12 +24,6 @@ public:
     BOOL GetDefaults();
     /// The context that the dialog made; null without PD_RETURNDC. Whoever calls this deletes it.
     HDC GetPrinterDC() const { return m_pd.hDC; }
-    int GetCopies() const { return m_pd.nCopies; }
-    int GetFromPage() const { return PrintRange() ? m_pd.nFromPage : -1; }
-    int GetToPage() const { return PrintRange() ? m_pd.nToPage : -1; }
-    BOOL PrintRange() const { return (m_pd.Flags & PD_PAGENUMS) != 0; }
-    BOOL PrintAll() const { return !PrintRange() && !PrintSelection(); }
-    BOOL PrintSelection() const { return (m_pd.Flags & PD_SELECTION) != 0; }
 
     PRINTDLGA m_pd{};
 

@@ -44,8 +44,6 @@ public:
 
 ZEB17_EXPORT AFX_MODULE_STATE* AfxGetModuleState();
 ZEB17_EXPORT HINSTANCE AfxGetInstanceHandle();
-ZEB17_EXPORT HINSTANCE AfxGetResourceHandle();
-ZEB17_EXPORT void AfxSetResourceHandle(HINSTANCE hInstResource);
 /// The module that holds the resource: the current one, else the first extension module that has it, else the
 /// current one again.
 ZEB17_EXPORT HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);

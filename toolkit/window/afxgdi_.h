@@ -28,10 +28,8 @@ public:
     HGDIOBJ Detach();
     /// Releases the handle. False if there is none.
     BOOL DeleteObject();
-    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
 
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
-    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObjectA(m_hObject, nCount, lpObject); }
     operator HGDIOBJ() const { return m_hObject; }
 
     HGDIOBJ m_hObject = nullptr;
@@ -64,8 +62,6 @@ public:
 
     static CBrush* FromHandle(HBRUSH hBrush);
     BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
-    BOOL CreateSysColorBrush(int nIndex) { return CreateSolidBrush(::GetSysColor(nIndex)); }
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
 
@@ -93,10 +89,6 @@ public:
 
     static CBitmap* FromHandle(HBITMAP hBitmap);
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
-    int GetBitmap(BITMAP* pBitMap) const
-    {
-        return ::GetObjectA(m_hObject, static_cast<int>(sizeof(BITMAP)), pBitMap);
-    }
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 };
 
@@ -107,9 +99,6 @@ public:
     CRgn() = default;
 
     static CRgn* FromHandle(HRGN hRgn);
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
-    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
-    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
 };
 
@@ -133,8 +122,6 @@ public:
     operator HDC() const { return m_hDC; }
     CWnd* GetWindow() const;
     BOOL IsPrinting() const { return m_bPrinting; }
-    int SaveDC() { return ::SaveDC(m_hDC); }
-    BOOL RestoreDC(int nSavedDC) { return ::RestoreDC(m_hDC, nSavedDC); }
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hDC, nIndex); }
 
     /// Selects an object in and gives the one that was there, null on failure.
@@ -142,39 +129,13 @@ public:
     CBrush* SelectObject(CBrush* pBrush);
     CFont* SelectObject(CFont* pFont);
     CBitmap* SelectObject(CBitmap* pBitmap);
-    CGdiObject* SelectStockObject(int nIndex);
-    int SelectClipRgn(CRgn* pRgn);
-
-    CPen* GetCurrentPen() const;
-    CBrush* GetCurrentBrush() const;
-    CFont* GetCurrentFont() const;
-    CBitmap* GetCurrentBitmap() const;
 
     COLORREF SetBkColor(COLORREF crColor) { return ::SetBkColor(m_hDC, crColor); }
     COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
     int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
-    int GetBkMode() const { return ::GetBkMode(m_hDC); }
     COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
-    COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
-    UINT SetTextAlign(UINT nFlags) { return ::SetTextAlign(m_hDC, nFlags); }
-    int SetMapMode(int nMapMode) { return ::SetMapMode(m_hDC, nMapMode); }
-    CPoint SetViewportOrg(int x, int y);
-    CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
-    CPoint GetViewportOrg() const;
     CPoint SetWindowOrg(int x, int y);
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
-    CPoint GetWindowOrg() const;
-
-    int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hDC, lpRect); }
-    int IntersectClipRect(LPCRECT lpRect)
-    {
-        return ::IntersectClipRect(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-    }
-    int ExcludeClipRect(LPCRECT lpRect)
-    {
-        return ::ExcludeClipRect(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-    }
-    BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hDC, lpRect); }
 
     /// Gives the place that was the current one.
     CPoint MoveTo(int x, int y);
@@ -182,15 +143,11 @@ public:
     /// Draws up to the place, which itself stays undrawn.
     BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
     BOOL Rectangle(LPCRECT rc) { return Rectangle(rc->left, rc->top, rc->right, rc->bottom); }
-    BOOL Ellipse(int x1, int y1, int x2, int y2) { return ::Ellipse(m_hDC, x1, y1, x2, y2); }
-    BOOL Ellipse(LPCRECT rc) { return Ellipse(rc->left, rc->top, rc->right, rc->bottom); }
     int FillRect(LPCRECT lpRect, CBrush* pBrush) { return ::FillRect(m_hDC, lpRect, *pBrush); }
     int FrameRect(LPCRECT lpRect, CBrush* pBrush) { return ::FrameRect(m_hDC, lpRect, *pBrush); }
-    BOOL InvertRect(LPCRECT lpRect) { return ::InvertRect(m_hDC, lpRect); }
     BOOL DrawFocusRect(LPCRECT lpRect) { return ::DrawFocusRect(m_hDC, lpRect); }
     /// Fills the rectangle and leaves the colour as the context's background colour.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
@@ -203,11 +160,6 @@ public:
     COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
     BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
 
-    BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount)
-    {
-        return ::TextOutA(m_hDC, x, y, lpszString, nCount);
-    }
-    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
     int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
     {
         return ::DrawTextA(m_hDC, lpszString, nCount, lpRect, nFormat);
@@ -257,19 +209,6 @@ public:
     /// A null window stands for the screen. Throws a CResourceException if there is no context.
     explicit CClientDC(CWnd* pWnd);
     ~CClientDC() override;
-
-protected:
-    HWND m_hWnd;
-};
-
-/// The context of a whole window with its frame.
-class ZEB17_EXPORT CWindowDC : public CDC
-{
-    DECLARE_DYNAMIC(CWindowDC)
-public:
-    /// A null window stands for the screen. Throws a CResourceException if there is no context.
-    explicit CWindowDC(CWnd* pWnd);
-    ~CWindowDC() override;
 
 protected:
     HWND m_hWnd;

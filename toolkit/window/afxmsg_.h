@@ -25,7 +25,6 @@
 class CCmdTarget;
 class CCmdUI;
 class CDC;
-class CMenu;
 class CWnd;
 
 #define afx_msg
@@ -92,21 +91,9 @@ inline int LParamHighSigned(const AFX_EVENT& e)
 {
     return static_cast<short>(HIWORD(e.lParam));
 }
-inline BOOL WParamBool(const AFX_EVENT& e)
-{
-    return e.wParam != 0;
-}
 inline BOOL WParamHighBool(const AFX_EVENT& e)
 {
     return HIWORD(e.wParam) != 0;
-}
-inline BOOL LParamHighBool(const AFX_EVENT& e)
-{
-    return HIWORD(e.lParam) != 0;
-}
-inline UINT LParam(const AFX_EVENT& e)
-{
-    return static_cast<UINT>(e.lParam);
 }
 inline WPARAM WParamWhole(const AFX_EVENT& e)
 {
@@ -131,7 +118,6 @@ inline CPoint LParamPoint(const AFX_EVENT& e)
 ZEB17_EXPORT CWnd* WParamWnd(const AFX_EVENT& e);
 ZEB17_EXPORT CWnd* LParamWnd(const AFX_EVENT& e);
 ZEB17_EXPORT CDC* WParamDC(const AFX_EVENT& e);
-ZEB17_EXPORT CMenu* WParamMenu(const AFX_EVENT& e);
 template <class Structure>
 Structure* LParamStruct(const AFX_EVENT& e)
 {
@@ -185,31 +171,21 @@ namespace AfxSig {
 using namespace AfxArg;
 using Plain = AfxSignature<void>;
 using Size = AfxSignature<void, WParam, LParamLowSigned, LParamHighSigned>;
-using Move = AfxSignature<void, LParamLowSigned, LParamHighSigned>;
 using Mouse = AfxSignature<void, WParam, LParamPoint>;
 using Wheel = AfxSignature<BOOL, WParamLow, WParamHighSigned, LParamPoint>;
 using Cursor = AfxSignature<BOOL, WParamWnd, LParamLow, LParamHigh>;
 using Focus = AfxSignature<void, WParamWnd>;
-using Capture = AfxSignature<void, LParamWnd>;
 using Activate = AfxSignature<void, WParamLow, LParamWnd, WParamHighBool>;
 using Key = AfxSignature<void, WParam, LParamLow, LParamHigh>;
 using Create = AfxSignature<int, LParamStruct<CREATESTRUCTA>>;
 using Erase = AfxSignature<BOOL, WParamDC>;
 using Timer = AfxSignature<void, TimerId>;
-using Enable = AfxSignature<void, WParamBool>;
-using Show = AfxSignature<void, WParamBool, LParam>;
-using DlgCode = AfxSignature<UINT>;
 using DrawItem = AfxSignature<void, ControlId, LParamStruct<DRAWITEMSTRUCT>>;
 using MeasureItem = AfxSignature<void, ControlId, LParamStruct<MEASUREITEMSTRUCT>>;
-using MenuPopup = AfxSignature<void, WParamMenu, LParamLow, LParamHighBool>;
-using ContextMenu = AfxSignature<void, WParamWnd, LParamPoint>;
 using Message = AfxSignature<LRESULT, WParamWhole, LParamWhole>;
 using Command = AfxSignature<void>;
-using CommandEx = AfxSignature<AfxHandled, CommandId>;
 using CommandRange = AfxSignature<void, CommandId>;
 using Update = AfxSignature<void, CmdUI>;
-using Notify = AfxSignature<void, Header, Result>;
-using NotifyRange = AfxSignature<void, CommandId, Header, Result>;
 using NotifyEx = AfxSignature<AfxHandled, CommandId, Header, Result>;
 }
 
@@ -252,26 +228,15 @@ protected:                                                                      
 #define CN_UPDATE_COMMAND_UI 0xFFFFU
 
 #define ON_COMMAND(id, memberFxn) AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, id, Command, memberFxn)
-#define ON_COMMAND_EX(id, memberFxn) AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, id, CommandEx, memberFxn)
-#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
-    AFX_MAP_ENTRY(WM_COMMAND, CN_COMMAND, id, idLast, CommandRange, memberFxn)
 #define ON_UPDATE_COMMAND_UI(id, memberFxn)                                                                  \
     AFX_MAP_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, id, Update, memberFxn)
-#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                    \
-    AFX_MAP_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, idLast, Update, memberFxn)
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
     AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, id, Command, memberFxn)
 #define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                 \
     AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, CommandRange, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
-#define ON_BN_DOUBLECLICKED(id, memberFxn) ON_CONTROL(BN_DOUBLECLICKED, id, memberFxn)
 
 // Notifications. The codes are compared as 16-bit words.
-#define ON_NOTIFY(wNotifyCode, id, memberFxn) AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, id, Notify, memberFxn)
-#define ON_NOTIFY_EX(wNotifyCode, id, memberFxn)                                                             \
-    AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, id, NotifyEx, memberFxn)
-#define ON_NOTIFY_RANGE(wNotifyCode, id, idLast, memberFxn)                                                  \
-    AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, NotifyRange, memberFxn)
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
     AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, NotifyEx, memberFxn)
 
@@ -283,19 +248,12 @@ protected:                                                                      
 #define AFX_MAP_WM(message, Signature, name) AFX_MAP_ENTRY(message, 0, 0, 0, Signature, &ThisClass::name)
 
 #define ON_WM_ACTIVATE() AFX_MAP_WM(WM_ACTIVATE, Activate, OnActivate)
-#define ON_WM_CAPTURECHANGED() AFX_MAP_WM(WM_CAPTURECHANGED, Capture, OnCaptureChanged)
-#define ON_WM_CHAR() AFX_MAP_WM(WM_CHAR, Key, OnChar)
 #define ON_WM_CLOSE() AFX_MAP_WM(WM_CLOSE, Plain, OnClose)
-#define ON_WM_CONTEXTMENU() AFX_MAP_WM(WM_CONTEXTMENU, ContextMenu, OnContextMenu)
 #define ON_WM_CREATE() AFX_MAP_WM(WM_CREATE, Create, OnCreate)
 #define ON_WM_DESTROY() AFX_MAP_WM(WM_DESTROY, Plain, OnDestroy)
 #define ON_WM_DRAWITEM() AFX_MAP_WM(WM_DRAWITEM, DrawItem, OnDrawItem)
-#define ON_WM_ENABLE() AFX_MAP_WM(WM_ENABLE, Enable, OnEnable)
 #define ON_WM_ERASEBKGND() AFX_MAP_WM(WM_ERASEBKGND, Erase, OnEraseBkgnd)
-#define ON_WM_GETDLGCODE() AFX_MAP_WM(WM_GETDLGCODE, DlgCode, OnGetDlgCode)
-#define ON_WM_INITMENUPOPUP() AFX_MAP_WM(WM_INITMENUPOPUP, MenuPopup, OnInitMenuPopup)
 #define ON_WM_KEYDOWN() AFX_MAP_WM(WM_KEYDOWN, Key, OnKeyDown)
-#define ON_WM_KEYUP() AFX_MAP_WM(WM_KEYUP, Key, OnKeyUp)
 #define ON_WM_KILLFOCUS() AFX_MAP_WM(WM_KILLFOCUS, Focus, OnKillFocus)
 #define ON_WM_LBUTTONDBLCLK() AFX_MAP_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_LBUTTONDOWN() AFX_MAP_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
@@ -304,11 +262,9 @@ protected:                                                                      
 #define ON_WM_MOUSELEAVE() AFX_MAP_WM(WM_MOUSELEAVE, Plain, OnMouseLeave)
 #define ON_WM_MOUSEMOVE() AFX_MAP_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() AFX_MAP_WM(WM_MOUSEWHEEL, Wheel, OnMouseWheel)
-#define ON_WM_MOVE() AFX_MAP_WM(WM_MOVE, Move, OnMove)
 #define ON_WM_NCDESTROY() AFX_MAP_WM(WM_NCDESTROY, Plain, OnNcDestroy)
 #define ON_WM_PAINT() AFX_MAP_WM(WM_PAINT, Plain, OnPaint)
 #define ON_WM_SETCURSOR() AFX_MAP_WM(WM_SETCURSOR, Cursor, OnSetCursor)
 #define ON_WM_SETFOCUS() AFX_MAP_WM(WM_SETFOCUS, Focus, OnSetFocus)
-#define ON_WM_SHOWWINDOW() AFX_MAP_WM(WM_SHOWWINDOW, Show, OnShowWindow)
 #define ON_WM_SIZE() AFX_MAP_WM(WM_SIZE, Size, OnSize)
 #define ON_WM_TIMER() AFX_MAP_WM(WM_TIMER, Timer, OnTimer)

@@ -114,8 +114,6 @@ public:
     // State, place and text
 
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_STYLE)); }
-    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_EXSTYLE)); }
-    BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
@@ -148,22 +146,17 @@ public:
     void GetWindowText(CString& rString) const;
     int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
-    CFont* GetFont() const;
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
 
-    // Relatives, focus and capture
+    // Relatives and focus
 
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
     CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
     CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
-    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd ? pWnd->m_hWnd : nullptr); }
     /// Gives the window that had the focus.
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
-    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    static CWnd* GetCapture() { return FromHandle(::GetCapture()); }
-    static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
 
     // Messages and timers
 
@@ -185,15 +178,11 @@ public:
 
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
     void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
-    void ValidateRect(LPCRECT lpRect) { ::ValidateRect(m_hWnd, lpRect); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     BOOL RedrawWindow(LPCRECT lpRect = nullptr, CRgn* pRgn = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
-    CDC* BeginPaint(LPPAINTSTRUCT lpPaint) { return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint)); }
-    void EndPaint(LPPAINTSTRUCT lpPaint) { ::EndPaint(m_hWnd, lpPaint); }
     CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
-    CDC* GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
-    /// Gives back what GetDC or GetWindowDC gave; the object is not to be used afterwards.
+    /// Gives back what GetDC gave; the object is not to be used afterwards.
     int ReleaseDC(CDC* pDC) { return pDC ? ::ReleaseDC(m_hWnd, pDC->Detach()) : 0; }
 
     // Tool tips of children
@@ -228,20 +217,13 @@ protected:
     static const MSG* GetCurrentMessage();
 
     afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
-    afx_msg void OnCaptureChanged(CWnd*) { Default(); }
-    afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
     afx_msg void OnClose() { Default(); }
-    afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
     afx_msg int OnCreate(LPCREATESTRUCTA) { return static_cast<int>(Default()); }
     afx_msg void OnDestroy() { Default(); }
     /// Hands the drawing to the object of the control.
     afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct);
-    afx_msg void OnEnable(BOOL) { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
-    afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
-    afx_msg void OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
-    afx_msg void OnKeyUp(UINT, UINT, UINT) { Default(); }
     afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonDown(UINT, CPoint) { Default(); }
@@ -251,12 +233,10 @@ protected:
     afx_msg void OnMouseLeave() { Default(); }
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
-    afx_msg void OnMove(int, int) { Default(); }
     afx_msg void OnNcDestroy();
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return Default() != 0; }
     afx_msg void OnSetFocus(CWnd*) { Default(); }
-    afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnTimer(UINT_PTR) { Default(); }
     DECLARE_MESSAGE_MAP()
@@ -281,7 +261,6 @@ public:
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
     UINT GetState() const { return static_cast<UINT>(::SendMessageA(m_hWnd, BM_GETSTATE, 0, 0)); }
-    void SetState(BOOL bHighlight) { SendMessage(BM_SETSTATE, static_cast<WPARAM>(bHighlight)); }
     int GetCheck() const { return static_cast<int>(::SendMessageA(m_hWnd, BM_GETCHECK, 0, 0)); }
     void SetCheck(int nCheck) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck)); }
     UINT GetButtonStyle() const { return GetStyle() & 0xFF; }
@@ -342,11 +321,6 @@ class ZEB17_EXPORT CWinApp : public CWinThread
 public:
     explicit CWinApp(LPCTSTR lpszAppName = nullptr);
     ~CWinApp() override;
-
-    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const
-    {
-        return ::LoadCursorA(nullptr, lpszCursorName);
-    }
 
     CString m_strAppName;
     HINSTANCE m_hInstance = nullptr;

@@ -16,7 +16,6 @@ public:
     CSize(SIZE initSize) : SIZE(initSize) {}
     explicit CSize(POINT initPt) : SIZE{initPt.x, initPt.y} {}
 
-    void SetSize(int CX, int CY) { *this = CSize(CX, CY); }
     bool operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
     CSize& operator+=(SIZE size) { return *this = *this + size; }
     CSize& operator-=(SIZE size) { return *this = *this - size; }
@@ -39,7 +38,6 @@ public:
     {
     }
 
-    void SetPoint(int X, int Y) { *this = CPoint(X, Y); }
     void Offset(int xOffset, int yOffset) { *this += CSize(xOffset, yOffset); }
     void Offset(SIZE size) { *this += size; }
     void Offset(POINT point) { Offset(point.x, point.y); }
@@ -74,7 +72,6 @@ public:
     operator LPCRECT() const { return this; }
 
     bool IsRectEmpty() const { return left >= right || top >= bottom; }
-    bool IsRectNull() const { return *this == RECT{0, 0, 0, 0}; }
     bool PtInRect(POINT point) const
     {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
@@ -107,16 +104,6 @@ public:
     void OffsetRect(int x, int y) { SetRect(left + x, top + y, right + x, bottom + y); }
     void OffsetRect(SIZE size) { OffsetRect(size.cx, size.cy); }
     void OffsetRect(POINT point) { OffsetRect(point.x, point.y); }
-    void MoveToX(int x) { OffsetRect(x - left, 0); }
-    void MoveToY(int y) { OffsetRect(0, y - top); }
-    void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
-    void MoveToXY(POINT point) { MoveToXY(point.x, point.y); }
-    /// Swaps edges that stand the wrong way round.
-    void NormalizeRect()
-    {
-        *this = CRect(left < right ? left : right, top < bottom ? top : bottom, left < right ? right : left,
-                      top < bottom ? bottom : top);
-    }
     /// Makes this the common part of both, or the empty rectangle and false when there is none.
     bool IntersectRect(LPCRECT lpRect1, LPCRECT lpRect2)
     {
