@@ -11,21 +11,15 @@ namespace {
 
 using testing::ElementsAre;
 
-struct Event
-{
-    DWORD nEvent;
-    HWND hWnd;
-    LONG nChild;
+using Events = std::vector<std::pair<DWORD, LONG>>; // each with its item
 
-    bool operator==(const Event&) const = default;
-};
-
-std::vector<Event> theEvents;
+HWND theListened = nullptr;
+Events theEvents;
 
 void CALLBACK Record(HWINEVENTHOOK, DWORD nEvent, HWND hWnd, LONG nObject, LONG nChild, DWORD, DWORD)
 {
-    if (nObject == OBJID_CLIENT)
-        theEvents.push_back({nEvent, hWnd, nChild});
+    if (hWnd == theListened && nObject == OBJID_CLIENT)
+        theEvents.emplace_back(nEvent, nChild);
 }
 
 VARIANT Child(LONG nChild)
@@ -52,18 +46,8 @@ public:
 
     CString GetName(LONG nChild = CHILDID_SELF) const { return GetText(&IAccessible::get_accName, nChild); }
     CString GetAction(LONG nChild) const { return GetText(&IAccessible::get_accDefaultAction, nChild); }
-    LONG GetRole(LONG nChild = CHILDID_SELF) const
-    {
-        VARIANT role{};
-        m_pObject->get_accRole(Child(nChild), &role);
-        return role.lVal;
-    }
-    LONG GetState(LONG nChild = CHILDID_SELF) const
-    {
-        VARIANT state{};
-        m_pObject->get_accState(Child(nChild), &state);
-        return state.lVal;
-    }
+    LONG GetRole(LONG nChild = CHILDID_SELF) const { return GetNumber(&IAccessible::get_accRole, nChild); }
+    LONG GetState(LONG nChild = CHILDID_SELF) const { return GetNumber(&IAccessible::get_accState, nChild); }
     CRect GetPlace(LONG nChild) const
     {
         LONG x = 0, y = 0, cx = 0, cy = 0;
@@ -89,6 +73,12 @@ private:
         ::SysFreeString(text);
         return strText;
     }
+    LONG GetNumber(HRESULT (STDMETHODCALLTYPE IAccessible::*pGet)(VARIANT, VARIANT*), LONG nChild) const
+    {
+        VARIANT number{};
+        (m_pObject->*pGet)(Child(nChild), &number);
+        return number.lVal;
+    }
 
     IAccessible* m_pObject = nullptr;
 };
@@ -96,8 +86,6 @@ private:
 class AccessibleTest : public CalendarTest
 {
 protected:
-    static constexpr LONG kDays = MonthBlock::kCells;
-
     AccessibleTest()
     {
         m_hook = ::SetWinEventHook(EVENT_OBJECT_REORDER, EVENT_OBJECT_NAMECHANGE, nullptr, &Record,
@@ -106,16 +94,13 @@ protected:
     ~AccessibleTest() override { ::UnhookWinEvent(m_hook); }
 
     // What was announced of the control itself since the last call.
-    std::vector<std::pair<DWORD, LONG>> TakeEvents()
+    Events TakeEvents()
     {
+        theListened = calendar->m_hWnd;
         MSG msg;
         while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
             ::DispatchMessageA(&msg);
-        std::vector<std::pair<DWORD, LONG>> events;
-        for (const Event& event : std::exchange(theEvents, {}))
-            if (event.hWnd == calendar->m_hWnd)
-                events.emplace_back(event.nEvent, event.nChild);
-        return events;
+        return std::exchange(theEvents, {});
     }
 
 private:
@@ -137,7 +122,7 @@ TEST_F(AccessibleTest, DaysCanBeReadOneByOne)
     EXPECT_EQ(speaker.GetRole(), ROLE_SYSTEM_TABLE);
 
     DateTime date = Date(2026, 6, 28);
-    for (LONG nItem = 1; nItem <= kDays; ++nItem, date.AddDays(1)) {
+    for (LONG nItem = 1; nItem <= MonthBlock::kCells; ++nItem, date.AddDays(1)) {
         CString strName = LocaleUtils::FormatDate(date.GetYear(), date.GetMonth(), date.GetDay(),
                                                   date.GetDayOfWeek(), false);
         if (date.CompareDate(Date(2026, 7, 14)) == 0)
@@ -145,7 +130,7 @@ TEST_F(AccessibleTest, DaysCanBeReadOneByOne)
         else if (date.CompareDate(Date(2026, 7, 15)) == 0)
             strName += ", Today";
         const bool bSelected = date.CompareDate(Date(2026, 7, 20)) == 0;
-        CRect rc = calendar->GetCellRect(MonthBlock::PlaceOfCell(nItem - 1));
+        CRect rc = calendar->GetRectOfCell(nItem - 1);
         calendar->ClientToScreen(&rc);
 
         EXPECT_EQ(speaker.GetName(nItem), strName);
@@ -156,8 +141,6 @@ TEST_F(AccessibleTest, DaysCanBeReadOneByOne)
         EXPECT_EQ(speaker.GetPlace(nItem), rc);
         EXPECT_EQ(speaker.HitTest(rc.CenterPoint()), nItem);
     }
-    EXPECT_EQ(speaker.GetName(18), "Wednesday, July 15, 2026, Today");
-
     const CRect rc = speaker.GetPlace(CHILDID_SELF);
     EXPECT_EQ(speaker.HitTest(CPoint(rc.left + 20, rc.top + 30)), CHILDID_SELF); // the names of the weekdays
     EXPECT_EQ(speaker.HitTest(CPoint(rc.left + 5, rc.top + 5)), -1);             // a button
@@ -195,7 +178,7 @@ TEST_F(AccessibleTest, MovesAreAnnounced)
     };
     TakeEvents();
     for (const auto& c : cases) {
-        std::vector<std::pair<DWORD, LONG>> expected;
+        Events expected;
         if (c.bMonth)
             expected = {{EVENT_OBJECT_REORDER, CHILDID_SELF}, {EVENT_OBJECT_NAMECHANGE, CHILDID_SELF}};
         expected.emplace_back(EVENT_OBJECT_FOCUS, c.nFocused);
@@ -203,16 +186,15 @@ TEST_F(AccessibleTest, MovesAreAnnounced)
         Key(c.nKey);
         EXPECT_EQ(TakeEvents(), expected) << c.nKey;
     }
-    PressDay(20);
-    EXPECT_THAT(TakeEvents(),
-                ElementsAre(std::pair(EVENT_OBJECT_FOCUS, 23), std::pair(EVENT_OBJECT_SELECTION, 23)));
+    PressCell(22);
+    EXPECT_EQ(TakeEvents(), (Events{{EVENT_OBJECT_FOCUS, 23}, {EVENT_OBJECT_SELECTION, 23}}));
     // With the focus on a button only the selection moves.
     calendar->m_pTodayButton->SetFocus();
     TakeEvents();
     Key(VK_RIGHT);
-    EXPECT_THAT(TakeEvents(), ElementsAre(std::pair(EVENT_OBJECT_SELECTION, 24)));
+    EXPECT_EQ(TakeEvents(), (Events{{EVENT_OBJECT_SELECTION, 24}}));
     Command(2605);
-    EXPECT_THAT(TakeEvents(), ElementsAre(std::pair(EVENT_OBJECT_SELECTION, CHILDID_SELF)));
+    EXPECT_EQ(TakeEvents(), (Events{{EVENT_OBJECT_SELECTION, CHILDID_SELF}}));
 }
 
 TEST_F(AccessibleTest, ActionOfADaySelectsAsAPressDoes)
@@ -239,7 +221,6 @@ TEST_F(AccessibleTest, ButtonsAreNamedByCaptionOrTip)
         LONG nState;
     } cases[] = {
         {calendar->m_pPrevMonthButton, "Show June, 2026", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
-        {calendar->m_pNextYearButton, "Show July, 2027", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
         {calendar->m_pTodayButton, "Today", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
         {calendar->m_pOptionsButton, "Options", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
         {calendar->m_pMonthYearButton, "July 2026", ROLE_SYSTEM_STATICTEXT, STATE_SYSTEM_UNAVAILABLE},
@@ -254,17 +235,8 @@ TEST_F(AccessibleTest, ButtonsAreNamedByCaptionOrTip)
     }
     const Speaker nextYear(calendar->m_pNextYearButton->m_hWnd);
     EXPECT_EQ(nextYear->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    TakeEvents();
+    TakeEvents(); // what was posted is done
     EXPECT_EQ(nextYear.GetName(), "Show July, 2028");
-    EXPECT_THAT(TakeHeard(), ElementsAre()); // no date is selected
-
-    // The control lists them after the days.
-    const Speaker speaker(calendar->m_hWnd);
-    IDispatch* pChild = nullptr;
-    EXPECT_EQ(speaker->get_accChild(Child(kDays), &pChild), S_FALSE);
-    EXPECT_EQ(speaker->get_accChild(Child(kDays + 8), &pChild), S_OK);
-    pChild->Release();
-    EXPECT_EQ(speaker->get_accChild(Child(kDays + 9), &pChild), E_INVALIDARG);
 }
 
 TEST_F(AccessibleTest, ObjectOutlivesItsWindow)

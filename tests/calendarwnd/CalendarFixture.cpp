@@ -5,7 +5,6 @@
 #include <ZebrikUtils.h>
 #include <gdiplus.h>
 
-#include <random>
 #include <tuple>
 
 namespace {
@@ -82,6 +81,8 @@ LRESULT TestCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_SETFOCUS)
+        m_onFocus();
     if (FindName(message) == nullptr || m_pCalendar == nullptr)
         return CWnd::WindowProc(message, wParam, lParam);
     const bool bRange = message == CCalendarWnd::CALWND_DATERANGE_CHANGED;
@@ -92,41 +93,30 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
-Picture::Picture(CWnd& wnd)
+Picture::Picture(CWnd& wnd) : Canvas(500, 400, wnd.m_hWnd)
 {
-    CRect rc;
-    wnd.GetClientRect(&rc);
     CClientDC dc(&wnd);
-    m_dc.CreateCompatibleDC(&dc);
-    m_bitmap.CreateCompatibleBitmap(&dc, rc.Width(), rc.Height());
-    m_dc.SelectObject(&m_bitmap);
-    m_dc.BitBlt(0, 0, rc.Width(), rc.Height(), &dc, 0, 0, SRCCOPY);
+    BitBlt(0, 0, GetRect().right, GetRect().bottom, &dc, 0, 0, SRCCOPY);
 }
 
 bool Picture::Contains(const CRect& rc, COLORREF cr) const
 {
-    for (int y = rc.top; y < rc.bottom; ++y)
-        for (int x = rc.left; x < rc.right; ++x)
-            if (At(x, y) == cr)
-                return true;
-    return false;
+    return !FindInk(rc, [=](COLORREF crInk) { return crInk == cr; }).IsRectEmpty();
 }
 
-int Picture::Darkest(const CRect& rc) const
+int Picture::GetDarkest(const CRect& rc) const
 {
     int nDarkest = 255;
-    for (int y = rc.top; y < rc.bottom; ++y)
-        for (int x = rc.left; x < rc.right; ++x)
-            nDarkest = std::min<int>(nDarkest, GetGValue(At(x, y)));
+    FindInk(rc, [&nDarkest](COLORREF cr) {
+        nDarkest = std::min<int>(nDarkest, GetGValue(cr));
+        return false;
+    });
     return nDarkest;
 }
 
 CalendarTest::CalendarTest()
-    : m_directory(std::filesystem::temp_directory_path() /
-                  ("zeb17_calendar_" + std::to_string(std::random_device{}())))
 {
-    std::filesystem::create_directory(m_directory);
-    ZebrikUtils::SetDataDirectory(m_directory.string().c_str());
+    ZebrikUtils::SetDataDirectory(m_directory.PathOf("data").c_str());
     Clock::SetToday(2026, 7, 15);
     LocaleUtils::SetLocale("en-US");
     Renew(); // now that the clock is set
@@ -143,7 +133,6 @@ CalendarTest::~CalendarTest()
     LocaleUtils::SetLocale("");
     Clock::Release();
     ZebrikUtils::SetDataDirectory("");
-    std::filesystem::remove_all(m_directory);
 }
 
 void CalendarTest::Renew()
@@ -153,11 +142,11 @@ void CalendarTest::Renew()
     parent.m_pCalendar = calendar.get();
 }
 
-bool CalendarTest::Create(const Flags& flags, int nWidth, int nHeight)
+bool CalendarTest::Create(const Flags& flags, CSize size)
 {
-    return calendar->Create(kCalendarId, CRect(CPoint(10, 20), CSize(nWidth, nHeight)),
-                            flags.bUseSpecialDates, &parent, flags.bAllowNoDate, flags.bShowOptions,
-                            flags.bAllowWebPage, flags.bAllowDateRanges);
+    return calendar->Create(kCalendarId, CRect(CPoint(10, 20), size), flags.bUseSpecialDates, &parent,
+                            flags.bAllowNoDate, flags.bShowOptions, flags.bAllowWebPage,
+                            flags.bAllowDateRanges);
 }
 
 void CalendarTest::Start(const Flags& flags)
@@ -195,8 +184,7 @@ void CalendarTest::ExpectMonth()
                           calendar->m_vDayDescs);
     };
     const auto found = look();
-    calendar->UpdateMonthYearText();
-    calendar->DetermineSpecialDays();
+    calendar->RefreshMonth();
     ASSERT_TRUE(found == look());
 }
 

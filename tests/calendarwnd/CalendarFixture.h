@@ -1,7 +1,9 @@
 // A calendar in a real window, with a parent that records what it hears.
 #pragma once
 
-#include "RecordingLogger.h"
+#include <Canvas.h>
+#include <RecordingLogger.h>
+#include <TemporaryDirectory.h>
 
 #include <afxwin.h>
 
@@ -11,7 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -23,9 +24,6 @@ inline constexpr UINT kCalendarId = 300;
 class TestCalendar : public CCalendarWnd
 {
 public:
-    using CCalendarWnd::m_bAllowDateRanges;
-    using CCalendarWnd::m_bAllowNoDate;
-    using CCalendarWnd::m_bAllowWebPage;
     using CCalendarWnd::m_bHaveDate;
     using CCalendarWnd::m_bUseSpecialDates;
     using CCalendarWnd::m_date;
@@ -51,21 +49,20 @@ public:
     using CCalendarWnd::m_vDayDescs;
     using CCalendarWnd::m_vRowEdges;
 
-    using CCalendarWnd::DetermineSpecialDays;
     using CCalendarWnd::FilterOptionsMenu;
     using CCalendarWnd::GetCellRect;
     using CCalendarWnd::OnClearButton;
-    using CCalendarWnd::OnMouseHWheel;
     using CCalendarWnd::OnOptionsButton;
     using CCalendarWnd::OnSize;
     using CCalendarWnd::OnToolTipNotify;
     using CCalendarWnd::PreTranslateMessage;
     using CCalendarWnd::RefreshMonth;
     using CCalendarWnd::SetValidDate;
-    using CCalendarWnd::UpdateMonthYearText;
 
     CString GetTitle() const;
-    CRect GetDayRect(int nDay) const; // text rectangle of a day of the month shown
+    // The text rectangles of a cell, 0 to 41, and of a day of the month shown.
+    CRect GetRectOfCell(int nCell) const { return GetCellRect(MonthBlock::PlaceOfCell(nCell)); }
+    CRect GetDayRect(int nDay) const;
 
     int m_nPaints = 0;
 
@@ -93,6 +90,7 @@ class RecordingParent : public CWnd
 public:
     TestCalendar* m_pCalendar = nullptr;
     std::vector<Heard> m_heard;
+    std::function<void()> m_onFocus = [] {}; // done when it gets the focus
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -108,18 +106,13 @@ struct Flags
 };
 
 // The pixels of a window's client area.
-class Picture
+class Picture : public Canvas
 {
 public:
     explicit Picture(CWnd& wnd);
-    COLORREF At(int x, int y) const { return m_dc.GetPixel(x, y); }
     bool Contains(const CRect& rc, COLORREF cr) const;
     // The darkest pixel inside a rectangle, by its green part.
-    int Darkest(const CRect& rc) const;
-
-private:
-    CDC m_dc;
-    CBitmap m_bitmap;
+    int GetDarkest(const CRect& rc) const;
 };
 
 // Today is Wednesday, 15 July 2026; weeks begin on Sunday.
@@ -132,7 +125,7 @@ protected:
     CalendarTest();
     ~CalendarTest() override;
 
-    bool Create(const Flags& flags = {}, int nWidth = kWidth, int nHeight = kHeight);
+    bool Create(const Flags& flags = {}, CSize size = {kWidth, kHeight});
     // Starts over with a new control.
     void Renew();
     // Creates the control, paints it, gives it the focus, and forgets what was heard.
@@ -144,7 +137,7 @@ protected:
     CRect GetInvalid();
 
     void Press(CPoint point);
-    void PressDay(int nDay) { Press(calendar->GetDayRect(nDay).CenterPoint()); }
+    void PressCell(int nCell) { Press(calendar->GetRectOfCell(nCell).CenterPoint()); }
     void Key(WPARAM nKey, CWnd* pTarget = nullptr); // goes to the focus, or to pTarget
     void Command(UINT nId);
     void AddSpecialDay(const char* strText, int nDay, int nMonth, COLORREF cr);
@@ -156,7 +149,7 @@ protected:
     // Names of what was heard since the last call, such as "SELCHANGE 1".
     std::vector<std::string> TakeHeard();
 
-    std::filesystem::path m_directory;
+    TemporaryDirectory m_directory;
     RecordingLogger logger;
     RecordingParent parent;
     std::unique_ptr<TestCalendar> calendar;

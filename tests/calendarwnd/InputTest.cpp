@@ -41,7 +41,7 @@ TEST_F(InputTest, PressEveryCell)
             Show(first, false);
             DateTime expected = first;
             expected.AddDays(nCell + 1 - MonthBlock::ShapeOf(first)->nFirstColumn);
-            Press(calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)).CenterPoint());
+            PressCell(nCell);
             ASSERT_EQ(ToText(calendar->m_date), ToText(expected));
             ASSERT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0"));
         }
@@ -88,22 +88,6 @@ TEST_F(InputTest, PressBeforeTheFirstPaint)
     EXPECT_THAT(TakeHeard(), IsEmpty());
 }
 
-TEST_F(InputTest, DoubleClickIsTwoPresses)
-{
-    Start();
-    Show(Date(2026, 5, 20), true);
-    const CPoint shown = calendar->GetDayRect(4).CenterPoint();
-    Press(shown);
-    Press(shown);
-    EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0"));
-    const CPoint last = calendar->GetCellRect({7, 7}).CenterPoint(); // 6 June, then 11 July
-    Press(last);
-    Repaint();
-    Press(last);
-    EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0", "SELCHANGE 0"));
-    EXPECT_EQ(ToText(calendar->m_date), "2026-7-11");
-}
-
 // From each stop of the ring in both directions, for each choice of the two optional buttons. A move redraws
 // the frame at the day of the date, except away from Clear and the previous month.
 TEST_F(InputTest, FocusRing)
@@ -147,6 +131,16 @@ TEST_F(InputTest, FocusRing)
     }
 }
 
+TEST_F(InputTest, FrameGoesWhereTheHostPutTheDateWhenItGotTheFocus)
+{
+    Start();
+    Show(Date(2026, 7, 8), true);
+    parent.m_onFocus = [this] { calendar->SetDate(Date(2026, 7, 20)); };
+    Tab(true);
+    EXPECT_EQ(::GetFocus(), parent.m_hWnd);
+    EXPECT_EQ(calendar->m_rcSelection, calendar->GetDayRect(20));
+}
+
 TEST_F(InputTest, TabIsLeftAloneWithoutAWholeRing)
 {
     Start();
@@ -160,28 +154,12 @@ TEST_F(InputTest, TabIsLeftAloneWithoutAWholeRing)
     EXPECT_EQ(::GetFocus(), calendar->m_hWnd);
 }
 
-TEST_F(InputTest, KeysWorkOnTheButtonsToo)
+TEST_F(InputTest, TodayTakesTheFocusBeforeTheParentHears)
 {
     Start();
-    Show(Date(2026, 5, 20), true);
     calendar->m_pNextYearButton->SetFocus();
-    Key(VK_DOWN);
-    Key(VK_RETURN);
-    Key(VK_ESCAPE);
-    EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 1")); // Enter and Esc are the button's own
     Key('T');
-    ASSERT_EQ(parent.m_heard.size(), 1u);
-    EXPECT_EQ(parent.m_heard[0].hFocus, calendar->m_hWnd); // moved before the parent hears
-}
-
-TEST_F(InputTest, HorizontalWheelDoesNothing)
-{
-    Start();
-    constexpr UINT kMouseHWheel = 0x020E;
-    calendar->SendMessage(kMouseHWheel, MAKEWPARAM(0, 120));
-    EXPECT_EQ(ToText(calendar->m_date), "2026-7-15");
-    EXPECT_TRUE(calendar->OnMouseHWheel(0, 120, CPoint()));
-    EXPECT_EQ(ToText(calendar->m_date), "2026-6-15");
+    EXPECT_EQ(parent.m_heard.at(0).hFocus, calendar->m_hWnd);
 }
 
 TEST_F(InputTest, CursorIsTheArrow)

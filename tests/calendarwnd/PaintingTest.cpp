@@ -27,9 +27,8 @@ protected:
         const Picture picture(*calendar);
         for (const LONG x : {rc.left - 3, rc.right + 0})
             for (const LONG y : {rc.top - 1, rc.bottom + 0, rc.CenterPoint().y + 0})
-                EXPECT_EQ(picture.At(x, y), cr) << x << ',' << y;
+                EXPECT_EQ(picture.GetPixel(x, y), cr) << x << ',' << y;
     }
-    CRect GetInner(int nCell) const { return calendar->GetCellRect(MonthBlock::PlaceOfCell(nCell)); }
     CString GetTip(UINT_PTR nId) const
     {
         CString strTip;
@@ -50,18 +49,18 @@ TEST_F(PaintingTest, LinesAndBands)
             {nNames + 1, kWhite}, {grid.bottom - 2, kWhite}, {grid.bottom - 1, kLine},
         };
         for (const auto& [y, cr] : rows)
-            EXPECT_EQ(picture.At(x, y), cr) << x << ',' << y;
+            EXPECT_EQ(picture.GetPixel(x, y), cr) << x << ',' << y;
     }
     for (size_t i = 1; i < 7; ++i) {
         const int x = calendar->m_vColumnEdges[i];
-        EXPECT_EQ(picture.At(0, calendar->m_vRowEdges[i]), kLine);
-        EXPECT_EQ(picture.At(kWidth - 1, calendar->m_vRowEdges[i]), kLine);
-        EXPECT_EQ(picture.At(x, grid.top + 1), kLine);
-        EXPECT_EQ(picture.At(x, grid.bottom - 2), kLine);
-        EXPECT_EQ(picture.At(x + 1, grid.bottom - 2), kWhite);
+        EXPECT_EQ(picture.GetPixel(0, calendar->m_vRowEdges[i]), kLine);
+        EXPECT_EQ(picture.GetPixel(kWidth - 1, calendar->m_vRowEdges[i]), kLine);
+        EXPECT_EQ(picture.GetPixel(x, grid.top + 1), kLine);
+        EXPECT_EQ(picture.GetPixel(x, grid.bottom - 2), kLine);
+        EXPECT_EQ(picture.GetPixel(x + 1, grid.bottom - 2), kWhite);
     }
     for (int c = 1; c <= 7; ++c)
-        EXPECT_LT(picture.Darkest(calendar->GetCellRect({1, c})), 100) << "name of day " << c;
+        EXPECT_LT(picture.GetDarkest(calendar->GetCellRect({1, c})), 100) << "name of day " << c;
 }
 
 TEST_F(PaintingTest, NumbersOfThreeMonths)
@@ -70,7 +69,7 @@ TEST_F(PaintingTest, NumbersOfThreeMonths)
     const Picture picture(*calendar);
     const auto shape = MonthBlock::ShapeOf(calendar->m_date);
     for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
-        const int nDarkest = picture.Darkest(GetInner(nCell));
+        const int nDarkest = picture.GetDarkest(calendar->GetRectOfCell(nCell));
         if (MonthBlock::CellAt(*shape, nCell).month == MonthBlock::Month::Shown)
             EXPECT_LT(nDarkest, 100) << nCell;
         else
@@ -83,27 +82,27 @@ TEST_F(PaintingTest, NumbersOfThreeMonths)
 TEST_F(PaintingTest, TodayAndFrame)
 {
     Show(Date(2026, 7, 15), true);
-    CRect rc = GetInner(calendar->m_nTodayCell);
+    CRect rc = calendar->GetRectOfCell(calendar->m_nTodayCell);
     EXPECT_EQ(calendar->m_rcSelection, rc);
     EXPECT_EQ(calendar->m_rcToday, CRect(rc.left - 3, rc.top - 1, rc.right + 1, rc.bottom + 1));
     ExpectFrame(rc, kBlack);
     const Picture picture(*calendar);
-    EXPECT_EQ(picture.At(rc.right - 3, rc.bottom - 3), kToday);
+    EXPECT_EQ(picture.GetPixel(rc.right - 3, rc.bottom - 3), kToday);
     EXPECT_FALSE(picture.Contains(rc, kWhite)) << "the number stands on the highlight";
-    EXPECT_FALSE(picture.Contains(GetInner(calendar->m_nTodayCell + 1), kToday)) << "the next does not";
+    EXPECT_FALSE(picture.Contains(calendar->GetRectOfCell(calendar->m_nTodayCell + 1), kToday))
+        << "the next does not";
 
     Key(VK_RIGHT); // the frame leaves, the highlight stays whole
     ExpectFrame(rc, kToday);
-    ExpectFrame(GetInner(calendar->m_nTodayCell + 1), kBlack);
+    ExpectFrame(calendar->GetRectOfCell(calendar->m_nTodayCell + 1), kBlack);
     Key(VK_RIGHT);
-    ExpectFrame(GetInner(calendar->m_nTodayCell + 1), kWhite);
+    ExpectFrame(calendar->GetRectOfCell(calendar->m_nTodayCell + 1), kWhite);
     EXPECT_EQ(GetInvalid(), CRect());
 
     Show(Date(2026, 7, 15), true);
     Command(2605); // white on every cell
     ExpectFrame(rc, kWhite);
 
-    calendar->m_date = Date(2026, 6, 1);
     Show(Date(2026, 8, 1), false); // 15 July is outside
     EXPECT_EQ(calendar->m_nTodayCell, -1);
     EXPECT_EQ(calendar->m_rcToday.TopLeft(), CPoint(rc.left - 3, rc.top - 1)); // keeps what was painted last
@@ -149,12 +148,12 @@ TEST_F(PaintingTest, DotsAndTips)
     const std::pair<int, COLORREF> dots[] = {
         {0, RGB(200, 10, 20)}, {6, RGB(10, 120, 220)}, {22, kWhite}, {23, kWhite}};
     for (const auto& [nCell, cr] : dots) {
-        const CRect rc = GetInner(nCell);
+        const CRect rc = calendar->GetRectOfCell(nCell);
         const CPoint center(rc.right - 12 + 5, rc.top + 2 + 5);
         for (const CPoint pt : {center, CPoint(center.x - 3, center.y), CPoint(center.x, center.y - 3)})
-            EXPECT_EQ(picture.At(pt.x, pt.y), cr) << nCell;
-        EXPECT_EQ(picture.At(rc.right - 12, rc.top + 2), kWhite) << "corner of " << nCell;
-        EXPECT_EQ(picture.At(center.x, rc.top), kWhite) << "above " << nCell;
+            EXPECT_EQ(picture.GetPixel(pt), cr) << nCell;
+        EXPECT_EQ(picture.GetPixel(rc.right - 12, rc.top + 2), kWhite) << "corner of " << nCell;
+        EXPECT_EQ(picture.GetPixel(center.x, rc.top), kWhite) << "above " << nCell;
     }
 
     Show(Date(2026, 1, 9), true);
@@ -169,9 +168,9 @@ TEST_F(PaintingTest, WithoutADateTheGridIsEmpty)
     const int nColumn = calendar->m_nFirstDayColumn;
     Show(DateTime(), true);
     const Picture picture(*calendar);
-    EXPECT_EQ(picture.Darkest(calendar->GetCellRect({1, 4})), GetGValue(kHeader));
+    EXPECT_EQ(picture.GetDarkest(calendar->GetCellRect({1, 4})), GetGValue(kHeader));
     for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell)
-        EXPECT_EQ(picture.Darkest(GetInner(nCell)), 255) << nCell;
+        EXPECT_EQ(picture.GetDarkest(calendar->GetRectOfCell(nCell)), 255) << nCell;
     EXPECT_EQ(calendar->m_rcSelection, CRect());
     EXPECT_EQ(calendar->m_nFirstDayColumn, nColumn);
     EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 1);
@@ -184,7 +183,7 @@ TEST_F(PaintingTest, WithoutSpecialDatesThereAreNoTools)
     AddSpecialDay("Tip", 4, 7, RGB(10, 120, 220));
     Show(Date(2026, 7, 9), true);
     EXPECT_EQ(calendar->m_nNextToolId, 0u);
-    const CRect rc = GetInner(6);
-    EXPECT_EQ(Picture(*calendar).At(rc.right - 7, rc.top + 7), kWhite);
+    const CRect rc = calendar->GetRectOfCell(6);
+    EXPECT_EQ(Picture(*calendar).GetPixel(rc.right - 7, rc.top + 7), kWhite);
     ExpectFrame(calendar->m_rcSelection, kBlack);
 }

@@ -6,12 +6,13 @@
 class Canvas : public CDC
 {
 public:
-    Canvas(int nWidth, int nHeight) : m_rect(0, 0, nWidth, nHeight)
+    // With the pixels of a window, or those of the screen.
+    Canvas(int nWidth, int nHeight, HWND hWnd = nullptr) : m_rect(0, 0, nWidth, nHeight)
     {
-        const HDC hScreen = ::GetDC(nullptr);
-        Attach(::CreateCompatibleDC(hScreen));
-        m_bitmap.Attach(::CreateCompatibleBitmap(hScreen, nWidth, nHeight));
-        ::ReleaseDC(nullptr, hScreen);
+        const HDC hDC = ::GetDC(hWnd);
+        Attach(::CreateCompatibleDC(hDC));
+        m_bitmap.Attach(::CreateCompatibleBitmap(hDC, nWidth, nHeight));
+        ::ReleaseDC(hWnd, hDC);
         m_hOldBitmap = ::SelectObject(m_hDC, m_bitmap.m_hObject);
         FillSolidRect(&m_rect, RGB(255, 255, 255));
     }
