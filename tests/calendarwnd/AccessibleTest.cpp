@@ -167,24 +167,20 @@ TEST_F(AccessibleTest, DaysAtTheEndsOfTimeHaveNoDate)
 TEST_F(AccessibleTest, MovesAreAnnounced)
 {
     Start();
-    const struct
-    {
-        WPARAM nKey;
-        bool bMonth;   // the month is another one
-        LONG nFocused; // the item that gets the focus
-    } cases[] = {
+    // A key, whether the month is another one, and the item that gets the focus.
+    const std::tuple<WPARAM, bool, LONG> cases[] = {
         {VK_RIGHT, false, 19}, {VK_HOME, false, 4}, {VK_LEFT, true, 31},
         {VK_NEXT, true, 33},   {'T', false, 18},
     };
     TakeEvents();
-    for (const auto& c : cases) {
+    for (const auto& [nKey, bMonth, nFocused] : cases) {
         Events expected;
-        if (c.bMonth)
+        if (bMonth)
             expected = {{EVENT_OBJECT_REORDER, CHILDID_SELF}, {EVENT_OBJECT_NAMECHANGE, CHILDID_SELF}};
-        expected.emplace_back(EVENT_OBJECT_FOCUS, c.nFocused);
-        expected.emplace_back(EVENT_OBJECT_SELECTION, c.nFocused);
-        Key(c.nKey);
-        EXPECT_EQ(TakeEvents(), expected) << c.nKey;
+        expected.emplace_back(EVENT_OBJECT_FOCUS, nFocused);
+        expected.emplace_back(EVENT_OBJECT_SELECTION, nFocused);
+        Key(nKey);
+        EXPECT_EQ(TakeEvents(), expected) << nKey;
     }
     PressCell(22);
     EXPECT_EQ(TakeEvents(), (Events{{EVENT_OBJECT_FOCUS, 23}, {EVENT_OBJECT_SELECTION, 23}}));
@@ -213,13 +209,7 @@ TEST_F(AccessibleTest, ActionOfADaySelectsAsAPressDoes)
 TEST_F(AccessibleTest, ButtonsAreNamedByCaptionOrTip)
 {
     Start({true, false, true, true, true}); // no Clear
-    const struct
-    {
-        CWnd* pButton;
-        const char* strName;
-        LONG nRole;
-        LONG nState;
-    } cases[] = {
+    const std::tuple<CWnd*, const char*, LONG, LONG> cases[] = {
         {calendar->m_pPrevMonthButton, "Show June, 2026", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
         {calendar->m_pTodayButton, "Today", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
         {calendar->m_pOptionsButton, "Options", ROLE_SYSTEM_PUSHBUTTON, STATE_SYSTEM_FOCUSABLE},
@@ -227,11 +217,11 @@ TEST_F(AccessibleTest, ButtonsAreNamedByCaptionOrTip)
         {calendar->m_pClearButton, "", ROLE_SYSTEM_STATICTEXT,
          STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE},
     };
-    for (const auto& c : cases) {
-        const Speaker speaker(c.pButton->m_hWnd);
-        EXPECT_EQ(speaker.GetName(), c.strName);
-        EXPECT_EQ(speaker.GetRole(), c.nRole) << c.strName;
-        EXPECT_EQ(speaker.GetState(), c.nState) << c.strName;
+    for (const auto& [pButton, strName, nRole, nState] : cases) {
+        const Speaker speaker(pButton->m_hWnd);
+        EXPECT_EQ(speaker.GetName(), strName);
+        EXPECT_EQ(speaker.GetRole(), nRole) << strName;
+        EXPECT_EQ(speaker.GetState(), nState) << strName;
     }
     const Speaker nextYear(calendar->m_pNextYearButton->m_hWnd);
     EXPECT_EQ(nextYear->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);

@@ -56,11 +56,6 @@ std::string ToText(const DateTime& date)
     return std::to_string(nYear) + "-" + std::to_string(nMonth) + "-" + std::to_string(nDay);
 }
 
-std::string NameOf(const Heard& heard)
-{
-    return std::string(FindName(heard.nMessage)) + " " + std::to_string(heard.lParam);
-}
-
 CString TestCalendar::GetTitle() const
 {
     CString strTitle;
@@ -83,10 +78,11 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_SETFOCUS)
         m_onFocus();
-    if (FindName(message) == nullptr || m_pCalendar == nullptr)
+    const char* const strName = FindName(message);
+    if (strName == nullptr || m_pCalendar == nullptr)
         return CWnd::WindowProc(message, wParam, lParam);
     const bool bRange = message == CCalendarWnd::CALWND_DATERANGE_CHANGED;
-    m_heard.push_back({message, wParam, bRange ? 0 : lParam, m_pCalendar->GetDate(),
+    m_heard.push_back({strName + (" " + std::to_string(bRange ? 0 : lParam)), wParam, m_pCalendar->GetDate(),
                        bRange ? *reinterpret_cast<const DateTime*>(lParam) : DateTime(),
                        m_pCalendar->m_bHaveDate, m_pCalendar->GetTitle(), m_pCalendar->m_rcSelection,
                        m_pCalendar->m_vDayDescs, ::GetFocus()});
@@ -194,13 +190,9 @@ void CalendarTest::Press(CPoint point)
     calendar->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
 
-void CalendarTest::Key(WPARAM nKey, CWnd* pTarget)
+void CalendarTest::Key(WPARAM nKey)
 {
-    MSG msg{};
-    msg.hwnd = pTarget != nullptr ? pTarget->m_hWnd : ::GetFocus();
-    msg.message = WM_KEYDOWN;
-    msg.wParam = nKey;
-    msg.lParam = 1;
+    MSG msg{::GetFocus(), WM_KEYDOWN, nKey, 1, 0, {}};
     if (!CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg))
         ::DispatchMessageA(&msg);
 }
@@ -229,7 +221,7 @@ std::vector<std::string> CalendarTest::TakeHeard()
 {
     std::vector<std::string> names;
     for (const Heard& heard : parent.m_heard)
-        names.push_back(NameOf(heard));
+        names.push_back(heard.strName);
     parent.m_heard.clear();
     return names;
 }

@@ -73,9 +73,8 @@ protected:
 // One registered message, and what the control showed at that moment.
 struct Heard
 {
-    UINT nMessage;
+    std::string strName; // with its `lParam`, such as "SELCHANGE 1"; 0 for a range, whose end is in dtEnd
     WPARAM wParam;
-    LPARAM lParam; // 0 for a range, whose end is in dtEnd
     DateTime date;
     DateTime dtEnd;
     bool bHaveDate;
@@ -138,7 +137,7 @@ protected:
 
     void Press(CPoint point);
     void PressCell(int nCell) { Press(calendar->GetRectOfCell(nCell).CenterPoint()); }
-    void Key(WPARAM nKey, CWnd* pTarget = nullptr); // goes to the focus, or to pTarget
+    void Key(WPARAM nKey); // goes to the focus
     void Command(UINT nId);
     void AddSpecialDay(const char* strText, int nDay, int nMonth, COLORREF cr);
     void HideNationalDays();
@@ -146,7 +145,7 @@ protected:
     // Title and tables of the cells are those of the month shown.
     void ExpectMonth();
 
-    // Names of what was heard since the last call, such as "SELCHANGE 1".
+    // Names of what was heard since the last call.
     std::vector<std::string> TakeHeard();
 
     TemporaryDirectory m_directory;
@@ -157,4 +156,3 @@ protected:
 
 DateTime Date(int nYear, int nMonth, int nDay);
 std::string ToText(const DateTime& date);
-std::string NameOf(const Heard& heard);

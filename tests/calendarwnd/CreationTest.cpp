@@ -27,16 +27,14 @@ void Replace(Button*& pButton, Button* pOther)
 
 }
 
-class CreationTest : public CalendarTest
-{
-};
+using CreationTest = CalendarTest;
 
 TEST_F(CreationTest, EndsWithoutADateAndSaysSo)
 {
     ASSERT_TRUE(Create());
     ASSERT_EQ(parent.m_heard.size(), 1u);
     const Heard& heard = parent.m_heard.front();
-    EXPECT_EQ(NameOf(heard), "NODATE 0");
+    EXPECT_EQ(heard.strName, "NODATE 0");
     EXPECT_EQ(heard.wParam, kCalendarId);
     EXPECT_EQ(ToText(heard.date), "2026-7-15");
     EXPECT_EQ(heard.strTitle, "July 2026");
@@ -140,12 +138,8 @@ TEST_F(CreationTest, MissingButtonObject)
 // A button that could not be created is logged, and the control goes on without it.
 TEST_F(CreationTest, RefusedButtons)
 {
-    struct
-    {
-        CZEBButton* TestCalendar::*pButton; // null for the options
-        bool bOffered;
-        const char* strMark;
-    } const cases[] = {
+    // Null stands for the options.
+    const std::tuple<CZEBButton * TestCalendar::*, bool, const char*> cases[] = {
         {&TestCalendar::m_pPrevMonthButton, true, "{E9A2B6D6-9485-42D0-BF9F-FDB8E8AF8E8D}"},
         {&TestCalendar::m_pNextMonthButton, true, "{9250256C-0A3D-4561-8A9F-0E8C44AA8720}"},
         {&TestCalendar::m_pPrevYearButton, true, "{00AB4C70-44C8-4D43-AA36-D5C877FE0C2E}"},
@@ -157,29 +151,26 @@ TEST_F(CreationTest, RefusedButtons)
         {&TestCalendar::m_pClearButton, false, "{839A35AF-62E0-4FD3-8CB0-9EB85D62FF60}"},
         {&TestCalendar::m_pMonthYearButton, true, "{637363C1-6A35-450D-9CBF-A0D5BA7CDE3B}"},
     };
-    for (const bool bLog : {true, false})
-        for (const auto& c : cases) {
-            SCOPED_TRACE(c.strMark);
-            AppLogger::m_pInstance = bLog ? &logger : nullptr;
-            logger.m_lines.clear();
-            Renew();
-            if (c.pButton == nullptr)
-                Replace<CDownArrowButton>(calendar->m_pOptionsButton, new RefusedButton<CDownArrowButton>);
-            else
-                Replace<CZEBButton>((*calendar).*c.pButton, new RefusedButton<CZEBButton>);
-            EXPECT_TRUE(Create({.bAllowNoDate = c.bOffered, .bShowOptions = c.bOffered}));
-            EXPECT_EQ(logger.m_lines,
-                      bLog ? std::vector<std::string>{c.strMark} : std::vector<std::string>{});
+    for (const auto& [pButton, bOffered, strMark] : cases) {
+        SCOPED_TRACE(strMark);
+        logger.m_lines.clear();
+        Renew();
+        if (pButton == nullptr)
+            Replace<CDownArrowButton>(calendar->m_pOptionsButton, new RefusedButton<CDownArrowButton>);
+        else
+            Replace<CZEBButton>((*calendar).*pButton, new RefusedButton<CZEBButton>);
+        EXPECT_TRUE(Create({.bAllowNoDate = bOffered, .bShowOptions = bOffered}));
+        EXPECT_THAT(logger.m_lines, ElementsAre(strMark));
 
-            // Whatever is missing, the control can be painted and driven.
-            calendar->SetFocus();
-            Repaint();
-            for (const WPARAM nKey : {VK_TAB, VK_DOWN, VK_NEXT, VK_HOME})
-                Key(nKey);
-            Press(CPoint(50, 60));
-            calendar->MoveWindow(0, 0, 250, 250);
-            Repaint();
-        }
+        // Whatever is missing, the control can be painted and driven.
+        calendar->SetFocus();
+        Repaint();
+        for (const WPARAM nKey : {VK_TAB, VK_DOWN, VK_NEXT, VK_HOME})
+            Key(nKey);
+        Press(CPoint(50, 60));
+        calendar->MoveWindow(0, 0, 250, 250);
+        Repaint();
+    }
 }
 
 TEST_F(CreationTest, ShadingReachesTheButtonsAtAnyTime)

@@ -11,18 +11,14 @@ using testing::IsEmpty;
 class InputTest : public CalendarTest
 {
 protected:
-    void SetShift(bool bDown)
-    {
-        BYTE keys[256];
-        ::GetKeyboardState(keys);
-        keys[VK_SHIFT] = bDown ? 0x80 : 0;
-        ::SetKeyboardState(keys);
-    }
     void Tab(bool bShift)
     {
-        SetShift(bShift);
+        BYTE keys[256] = {};
+        keys[VK_SHIFT] = bShift ? 0x80 : 0;
+        ::SetKeyboardState(keys);
         Key(VK_TAB);
-        SetShift(false);
+        keys[VK_SHIFT] = 0;
+        ::SetKeyboardState(keys);
     }
 };
 
@@ -74,6 +70,17 @@ TEST_F(InputTest, PressEveryPixel)
     edges.front() += 2;
     for (int y = 20; y < kHeight; ++y)
         press({center.x, y}, edges, y, 2, 7);
+}
+
+// Those after 4 October 1582, in whose place the 15th is selected.
+TEST_F(InputTest, PressTheDaysThatNeverWere)
+{
+    Start();
+    for (int nDay = 5; nDay <= 15; ++nDay) {
+        Show(Date(1582, 10, 20), true);
+        Press(calendar->GetDayRect(nDay).CenterPoint());
+        EXPECT_EQ(ToText(calendar->m_date), "1582-10-15") << nDay;
+    }
 }
 
 TEST_F(InputTest, PressBeforeTheFirstPaint)

@@ -91,25 +91,6 @@ TEST_F(LayoutTest, TodayCell)
     EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
 }
 
-TEST_F(LayoutTest, SpecialDaysStandInTheirCells)
-{
-    Start();
-    HideNationalDays();
-    AddSpecialDay("Last", 28, 6, RGB(9, 8, 7)); // in the first row of July
-    AddSpecialDay("First", 1, 7, 0xFFFFFF);
-    AddSpecialDay("Next", 8, 8, RGB(1, 2, 3)); // in the last cell
-    calendar->RefreshMonth();
-    std::vector<CString> descs(MonthBlock::kCells);
-    descs[0] = "Last";
-    descs[3] = "First";
-    descs[41] = "Next";
-    std::vector<COLORREF> colors(MonthBlock::kCells, 0xFFFFFF);
-    colors[0] = RGB(9, 8, 7);
-    colors[41] = RGB(1, 2, 3);
-    EXPECT_EQ(calendar->m_vDayDescs, descs);
-    EXPECT_EQ(calendar->m_vDayColors, colors);
-}
-
 // Neither painting nor a step within the month looks dates up.
 TEST_F(LayoutTest, DaysAreLookedUpWithTheirMonth)
 {
@@ -121,18 +102,4 @@ TEST_F(LayoutTest, DaysAreLookedUpWithTheirMonth)
     EXPECT_EQ(calendar->m_vDayDescs, descs);
     Key(VK_NEXT);
     EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
-}
-
-// The calendar has no 5 to 14 October 1582, and no day before the first or after the last.
-TEST_F(LayoutTest, OddMonthsDoNoHarm)
-{
-    Start();
-    for (const DateTime& date : {Date(1582, 10, 4), Date(1582, 10, 15), Date(1, 1, 1), Date(9999, 12, 31)}) {
-        Show(date, true);
-        for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell, Show(date, true)) {
-            PressCell(nCell);
-            EXPECT_TRUE(calendar->m_date.IsValid());
-        }
-    }
-    EXPECT_EQ(MonthBlock::ShapeOf(Date(1, 1, 1))->nPrevDays, 31);
 }

@@ -37,29 +37,34 @@ protected:
 
     int Pick(int nBelow) { return static_cast<int>(m_random() % static_cast<unsigned>(nBelow)); }
     CPoint PickPoint() { return CPoint(Pick(kWidth + 20) - 10, Pick(kHeight + 20) - 10); }
+    // None, one at the ends of time, or a usual one.
     DateTime PickDate()
     {
         DateTime date;
-        const int nKind = Pick(8);
-        date.m_nDayNumber = nKind == 0   ? 1 + Pick(400)
-                            : nKind == 1 ? 3652061 - Pick(400)
-                            : nKind == 2 ? 0
-                                         : 739000 + Pick(2000);
+        const int days[] = {0, 1 + Pick(400), 3652061 - Pick(400), 739000 + Pick(2000)};
+        date.m_nDayNumber = days[std::min(Pick(8), 3)];
         return date;
     }
     std::string IfDate(const char* strTold) const { return calendar->m_bHaveDate ? strTold : ""; }
 
     Due Act()
     {
-        switch (Pick(10)) {
+        switch (Pick(16)) {
         case 0:
+            calendar->SetFocus();
+            return {};
         case 1:
-            Press(PickPoint());
-            return {"SELCHANGE 0", false};
+            parent.SetFocus();
+            return {};
         case 2:
+            calendar->MoveWindow(0, 0, Pick(400), Pick(300));
+            return {};
         case 3:
+            calendar->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(Pick(300), Pick(300)));
+            return {};
         case 4:
-            return ActOnKey();
+            calendar->ReloadSpecialDates();
+            return {};
         case 5:
             return ActOnButton();
         case 6: {
@@ -75,9 +80,12 @@ protected:
             calendar->SetDate(date);
             return {date.IsValid() ? "SELCHANGE 1" : ""};
         }
+        case 9:
+        case 10:
+            Press(PickPoint());
+            return {"SELCHANGE 0", false};
         default:
-            ActOnWindow();
-            return {};
+            return ActOnKey();
         }
     }
 
@@ -111,26 +119,6 @@ protected:
         return due;
     }
 
-    void ActOnWindow()
-    {
-        switch (Pick(5)) {
-        case 0:
-            calendar->SetFocus();
-            break;
-        case 1:
-            parent.SetFocus();
-            break;
-        case 2:
-            calendar->MoveWindow(0, 0, Pick(400), Pick(300));
-            break;
-        case 3:
-            calendar->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(Pick(300), Pick(300)));
-            break;
-        default:
-            calendar->ReloadSpecialDates();
-        }
-    }
-
     // Each message in the state that it tells of, and none for less than a change of that state.
     void CheckHeard(const Due& due, bool bChanged)
     {
@@ -139,7 +127,7 @@ protected:
             ASSERT_EQ(heard.wParam, kCalendarId);
             ASSERT_EQ(heard.date.m_nDayNumber, calendar->GetDate().m_nDayNumber);
             ASSERT_EQ(heard.bHaveDate, calendar->m_bHaveDate);
-            strTold += (strTold.empty() ? "" : ", ") + NameOf(heard);
+            strTold += (strTold.empty() ? "" : ", ") + heard.strName;
         }
         parent.m_heard.clear();
         if (strTold.empty() && !due.bMustBeTold) {

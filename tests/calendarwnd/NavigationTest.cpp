@@ -54,7 +54,7 @@ protected:
             EXPECT_EQ(heard.wParam, kCalendarId);
             EXPECT_EQ(GetState(heard.date, heard.bHaveDate), strAfter);
             EXPECT_TRUE(heard.descs == (bNewTitle ? calendar->m_vDayDescs : oldDescs));
-            strTold += (strTold.empty() ? "" : ", ") + NameOf(heard);
+            strTold += (strTold.empty() ? "" : ", ") + heard.strName;
             strTold += bNewTitle ? " title" : "";
             strTold += heard.rcSelection != rcOld ? " frame" : "";
         }
@@ -147,9 +147,7 @@ TEST_F(TriggerTest, Table)
         Check(trigger);
 }
 
-class NavigationTest : public CalendarTest
-{
-};
+using NavigationTest = CalendarTest;
 
 TEST_F(NavigationTest, ClearNeedsPermissionAndAFrame)
 {

@@ -49,13 +49,11 @@ protected:
         parent.m_heard.clear();
         Command(range.nCommand);
         ASSERT_EQ(parent.m_heard.size(), 2u);
-        EXPECT_EQ(NameOf(parent.m_heard[0]), "SELCHANGE 1");
-        EXPECT_EQ(parent.m_heard[1].nMessage, CCalendarWnd::CALWND_DATERANGE_CHANGED);
-        EXPECT_EQ(parent.m_heard[1].wParam, kCalendarId);
+        EXPECT_EQ(parent.m_heard[0].strName, "SELCHANGE 1");
+        EXPECT_EQ(parent.m_heard[1].strName, "RANGE 0");
         for (const Heard& heard : parent.m_heard)
             EXPECT_EQ(ToText(heard.date), ToText(range.first));
         EXPECT_EQ(ToText(parent.m_heard[1].dtEnd), ToText(range.last));
-        EXPECT_TRUE(calendar->m_bHaveDate);
     }
 
     std::unique_ptr<CImageMenu> LoadOptionsMenu()

@@ -75,7 +75,7 @@ TEST_F(PaintingTest, NumbersOfThreeMonths)
         else
             EXPECT_TRUE(nDarkest >= 0xC4 && nDarkest < 0xF0) << nCell << ": " << nDarkest;
     }
-    EXPECT_EQ(calendar->m_nFirstDayColumn, 6);
+    EXPECT_EQ(MonthBlock::ShapeOf(Date(1, 1, 1))->nPrevDays, 31) << "before the first of all days";
 }
 
 // Today keeps its highlight, also as a day of a neighbouring month, and the frame has the same outline.
@@ -84,7 +84,6 @@ TEST_F(PaintingTest, TodayAndFrame)
     Show(Date(2026, 7, 15), true);
     CRect rc = calendar->GetRectOfCell(calendar->m_nTodayCell);
     EXPECT_EQ(calendar->m_rcSelection, rc);
-    EXPECT_EQ(calendar->m_rcToday, CRect(rc.left - 3, rc.top - 1, rc.right + 1, rc.bottom + 1));
     ExpectFrame(rc, kBlack);
     const Picture picture(*calendar);
     EXPECT_EQ(picture.GetPixel(rc.right - 3, rc.bottom - 3), kToday);
@@ -136,17 +135,19 @@ TEST_F(PaintingTest, DotsAndTips)
     AddSpecialDay("Salt & pepper", 4, 7, RGB(10, 120, 220));
     AddSpecialDay("Second", 4, 7, RGB(10, 120, 220));
     AddSpecialDay("White", 20, 7, kWhite);
+    AddSpecialDay("After", 8, 8, RGB(200, 10, 20));
     for (int nPaint = 1; nPaint <= 3; ++nPaint) {
         Show(Date(2026, 7, 9), true);
-        EXPECT_EQ(calendar->m_nNextToolId, 4u);
-        EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 3);
+        EXPECT_EQ(calendar->m_nNextToolId, 5u);
+        EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 4);
         EXPECT_EQ(GetTip(1), "Before");
         EXPECT_EQ(GetTip(2), "Salt && pepper && Second");
         EXPECT_EQ(GetTip(3), "White");
+        EXPECT_EQ(GetTip(4), "After");
     }
     const Picture picture(*calendar);
     const std::pair<int, COLORREF> dots[] = {
-        {0, RGB(200, 10, 20)}, {6, RGB(10, 120, 220)}, {22, kWhite}, {23, kWhite}};
+        {0, RGB(200, 10, 20)}, {6, RGB(10, 120, 220)}, {22, kWhite}, {23, kWhite}, {41, RGB(200, 10, 20)}};
     for (const auto& [nCell, cr] : dots) {
         const CRect rc = calendar->GetRectOfCell(nCell);
         const CPoint center(rc.right - 12 + 5, rc.top + 2 + 5);
@@ -165,14 +166,12 @@ TEST_F(PaintingTest, WithoutADateTheGridIsEmpty)
 {
     AddSpecialDay("Tip", 4, 7, RGB(10, 120, 220));
     Show(Date(2026, 7, 9), true);
-    const int nColumn = calendar->m_nFirstDayColumn;
     Show(DateTime(), true);
     const Picture picture(*calendar);
     EXPECT_EQ(picture.GetDarkest(calendar->GetCellRect({1, 4})), GetGValue(kHeader));
     for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell)
         EXPECT_EQ(picture.GetDarkest(calendar->GetRectOfCell(nCell)), 255) << nCell;
     EXPECT_EQ(calendar->m_rcSelection, CRect());
-    EXPECT_EQ(calendar->m_nFirstDayColumn, nColumn);
     EXPECT_EQ(calendar->m_toolTip.GetToolCount(), 1);
 }
 
