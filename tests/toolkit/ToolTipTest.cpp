@@ -13,16 +13,17 @@ protected:
         EXPECT_TRUE(CreateChild(m_window, m_frame, 1));
         EXPECT_TRUE(m_hidden.Create("", WS_CHILD, rect, &m_window, 31));
         EXPECT_TRUE(m_child.Create("", WS_CHILD | WS_VISIBLE | WS_DISABLED, rect, &m_window, 30));
+        EXPECT_TRUE(m_other.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &m_window, 32));
         m_window.EnableToolTips(TRUE);
     }
 
     /// Moves the pointer for the window that gets the message there.
-    static void Move(CWnd& window)
+    static void Move(CWnd& window, CPoint point = {15, 15})
     {
         MSG message{};
         message.hwnd = window.m_hWnd;
         message.message = WM_MOUSEMOVE;
-        message.lParam = MAKELPARAM(15, 15);
+        message.lParam = MAKELPARAM(point.x, point.y);
         EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message)) << "the message goes on";
     }
 
@@ -45,6 +46,7 @@ protected:
     CWnd m_window;
     CButton m_hidden;
     CButton m_child;
+    CButton m_other;
 };
 }
 
@@ -53,13 +55,17 @@ TEST_F(ToolTips, TheToolIsTheVisibleChildAtThePoint)
     TOOLINFOA tool{};
     EXPECT_EQ(m_window.OnToolHitTest(CPoint(15, 15), &tool), 30) << "a disabled child is one too";
     EXPECT_EQ(tool.uId, reinterpret_cast<UINT_PTR>(m_child.m_hWnd));
-    EXPECT_EQ(m_window.OnToolHitTest(CPoint(5, 5), nullptr), -1);
+    EXPECT_EQ(m_window.OnToolHitTest(CPoint(9, 9), nullptr), -1);
 }
 
-TEST_F(ToolTips, GoWhenTheyAreTurnedOff)
+TEST_F(ToolTips, FollowThePointerUntilTheyAreTurnedOff)
 {
+    Move(m_other, CPoint(3, 3));
     Move(m_window); // a disabled child's messages go to its parent
-    EXPECT_EQ(CountTools(), 1);
+    EXPECT_EQ(CountTools(), 1) << "that of the child at the pointer";
+    Move(m_window, CPoint(9, 9));
+    EXPECT_EQ(CountTools(), 0);
+    Move(m_window);
     m_window.EnableToolTips(FALSE);
     EXPECT_EQ(CountTools(), 0);
 }

@@ -119,6 +119,21 @@ TEST_F(Archive, CountsInThreeWidths)
     }
 }
 
+TEST_F(Archive, ListsOfTextsKeepTheirOrderAndAppendWhatTheyLoad)
+{
+    CStringList list;
+    EXPECT_EQ(list.GetHeadPosition(), nullptr);
+    for (const char* text : {"b", "", "a"})
+        list.AddTail(text);
+    const auto bytes = BytesOf([&](CArchive& ar) { list.Serialize(ar); });
+    EXPECT_EQ(bytes, "\x03\0\x01\x62\0\x01\x61"s);
+    Read(bytes, [&](CArchive& ar) { list.Serialize(ar); });
+    CString all;
+    for (POSITION pos = list.GetHeadPosition(); pos;)
+        all += list.GetNext(pos) + "|";
+    EXPECT_EQ(all, "b||a|b||a|");
+}
+
 TEST_F(Archive, EndsEarlyWithAnExceptionAndWithoutTakingMemory)
 {
     const std::string kBadTexts[] = {

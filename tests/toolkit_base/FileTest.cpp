@@ -36,7 +36,7 @@ protected:
 TEST_F(File, WritesSeeksAndReads)
 {
     const std::string path = m_directory.PathOf("a.dat");
-    CFile file(path.c_str(), 0x1001);
+    CFile file(path.c_str(), kCreate);
     file.Write("0123456789", 10);
     EXPECT_EQ(file.GetPosition(), 10u);
     file.Seek(-4, CFile::end);
@@ -54,6 +54,9 @@ TEST_F(File, WritesSeeksAndReads)
     EXPECT_EQ(again.Read(text, sizeof(text)), 0u);
     EXPECT_EQ(CauseOf([&] { again.Seek(-1, CFile::begin); }, path), CFileException::badSeek);
     EXPECT_EQ(CauseOf([&] { again.Write("x", 1); }, path), CFileException::accessDenied);
+    again.Close();
+    CFile(path.c_str(), kCreate).Close();
+    EXPECT_EQ(m_directory.Read("a.dat"), "") << "made anew";
 }
 
 TEST_F(File, OpeningFailsWithCauseAndPath)
