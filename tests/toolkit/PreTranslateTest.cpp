@@ -121,6 +121,7 @@ TEST_F(PreTranslate, TheLoopOffersBeforeItDispatchesAndEndsWithTheExitCode)
 TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
 {
     ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE));
+    ASSERT_TRUE(AfxWinInit(nullptr, nullptr, "", SW_HIDE)) << "again does no harm";
     MSG message = MakeMessage();
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER));
     EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top"));
