@@ -11,7 +11,7 @@ cleanup() {
 }
 
 start_display() {
-    exec 7< <(Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null & echo "pid $!" >"$work/xvfb"; wait)
+    exec 7< <(Xvfb -displayfd 1 -screen 0 1280x1024x24 -noreset -nolisten tcp 2>/dev/null & echo "pid $!" >"$work/xvfb"; wait)
     read -r number <&7
     export DISPLAY=:$number
     read -r _ xvfb_pid <"$work/xvfb"
