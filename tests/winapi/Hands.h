@@ -3,15 +3,9 @@
 
 #include <windows.h>
 
-enum class MouseButton
-{
-    Left,
-    Right,
-};
-
 void movePointer(int x, int y); // on the screen
-void pressButton(MouseButton button);
-void releaseButton(MouseButton button);
+void pressButton();             // the left one
+void releaseButton();
 void turnWheel(int delta);
 void pressKey(int virtualKey);
 void releaseKey(int virtualKey);

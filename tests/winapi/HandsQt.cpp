@@ -34,20 +34,15 @@ QWidget* widgetUnderPointer()
     return nullptr;
 }
 
-void sendMouse(QEvent::Type type, Qt::MouseButton button)
+void sendMouse(QEvent::Type type)
 {
     QWidget* const widget = widgetUnderPointer();
     if (!widget)
         return;
     grabber = held ? widget : nullptr;
     const QPointF screen = QCursor::pos();
-    QMouseEvent event(type, widget->mapFromGlobal(screen), screen, button, held, modifiers);
+    QMouseEvent event(type, widget->mapFromGlobal(screen), screen, Qt::LeftButton, held, modifiers);
     QCoreApplication::sendEvent(widget, &event);
-}
-
-Qt::MouseButton toQt(MouseButton button)
-{
-    return button == MouseButton::Left ? Qt::LeftButton : Qt::RightButton;
 }
 
 int keyOf(int virtualKey)
@@ -56,12 +51,8 @@ int keyOf(int virtualKey)
     {
         int virtualKey;
         int qt;
-    } keys[] = {{VK_SHIFT, Qt::Key_Shift},   {VK_CONTROL, Qt::Key_Control}, {VK_MENU, Qt::Key_Alt},
-                {VK_TAB, Qt::Key_Tab},       {VK_RETURN, Qt::Key_Return},   {VK_ESCAPE, Qt::Key_Escape},
-                {VK_SPACE, Qt::Key_Space},   {VK_PRIOR, Qt::Key_PageUp},    {VK_NEXT, Qt::Key_PageDown},
-                {VK_HOME, Qt::Key_Home},     {VK_END, Qt::Key_End},         {VK_LEFT, Qt::Key_Left},
-                {VK_RIGHT, Qt::Key_Right},   {VK_UP, Qt::Key_Up},           {VK_DOWN, Qt::Key_Down},
-                {VK_DELETE, Qt::Key_Delete}, {VK_F5, Qt::Key_F5},           {VK_F10, Qt::Key_F10}};
+    } keys[] = {{VK_SHIFT, Qt::Key_Shift},   {VK_CONTROL, Qt::Key_Control}, {VK_RETURN, Qt::Key_Return},
+                {VK_ESCAPE, Qt::Key_Escape}, {VK_PRIOR, Qt::Key_PageUp},    {VK_DELETE, Qt::Key_Delete}};
     const auto found = std::find_if(std::begin(keys), std::end(keys),
                                     [&](const auto& key) { return key.virtualKey == virtualKey; });
     return found == std::end(keys) ? virtualKey : found->qt;
@@ -74,24 +65,15 @@ QString textOf(int virtualKey)
         return QChar(virtualKey - 'A' + 1);
     if (letter)
         return QChar(modifiers & Qt::ShiftModifier ? virtualKey : virtualKey - 'A' + 'a');
-    switch (virtualKey) {
-    case VK_DELETE:
+    if (virtualKey == VK_DELETE)
         return QChar(127);
-    case VK_TAB:
-    case VK_RETURN:
-    case VK_ESCAPE:
-    case VK_SPACE:
-        return QChar(virtualKey);
-    default:
-        return {};
-    }
+    return virtualKey == VK_RETURN || virtualKey == VK_ESCAPE ? QString(QChar(virtualKey)) : QString();
 }
 
 void noteModifier(int virtualKey, bool down)
 {
     const Qt::KeyboardModifier modifier = virtualKey == VK_SHIFT     ? Qt::ShiftModifier
                                           : virtualKey == VK_CONTROL ? Qt::ControlModifier
-                                          : virtualKey == VK_MENU    ? Qt::AltModifier
                                                                      : Qt::NoModifier;
     modifiers.setFlag(modifier, down && modifier != Qt::NoModifier);
 }
@@ -113,7 +95,7 @@ void movePointer(int x, int y)
     QCursor::setPos(x, y); // the plugin tells the window that it comes to
 }
 
-void pressButton(MouseButton button)
+void pressButton()
 {
     static QElapsedTimer sinceLast;
     static QPoint lastPlace;
@@ -124,14 +106,14 @@ void pressButton(MouseButton button)
     else
         sinceLast.start();
     lastPlace = QCursor::pos();
-    held |= toQt(button);
-    sendMouse(twice ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, toQt(button));
+    held = Qt::LeftButton;
+    sendMouse(twice ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress);
 }
 
-void releaseButton(MouseButton button)
+void releaseButton()
 {
-    held &= ~Qt::MouseButtons(toQt(button));
-    sendMouse(QEvent::MouseButtonRelease, toQt(button));
+    held = Qt::NoButton;
+    sendMouse(QEvent::MouseButtonRelease);
 }
 
 void turnWheel(int delta)

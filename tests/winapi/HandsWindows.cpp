@@ -5,14 +5,14 @@ void movePointer(int x, int y)
     SetCursorPos(x, y);
 }
 
-void pressButton(MouseButton button)
+void pressButton()
 {
-    mouse_event(button == MouseButton::Left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN, 0, 0, 0, 0);
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
 }
 
-void releaseButton(MouseButton button)
+void releaseButton()
 {
-    mouse_event(button == MouseButton::Left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
 }
 
 void turnWheel(int delta)

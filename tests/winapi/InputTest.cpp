@@ -19,12 +19,6 @@ protected:
         recorder.clear();
     }
 
-    std::string served()
-    {
-        serveMessages();
-        return recorder.take();
-    }
-
     MessageRecorder recorder;
     HWND top = nullptr;
     HWND child = nullptr;
@@ -41,7 +35,7 @@ TEST_F(Input, FocusMovesAtOnce)
     EXPECT_EQ(GetFocus(), nullptr);
 }
 
-TEST_F(Input, DisabledWindowsTakeNoFocusAndLoseIt)
+TEST_F(Input, DisabledAndHiddenWindowsLoseTheFocus)
 {
     SetFocus(child);
     recorder.clear();
@@ -51,11 +45,7 @@ TEST_F(Input, DisabledWindowsTakeNoFocusAndLoseIt)
     EXPECT_EQ(SetFocus(child), nullptr);
     EXPECT_EQ(GetFocus(), nullptr);
     EXPECT_TRUE(EnableWindow(child, TRUE));
-    EXPECT_EQ(recorder.take(), "c.ENABLE(1)");
-}
 
-TEST_F(Input, HidingTheFocusWindowGivesTheFocusToItsParent)
-{
     SetFocus(child);
     recorder.only({"KILLFOCUS", "SETFOCUS"});
     ShowWindow(child, SW_HIDE);
@@ -92,28 +82,23 @@ TEST_F(Input, Capture)
 TEST_F(Input, MouseMessagesAndWhatComesBeforeThem)
 {
     movePointer(120, 130);
-    EXPECT_EQ(served(), "c.SETCURSOR t.SETCURSOR c.MOUSEMOVE(10,10)");
-    pressButton(MouseButton::Left);
-    EXPECT_EQ(served(), "t.PARENTNOTIFY(513) c.MOUSEACTIVATE t.MOUSEACTIVATE c.SETCURSOR t.SETCURSOR "
-                        "c.LBUTTONDOWN(10,10)");
-    releaseButton(MouseButton::Left);
-    EXPECT_EQ(served(), "c.SETCURSOR t.SETCURSOR c.LBUTTONUP(10,10)");
-    pressButton(MouseButton::Right);
-    releaseButton(MouseButton::Right);
-    recorder.only({"RBUTTON", "CONTEXTMENU"});
-    serveMessages();
-    EXPECT_EQ(recorder.take(), "c.RBUTTONDOWN(10,10) c.RBUTTONUP(10,10) c.CONTEXTMENU t.CONTEXTMENU");
+    EXPECT_EQ(recorder.served(), "c.SETCURSOR t.SETCURSOR c.MOUSEMOVE(10,10)");
+    pressButton();
+    EXPECT_EQ(recorder.served(),
+              "t.PARENTNOTIFY(513) c.MOUSEACTIVATE t.MOUSEACTIVATE c.SETCURSOR t.SETCURSOR "
+              "c.LBUTTONDOWN(10,10)");
+    releaseButton();
+    EXPECT_EQ(recorder.served(), "c.SETCURSOR t.SETCURSOR c.LBUTTONUP(10,10)");
 }
 
 TEST_F(Input, ADisabledChildLetsTheMouseThroughToItsParent)
 {
     EnableWindow(child, FALSE);
     movePointer(120, 130);
-    serveMessages();
-    recorder.clear();
-    pressButton(MouseButton::Left);
-    EXPECT_EQ(served(), "t.SETCURSOR t.LBUTTONDOWN(20,30)");
-    releaseButton(MouseButton::Left);
+    recorder.served();
+    pressButton();
+    EXPECT_EQ(recorder.served(), "t.SETCURSOR t.LBUTTONDOWN(20,30)");
+    releaseButton();
     serveMessages();
     EXPECT_EQ(WindowFromPoint({120, 130}), top);
     EXPECT_EQ(ChildWindowFromPoint(top, {20, 30}), child);
@@ -123,14 +108,14 @@ TEST_F(Input, TheCaptureGetsTheMouseFromEverywhere)
 {
     movePointer(120, 130);
     serveMessages();
-    pressButton(MouseButton::Left);
+    pressButton();
     serveMessages();
     SetCapture(child);
     recorder.clear();
     movePointer(105, 290);
-    EXPECT_EQ(served(), "c.MOUSEMOVE(-5,170)");
-    releaseButton(MouseButton::Left);
-    EXPECT_EQ(served(), "c.LBUTTONUP(-5,170)");
+    EXPECT_EQ(recorder.served(), "c.MOUSEMOVE(-5,170)");
+    releaseButton();
+    EXPECT_EQ(recorder.served(), "c.LBUTTONUP(-5,170)");
     ReleaseCapture();
     serveMessages();
 }
@@ -141,29 +126,26 @@ TEST_F(Input, TheWheelGoesToTheWindowUnderThePointerAndUpFromThere)
     serveMessages();
     recorder.only({"WHEEL"});
     turnWheel(WHEEL_DELTA);
-    EXPECT_EQ(served(), "c.WHEEL t.WHEEL");
+    EXPECT_EQ(recorder.served(), "c.WHEEL t.WHEEL");
 }
 
-TEST_F(Input, HoverAndLeave)
+TEST_F(Input, LeavingIsToldToWhoAskedForIt)
 {
     constexpr DWORD hoverTime = 400; // Wine looks at this rate, which lets serveMessages come to an end
-    const auto awaited = [this] {
-        constexpr int enough = 20;
-        std::string heard;
-        for (int i = 0; heard.empty() && i < enough; ++i) {
-            Sleep(hoverTime / 4);
-            heard = served();
-        }
-        return heard;
-    };
+    constexpr int enough = 20;
     movePointer(120, 130);
     serveMessages();
-    recorder.only({"MOUSELEAVE", "MOUSEHOVER"});
-    TRACKMOUSEEVENT track{sizeof track, TME_HOVER | TME_LEAVE, child, hoverTime};
+    recorder.only({"MOUSELEAVE"});
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, child, hoverTime};
     ASSERT_TRUE(TrackMouseEvent(&track));
-    EXPECT_EQ(awaited(), "c.MOUSEHOVER");
+    EXPECT_EQ(recorder.served(), "");
     movePointer(350, 280);
-    EXPECT_EQ(awaited(), "c.MOUSELEAVE");
+    std::string heard;
+    for (int i = 0; heard.empty() && i < enough; ++i) {
+        Sleep(hoverTime / 4);
+        heard = recorder.served();
+    }
+    EXPECT_EQ(heard, "c.MOUSELEAVE");
 }
 
 TEST_F(Input, KeysAndTheirCharacters)
@@ -176,23 +158,20 @@ TEST_F(Input, KeysAndTheirCharacters)
         const char* expected;
     } keys[] = {
         {'A', "c.KEYDOWN(65) c.CHAR(97) c.KEYUP(65)"},
-        {VK_TAB, "c.KEYDOWN(9) c.CHAR(9) c.KEYUP(9)"},
         {VK_PRIOR, "c.KEYDOWN(33) c.KEYUP(33)"},
         {VK_DELETE, "c.KEYDOWN(46) c.KEYUP(46)"},
         {VK_RETURN, "c.KEYDOWN(13) c.CHAR(13) c.KEYUP(13)"},
-        {VK_ESCAPE, "c.KEYDOWN(27) c.CHAR(27) c.KEYUP(27)"},
-        {VK_F5, "c.KEYDOWN(116) c.KEYUP(116)"},
     };
     for (const auto& [key, expected] : keys) {
         pressKey(key);
         releaseKey(key);
-        EXPECT_EQ(served(), expected);
+        EXPECT_EQ(recorder.served(), expected);
     }
     SetFocus(nullptr);
     recorder.clear();
     pressKey('A');
     releaseKey('A');
-    EXPECT_EQ(served(), "t.SYSKEYDOWN(65) t.SYSCHAR(97)");
+    EXPECT_EQ(recorder.served(), "t.SYSKEYDOWN(65) t.SYSCHAR(97)");
 }
 
 TEST_F(Input, ModifiersAreKnownAtTheMessage)
@@ -203,9 +182,8 @@ TEST_F(Input, ModifiersAreKnownAtTheMessage)
     EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
     pressKey(VK_SHIFT);
     pressKey('B');
-    EXPECT_EQ(served(), "c.KEYDOWN(16) c.KEYDOWN(66) c.CHAR(66)");
+    EXPECT_EQ(recorder.served(), "c.KEYDOWN(16) c.KEYDOWN(66) c.CHAR(66)");
     EXPECT_TRUE(GetKeyState(VK_SHIFT) & 0x8000);
-    EXPECT_TRUE(GetAsyncKeyState(VK_SHIFT) & 0x8000);
     releaseKey('B');
     releaseKey(VK_SHIFT);
     serveMessages();
@@ -213,38 +191,9 @@ TEST_F(Input, ModifiersAreKnownAtTheMessage)
     recorder.clear();
     pressKey(VK_CONTROL);
     pressKey('C');
-    EXPECT_EQ(served(), "c.KEYDOWN(17) c.KEYDOWN(67) c.CHAR(3)");
+    EXPECT_EQ(recorder.served(), "c.KEYDOWN(17) c.KEYDOWN(67) c.CHAR(3)");
     releaseKey('C');
     releaseKey(VK_CONTROL);
-    serveMessages();
-}
-
-TEST_F(Input, AltMakesSystemKeys)
-{
-    SetFocus(child);
-    recorder.only({"SYSKEYDOWN", "KEYDOWN", "CHAR", "SYSCHAR"});
-    pressKey(VK_MENU);
-    pressKey('X');
-    releaseKey('X');
-    EXPECT_EQ(served(), "c.SYSKEYDOWN(18) c.SYSKEYDOWN(88) c.SYSCHAR(120)");
-    releaseKey(VK_MENU);
-    serveMessages();
-}
-
-TEST_F(Input, KeyRepeatIsSeenInTheMessage)
-{
-    SetFocus(child);
-    serveMessages();
-    pressKey(VK_LEFT);
-    pressKey(VK_LEFT);
-    MSG first{};
-    MSG second{};
-    ASSERT_TRUE(PeekMessageA(&first, child, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
-    ASSERT_TRUE(PeekMessageA(&second, child, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
-    EXPECT_EQ(LOWORD(first.lParam), 1);
-    EXPECT_FALSE(HIWORD(first.lParam) & KF_REPEAT);
-    EXPECT_TRUE(HIWORD(second.lParam) & KF_REPEAT);
-    releaseKey(VK_LEFT);
     serveMessages();
 }
 
@@ -267,10 +216,10 @@ TEST_F(Input, ADoubleClickNeedsItsStyle)
         serveMessages();
         recorder.clear();
         for (int i = 0; i < 2; ++i) {
-            pressButton(MouseButton::Left);
-            releaseButton(MouseButton::Left);
+            pressButton();
+            releaseButton();
         }
-        EXPECT_EQ(served(), expected);
+        EXPECT_EQ(recorder.served(), expected);
     }
 }
 

@@ -14,9 +14,8 @@ enum class Detail
     Size,
     Point,
     Window,
-    Command,
     Item,
-    Event,
+    LowWord,
 };
 
 constexpr struct
@@ -30,7 +29,7 @@ constexpr struct
     {WM_CREATE, "CREATE", Detail::None},
     {WM_SIZE, "SIZE", Detail::Size},
     {WM_MOVE, "MOVE", Detail::Point},
-    {WM_PARENTNOTIFY, "PARENTNOTIFY", Detail::Event},
+    {WM_PARENTNOTIFY, "PARENTNOTIFY", Detail::LowWord},
     {WM_SHOWWINDOW, "SHOWWINDOW", Detail::WParam},
     {WM_WINDOWPOSCHANGING, "POSCHANGING", Detail::None},
     {WM_WINDOWPOSCHANGED, "POSCHANGED", Detail::None},
@@ -52,18 +51,14 @@ constexpr struct
     {WM_LBUTTONDOWN, "LBUTTONDOWN", Detail::Point},
     {WM_LBUTTONUP, "LBUTTONUP", Detail::Point},
     {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", Detail::Point},
-    {WM_RBUTTONDOWN, "RBUTTONDOWN", Detail::Point},
-    {WM_RBUTTONUP, "RBUTTONUP", Detail::Point},
-    {WM_CONTEXTMENU, "CONTEXTMENU", Detail::None},
     {WM_MOUSEWHEEL, "WHEEL", Detail::None},
     {WM_MOUSELEAVE, "MOUSELEAVE", Detail::None},
-    {WM_MOUSEHOVER, "MOUSEHOVER", Detail::None},
     {WM_KEYDOWN, "KEYDOWN", Detail::WParam},
     {WM_KEYUP, "KEYUP", Detail::WParam},
     {WM_SYSKEYDOWN, "SYSKEYDOWN", Detail::WParam},
     {WM_CHAR, "CHAR", Detail::WParam},
     {WM_SYSCHAR, "SYSCHAR", Detail::WParam},
-    {WM_COMMAND, "COMMAND", Detail::Command},
+    {WM_COMMAND, "COMMAND", Detail::LowWord},
     {WM_DRAWITEM, "DRAWITEM", Detail::Item},
     {WM_PAINT, "PAINT", Detail::None},
     {WM_ERASEBKGND, "ERASEBKGND", Detail::None},
@@ -71,6 +66,22 @@ constexpr struct
     {WM_USER, "USER", Detail::WParam},
     {BM_SETSTATE, "BM_SETSTATE", Detail::WParam},
 };
+
+// What a command is noted as. Other notifications come on one platform only, and nobody needs them.
+constexpr struct
+{
+    int code;
+    const char* name;
+} notifications[] = {{BN_CLICKED, "CLICKED"}, {LBN_SELCHANGE, "SELECTED"}, {LBN_DBLCLK, "TWICE"},
+                     {EN_CHANGE, "CHANGED"},  {EN_SETFOCUS, "FOCUSED"},    {BN_DOUBLECLICKED, "TWICE"},
+                     {EN_MAXTEXT, "FULL"},    {EN_KILLFOCUS, "LEFT"}};
+
+const char* notificationOf(WPARAM command)
+{
+    const auto found =
+        std::ranges::find(notifications, HIWORD(command), [](const auto& one) { return one.code; });
+    return found == std::end(notifications) ? nullptr : found->name;
+}
 
 // Sent at times of its own on each platform; tests that want it ask for it.
 bool isOptional(UINT message)
@@ -94,9 +105,7 @@ std::string describe(const MessageRecorder& recorder, Detail detail, WPARAM wPar
         return numbers(static_cast<short>(LOWORD(lParam)), ",", static_cast<short>(HIWORD(lParam)));
     case Detail::Window:
         return recorder.nameOf(reinterpret_cast<HWND>(wParam));
-    case Detail::Command:
-        return numbers(LOWORD(wParam), ":", HIWORD(wParam));
-    case Detail::Event:
+    case Detail::LowWord:
         return std::to_string(LOWORD(wParam));
     case Detail::Item: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
@@ -185,10 +194,12 @@ const MessageRecorder::Named* MessageRecorder::find(HWND window) const
 void MessageRecorder::note(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const auto entry = std::ranges::find(known, message, [](const auto& one) { return one.message; });
-    if (entry == std::end(known))
+    const char* const name = entry == std::end(known) ? nullptr
+                             : message == WM_COMMAND  ? notificationOf(wParam)
+                                                      : entry->name;
+    if (!name)
         return;
-    const std::string name = entry->name;
-    const auto asked = [&](const std::string& one) { return name.starts_with(one); };
+    const auto asked = [&](const std::string& one) { return std::string(entry->name).starts_with(one); };
     if (m_only.empty() ? isOptional(message) : std::none_of(m_only.begin(), m_only.end(), asked))
         return;
     const std::string detail = describe(*this, entry->detail, wParam, lParam);
@@ -202,8 +213,8 @@ LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wP
     if (!s_current->find(window))
         s_current->m_named.push_back({window, s_current->m_creating, nullptr});
     s_current->note(window, message, wParam, lParam);
-    if (message == WM_CREATE && std::exchange(s_current->m_refuse, false))
-        return -1;
+    if (message == WM_COMMAND && notificationOf(wParam))
+        DestroyWindow(std::exchange(s_current->m_victim, nullptr));
     const WNDPROC original = s_current->find(window)->original;
     return original ? CallWindowProcA(original, window, message, wParam, lParam)
                     : DefWindowProcA(window, message, wParam, lParam);

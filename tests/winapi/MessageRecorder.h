@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+// Serves messages until none has come for a while.
+void serveMessages();
+
 class MessageRecorder
 {
 public:
@@ -20,6 +23,12 @@ public:
 
     // What was noted since the last call, parted by blanks.
     std::string take();
+    // The same, when what waits has been served.
+    std::string served()
+    {
+        serveMessages();
+        return take();
+    }
     void clear() { m_notes.clear(); }
     // Only messages whose name begins with one of these are noted; all of the table by default.
     void only(std::vector<std::string> names)
@@ -27,8 +36,8 @@ public:
         m_only = std::move(names);
         clear();
     }
-    // WM_CREATE of the next window fails.
-    void refuseCreation() { m_refuse = true; }
+    // Destroys the window when its parent hears from it next.
+    void destroyWhenHeard(HWND window) { m_victim = window; }
 
     std::string nameOf(HWND window) const;
 
@@ -47,9 +56,6 @@ private:
     std::string m_creating;
     std::vector<std::string> m_notes;
     std::vector<std::string> m_only;
-    bool m_refuse = false;
+    HWND m_victim = nullptr;
     static MessageRecorder* s_current;
 };
-
-// Serves messages until none has come for a while.
-void serveMessages();

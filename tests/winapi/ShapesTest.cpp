@@ -36,22 +36,9 @@ TEST_F(ShapesTest, ALineLeavesItsLastPointOutInEachDirection)
     line(20, 5, 20, 8);
     line(24, 8, 24, 5);
     expectRows(20, 25, {{5, "r...."}, {6, "r...r"}, {7, "r...r"}, {8, "....r"}});
-    POINT position;
-    GetCurrentPositionEx(dc, &position);
-    EXPECT_EQ(5, position.y);
     clear();
     line(2, 6, 12, 11); // two pixels a step
     expectRows(2, 12, {{6, "rr........"}, {7, "..rr......"}, {10, "........rr"}, {11, ".........."}});
-}
-
-TEST_F(ShapesTest, ADottedLineHasItsGapsInTheBackgroundColour)
-{
-    SelectObject(dc, keep(CreatePen(PS_DOT, 1, red)));
-    SetBkColor(dc, green);
-    line(2, 2, 13, 2);
-    SetBkMode(dc, TRANSPARENT);
-    line(2, 4, 13, 4);
-    expectRows(2, 14, {{2, "rrrgggrrrgg."}, {4, "rrr...rrr..."}});
 }
 
 TEST_F(ShapesTest, ARectangleEndsBeforeItsRightAndBottomEdges)
@@ -105,15 +92,6 @@ TEST_F(ShapesTest, ANumberStandsForTheBrushOfASystemColour)
     EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), GetPixel(dc, 3, 3));
 }
 
-TEST_F(ShapesTest, AnOpaqueTextRectangleIsFilledWithTheBackgroundColour)
-{
-    const RECT rect = {2, 2, 6, 5};
-    SetBkColor(dc, red);
-    EXPECT_TRUE(ExtTextOutA(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr));
-    EXPECT_EQ("rrrr", row(4, 2, 6));
-    EXPECT_RECT(2, 2, 6, 5, drawn());
-}
-
 TEST_F(ShapesTest, AFocusRectangleDrawnTwiceIsGone)
 {
     const RECT rect = {2, 2, 13, 10};
@@ -122,26 +100,4 @@ TEST_F(ShapesTest, AFocusRectangleDrawnTwiceIsGone)
     EXPECT_RECT(2, 2, 13, 10, drawn());
     DrawFocusRect(dc, &rect);
     EXPECT_RECT(0, 0, 0, 0, drawn());
-}
-
-TEST_F(ShapesTest, AnEllipseIsRoundAndFilled)
-{
-    Ellipse(dc, 20, 2, 30, 12);
-    EXPECT_RECT(20, 2, 30, 12, drawn());
-    expectRows(20, 30, {{2, "...rrrr..."}, {6, "rggggggggr"}});
-    for (int y = 2; y < 12; ++y) {
-        std::string mirrored = row(y, 20, 30);
-        std::reverse(mirrored.begin(), mirrored.end());
-        EXPECT_EQ(mirrored, row(y, 20, 30));
-        EXPECT_EQ(row(13 - y, 20, 30), row(y, 20, 30));
-    }
-}
-
-TEST_F(ShapesTest, APolygonIsOutlinedAndClosed)
-{
-    const POINT corners[] = {{5, 15}, {15, 15}, {10, 20}};
-    EXPECT_TRUE(Polygon(dc, corners, 3));
-    EXPECT_EQ("rrrrrrrrrrr", row(15, 5, 16));
-    EXPECT_EQ("...rgggr...", row(18, 5, 16));
-    EXPECT_FALSE(Polygon(dc, corners, 1));
 }

@@ -248,7 +248,6 @@ WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old);
 WINGDIAPI BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old);
 WINGDIAPI BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL GetViewportOrgEx(HDC dc, POINT* origin);
-WINGDIAPI BOOL OffsetViewportOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL GetWindowOrgEx(HDC dc, POINT* origin);
 WINGDIAPI BOOL DPtoLP(HDC dc, POINT* points, int count);
@@ -288,7 +287,6 @@ WINGDIAPI BOOL RectVisible(HDC dc, const RECT* rect);
 
 // Lines and shapes. A line leaves its last point out; shapes end before their right and bottom edges.
 WINGDIAPI BOOL MoveToEx(HDC dc, int x, int y, POINT* old);
-WINGDIAPI BOOL GetCurrentPositionEx(HDC dc, POINT* position);
 WINGDIAPI BOOL LineTo(HDC dc, int x, int y);
 WINGDIAPI BOOL Polyline(HDC dc, const POINT* points, int count);
 WINGDIAPI BOOL Polygon(HDC dc, const POINT* points, int count);

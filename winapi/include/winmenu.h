@@ -50,10 +50,8 @@ WINUSERAPI BOOL IsMenu(HMENU menu);
 // Items. `flags` holds MF_BYPOSITION where an item is meant by its position, from 0, and not by its id; an id
 // is looked for in submenus as well. `id` of a new MF_POPUP item is the submenu's handle.
 WINUSERAPI BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text);
-WINUSERAPI BOOL InsertMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text);
 WINUSERAPI BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text);
 WINUSERAPI BOOL RemoveMenu(HMENU menu, UINT item, UINT flags); // leaves a submenu alive
-WINUSERAPI BOOL DeleteMenu(HMENU menu, UINT item, UINT flags); // destroys a submenu
 WINUSERAPI int GetMenuItemCount(HMENU menu);
 WINUSERAPI UINT GetMenuItemID(HMENU menu, int position);
 WINUSERAPI UINT GetMenuState(HMENU menu, UINT item, UINT flags);
@@ -72,7 +70,6 @@ WINBASEAPI HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 
 #define LoadMenu LoadMenuA
 #define AppendMenu AppendMenuA
-#define InsertMenu InsertMenuA
 #define ModifyMenu ModifyMenuA
 #define GetMenuString GetMenuStringA
 #define FindResource FindResourceA

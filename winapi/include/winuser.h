@@ -609,7 +609,6 @@ WINUSERAPI HWND GetTopWindow(HWND window);
 WINUSERAPI HWND GetDesktopWindow();
 WINUSERAPI HWND GetDlgItem(HWND parent, int id);
 WINUSERAPI int GetDlgCtrlID(HWND window);
-WINUSERAPI BOOL EnumChildWindows(HWND parent, WNDENUMPROC proc, LPARAM lParam);
 WINUSERAPI BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC proc, LPARAM lParam);
 WINUSERAPI DWORD GetWindowThreadProcessId(HWND window, LPDWORD process);
 WINUSERAPI HWND WindowFromPoint(POINT point);

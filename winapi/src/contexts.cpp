@@ -389,12 +389,6 @@ BOOL GetViewportOrgEx(HDC dc, POINT* origin)
     return readOrigin(dc, &DrawingState::viewportOrigin, origin);
 }
 
-BOOL OffsetViewportOrgEx(HDC dc, int x, int y, POINT* old)
-{
-    const QPoint origin = readState(dc, &DrawingState::viewportOrigin, QPoint());
-    return moveOrigin(dc, &DrawingState::viewportOrigin, origin + QPoint(x, y), old);
-}
-
 BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old)
 {
     return moveOrigin(dc, &DrawingState::windowOrigin, {x, y}, old);

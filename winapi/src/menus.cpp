@@ -78,28 +78,6 @@ MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
     return item;
 }
 
-bool insertItem(HMENU handle, std::size_t position, MenuItem item)
-{
-    const auto menu = findMenu(handle);
-    if (!menu || (item.subMenu && !IsMenu(item.subMenu)))
-        return false;
-    auto& items = menu->items;
-    items.insert(items.begin() + static_cast<std::ptrdiff_t>(std::min(position, items.size())),
-                 std::move(item));
-    return true;
-}
-
-// Takes an item out of its menu.
-std::optional<MenuItem> takeItem(HMENU handle, UINT item, UINT flags)
-{
-    const auto place = findItem(handle, item, flags);
-    if (!place)
-        return std::nullopt;
-    MenuItem taken = std::move(place->item());
-    place->menu->items.erase(place->menu->items.begin() + static_cast<std::ptrdiff_t>(place->position));
-    return taken;
-}
-
 // Gives the item's old state within `mask`.
 UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
 {
@@ -157,23 +135,13 @@ BOOL IsMenu(HMENU menu)
     return findMenu(menu) != nullptr;
 }
 
-BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text)
-{
-    return insertItem(menu, SIZE_MAX, makeItem(flags, id, text));
-}
-
-BOOL InsertMenuA(HMENU handle, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
+BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
 {
     const auto menu = findMenu(handle);
-    if (!menu)
+    MenuItem item = makeItem(flags, id, text);
+    if (!menu || (item.subMenu && !IsMenu(item.subMenu)))
         return FALSE;
-    if (flags & MF_BYPOSITION)
-        return insertItem(handle, item, makeItem(flags, id, text));
-    const auto place = findById(menu, item);
-    if (!place)
-        return AppendMenuA(handle, flags, id, text);
-    auto& items = place->menu->items;
-    items.insert(items.begin() + static_cast<std::ptrdiff_t>(place->position), makeItem(flags, id, text));
+    menu->items.push_back(std::move(item));
     return TRUE;
 }
 
@@ -191,15 +159,12 @@ BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
 
 BOOL RemoveMenu(HMENU menu, UINT item, UINT flags)
 {
-    return takeItem(menu, item, flags).has_value();
-}
-
-BOOL DeleteMenu(HMENU menu, UINT item, UINT flags)
-{
-    const auto taken = takeItem(menu, item, flags);
-    if (taken && taken->subMenu)
-        DestroyMenu(taken->subMenu);
-    return taken.has_value();
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return FALSE;
+    auto& items = place->menu->items;
+    items.erase(items.begin() + static_cast<std::ptrdiff_t>(place->position));
+    return TRUE;
 }
 
 int GetMenuItemCount(HMENU handle)

@@ -215,15 +215,6 @@ BOOL MoveToEx(HDC dc, int x, int y, POINT* old)
     return TRUE;
 }
 
-BOOL GetCurrentPositionEx(HDC dc, POINT* position)
-{
-    const auto context = findContext(dc);
-    if (!context || !position)
-        return FALSE;
-    *position = {context->state.position.x(), context->state.position.y()};
-    return TRUE;
-}
-
 BOOL LineTo(HDC dc, int x, int y)
 {
     const auto context = findContext(dc);

@@ -284,34 +284,6 @@ int GetDlgCtrlID(HWND window)
     return found ? static_cast<int>(found->id) : 0;
 }
 
-namespace {
-
-void collect(const Window& window, std::vector<HWND>& handles)
-{
-    for (const Window* child : window.children) {
-        handles.push_back(child->handle);
-        collect(*child, handles);
-    }
-}
-
-BOOL enumerate(const std::vector<HWND>& handles, WNDENUMPROC proc, LPARAM lParam)
-{
-    return std::all_of(handles.begin(), handles.end(),
-                       [&](HWND handle) { return !IsWindow(handle) || proc(handle, lParam); });
-}
-
-}
-
-BOOL EnumChildWindows(HWND parent, WNDENUMPROC proc, LPARAM lParam)
-{
-    const WindowPtr found = parent ? findWindow(parent) : findWindow(GetDesktopWindow());
-    if (!found || !proc)
-        return FALSE;
-    std::vector<HWND> handles;
-    collect(*found, handles);
-    return enumerate(handles, proc, lParam);
-}
-
 BOOL EnumThreadWindows(DWORD, WNDENUMPROC proc, LPARAM lParam)
 {
     if (!proc)
@@ -319,7 +291,8 @@ BOOL EnumThreadWindows(DWORD, WNDENUMPROC proc, LPARAM lParam)
     std::vector<HWND> handles;
     for (const Window* window : desktop().children)
         handles.push_back(window->handle);
-    return enumerate(handles, proc, lParam);
+    return std::all_of(handles.begin(), handles.end(),
+                       [&](HWND handle) { return !IsWindow(handle) || proc(handle, lParam); });
 }
 
 DWORD GetWindowThreadProcessId(HWND window, LPDWORD process)
