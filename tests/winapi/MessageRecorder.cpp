@@ -53,6 +53,7 @@ constexpr struct
     {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", Detail::Point},
     {WM_MOUSEWHEEL, "WHEEL", Detail::None},
     {WM_MOUSELEAVE, "MOUSELEAVE", Detail::None},
+    {WM_MOUSEHOVER, "MOUSEHOVER", Detail::None},
     {WM_KEYDOWN, "KEYDOWN", Detail::WParam},
     {WM_KEYUP, "KEYUP", Detail::WParam},
     {WM_SYSKEYDOWN, "SYSKEYDOWN", Detail::WParam},
