@@ -86,4 +86,21 @@ TEST_F(Queue, MessagesOfAWindowGoWithIt)
     EXPECT_EQ(SendMessageA(child, WM_USER, 0, 0), 0);
 }
 
+TEST_F(Queue, PostedKeysHaveCharacters)
+{
+    recorder.only({"KEYDOWN", "CHAR"});
+    const struct
+    {
+        int key;
+        const char* expected;
+    } keys[] = {{'A', "t.KEYDOWN(65) t.CHAR(97)"},
+                {'5', "t.KEYDOWN(53) t.CHAR(53)"},
+                {VK_RETURN, "t.KEYDOWN(13) t.CHAR(13)"},
+                {VK_LEFT, "t.KEYDOWN(37)"}};
+    for (const auto& [key, expected] : keys) {
+        PostMessageA(top, WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+        EXPECT_EQ(recorder.served(), expected);
+    }
+}
+
 }

@@ -154,4 +154,16 @@ TEST_F(ToolTipControl, AnEmptyTextShowsNoTip)
     EXPECT_FALSE(comesUp());
 }
 
+TEST_F(ToolTipControl, DelaysFollowTheFirst)
+{
+    const auto delay = [&](WPARAM which) { return SendMessageA(tip, TTM_GETDELAYTIME, which, 0); };
+    EXPECT_EQ(delay(TTDT_INITIAL), 500);
+    EXPECT_EQ(delay(TTDT_RESHOW), 100);
+    EXPECT_EQ(delay(TTDT_AUTOPOP), 5000);
+    SendMessageA(tip, TTM_SETDELAYTIME, TTDT_AUTOMATIC, 100);
+    EXPECT_EQ(delay(TTDT_INITIAL), 100);
+    EXPECT_EQ(delay(TTDT_RESHOW), 20);
+    EXPECT_EQ(delay(TTDT_AUTOPOP), 1000);
+}
+
 }
