@@ -11,7 +11,7 @@ public:
     // Adds one line to the log.
     virtual void AddLine(const CString& strLine) = 0;
 
-    // The process's logger, or null: then nothing is logged. It is the host's, who sets it before it creates
-    // windows and keeps it alive as long as it is set.
+    // The logger of the process; null, as it is at first, logs nothing. The host owns the logger, sets it
+    // here before it creates windows, and sets null again before the logger ends.
     static AppLogger* m_pInstance;
 };

@@ -1,3 +1,4 @@
+// Puts text on the clipboard, in 16-bit characters for every program.
 #include "ClipboardUtils.h"
 
 #include <WideText.h>
@@ -16,7 +17,7 @@ using GlobalMemory = std::unique_ptr<void, GlobalMemoryFree>;
 class OpenedClipboard
 {
 public:
-    // A clipboard without an owner would refuse to be filled.
+    // Without an owner window the clipboard could be opened and not be filled.
     OpenedClipboard() : m_bOpen(OpenClipboard(GetActiveWindow()) != FALSE) {}
     ~OpenedClipboard()
     {
@@ -51,6 +52,6 @@ bool ClipboardUtils::CopyTextToClipboard(const CString& strText)
     const OpenedClipboard clipboard;
     if (!memory || !clipboard || !EmptyClipboard() || !SetClipboardData(CF_UNICODETEXT, memory.get()))
         return false;
-    static_cast<void>(memory.release()); // the clipboard's from now on
+    static_cast<void>(memory.release()); // the clipboard owns the memory now
     return true;
 }

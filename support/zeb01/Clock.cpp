@@ -1,3 +1,4 @@
+// The moment that a test has fixed, or the local time of the system.
 #include "Clock.h"
 
 #include <windows.h>
@@ -6,14 +7,14 @@
 
 namespace {
 
-std::optional<Clock::Moment> fixedMoment;
+std::optional<Clock::Moment> g_fixedMoment;
 
 }
 
 Clock::Moment Clock::Now()
 {
-    if (fixedMoment)
-        return *fixedMoment;
+    if (g_fixedMoment)
+        return *g_fixedMoment;
     SYSTEMTIME time;
     GetLocalTime(&time);
     return {time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond};
@@ -21,7 +22,7 @@ Clock::Moment Clock::Now()
 
 void Clock::SetFixed(const Moment& moment)
 {
-    fixedMoment = moment;
+    g_fixedMoment = moment;
 }
 
 void Clock::SetToday(int nYear, int nMonth, int nDay)
@@ -31,5 +32,5 @@ void Clock::SetToday(int nYear, int nMonth, int nDay)
 
 void Clock::Release()
 {
-    fixedMoment.reset();
+    g_fixedMoment.reset();
 }

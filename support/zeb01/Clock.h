@@ -20,8 +20,8 @@ public:
     // The fixed moment if one is set, else the local time of the system.
     static Moment Now();
 
-    // Stops the clock of the process, for tests and pictures that must come out the same every day. Not
-    // guarded: to be called on the thread that uses the library.
+    // Stops the clock of the process at that moment, so that tests and pictures come out the same every day.
+    // To be called on the thread that uses the library, since nothing guards the clock.
     static void SetFixed(const Moment& moment);
     // The same, at noon of the given day.
     static void SetToday(int nYear, int nMonth, int nDay);

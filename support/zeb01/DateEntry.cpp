@@ -1,3 +1,4 @@
+// The rules of a special date: when they are complete, what dates they fall on, and how they are stored.
 #include "DateEntry.h"
 
 #include "SerializeData.h"
@@ -8,7 +9,7 @@
 
 namespace {
 
-// The forms of a stored entry. The first knew neither the flag nor the limit's year.
+// The forms of a stored entry. The first one has neither the rule flag nor the start year.
 constexpr WORD kFirstForm = 1;
 constexpr WORD kCurrentForm = 2;
 
@@ -27,8 +28,8 @@ bool IsSignedDayOfWeek(int nSigned)
 
 bool IsDayOfAnyYear(int nDay, int nMonth)
 {
-    constexpr int nLeapYear = 2000;
-    return nDay >= 1 && nDay <= DayNumbers::DaysInMonth(nLeapYear, nMonth);
+    constexpr int kLeapYear = 2000;
+    return nDay >= 1 && nDay <= DayNumbers::DaysInMonth(kLeapYear, nMonth);
 }
 
 bool IsOccurrence(int nOccurrence)
@@ -37,7 +38,7 @@ bool IsOccurrence(int nOccurrence)
            nOccurrence == DateEntry::OCCURRENCE_LAST;
 }
 
-// The day number of the occurrence-th day of the week in a month, kNone if the month has no such day.
+// The day number of the first, second ... or last such day of the week in a month, kNone if there is none.
 std::int32_t FindDayOfWeek(int nOccurrence, int nDayOfWeek, int nMonth, int nYear)
 {
     const std::int32_t nFirst = DayNumbers::FromDate({nYear, nMonth, 1});
@@ -187,7 +188,7 @@ bool DateEntry::IsMatchFixed(int nDay, int nMonth, int nYear) const
 
 bool DateEntry::IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const
 {
-    if (nMonth != m_anRule[2]) // spares most dates the arithmetic
+    if (nMonth != m_anRule[2]) // most dates end here, before any arithmetic
         return false;
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     return nQueried != DayNumbers::kNone && nQueried == FindAnchor(nYear);
@@ -197,7 +198,7 @@ bool DateEntry::IsMatchNear(int nDay, int nMonth, int nYear) const
 {
     const bool bNearDay = m_nRuleWord == RULE_NEAR_DAY;
     const long long nAnchorMonth = bNearDay ? m_anRule[1] : m_anRule[2];
-    if (std::abs(nAnchorMonth - nMonth) > 1) // spares most dates the arithmetic
+    if (std::abs(nAnchorMonth - nMonth) > 1) // most dates end here, before any arithmetic
         return false;
 
     const std::int32_t nSigned = bNearDay ? m_anRule[2] : m_anRule[3];

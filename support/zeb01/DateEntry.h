@@ -47,8 +47,8 @@ public:
     DateEntry(const DateEntry&) = default;
     DateEntry& operator=(const DateEntry&) = default;
 
-    // Stores or loads all members. A record of a form that is not known ends in the archive's exception for a
-    // bad schema, a short one in its exception for the end of the file.
+    // Stores or loads all members. Loading throws a CArchiveException: with the cause badSchema for a record
+    // of an unknown form, with endOfFile for a record that is cut off.
     virtual void Serialize(CArchive& archive);
 
     // Whether there is a description and a rule that falls on a date in some year.
@@ -57,26 +57,27 @@ public:
     // What the user reads; the rule stays.
     void SetDesc(const CString& strDesc);
 
-    // The rules. Each sets the description too and replaces the rule set before; the limit of years stays.
-    // Months are 1 to 12, days of the week 1 (Sunday) to 7 (Saturday); a negative nSignedDayOfWeek is the
-    // nearest such day before the date meant, a positive one the nearest after it, and never that date
-    // itself.
+    // The rules. Each call sets the description too, and replaces the rule that was set before; the limit of
+    // years stays. Months are 1 to 12, days of the week 1 (Sunday) to 7 (Saturday). A negative
+    // nSignedDayOfWeek stands for the nearest such day of the week before the date that the other arguments
+    // give, a positive one for the nearest after it; never for that date itself.
     void SetDay(const CString& strDesc, int nDay, int nMonth);
     void SetDayOfWeek(const CString& strDesc, OCCURRENCE occurrence, int nDayOfWeek, int nMonth);
     void SetBeforeAfterDay(const CString& strDesc, int nDay, int nMonth, int nSignedDayOfWeek);
     void SetBeforeAfterDayOfWeek(const CString& strDesc, OCCURRENCE occurrence, int nDayOfWeek, int nMonth,
                                  int nSignedDayOfWeek);
 
-    // Whether the rule falls on the date. A rule that starts from another date starts from that of the
-    // queried year, so what it picks in the year before or after never matches. Any numbers may be asked for.
+    // Whether the rule falls on the date; false for numbers that are no date. A weekday before or after
+    // another date is looked for from that date in nYear only: the day that a rule picks for one year and
+    // that lies in the year before or after it never matches.
     bool IsMatch(int nDay, int nMonth, int nYear) const;
 
     std::int32_t m_nRuleWord = RULE_NONE;   // a RULE
     std::int32_t m_nKind = KIND_EVERY_YEAR; // the limit of years, a KIND
     bool m_bRuleFlag = false;               // a fixed date that is kept on the nearest working day
-    std::int32_t m_anRule[4] = {};          // what the rule says, see RULE
+    std::int32_t m_anRule[4] = {};          // the numbers of the rule, see RULE
     std::int32_t m_nStartYear = 0;          // the year of the limit
-    std::int32_t m_nID = 0;                 // its number, by which the data file knows a national entry
+    std::int32_t m_nID = 0;                 // the number by which the data file knows a national entry
     CString m_strDesc;                      // what the user reads
 
 private:

@@ -1,3 +1,4 @@
+// Setting, moving and reading dates, on top of the day numbers.
 #include "DateTime.h"
 
 #include "Clock.h"
@@ -66,15 +67,15 @@ void DateTime::SetToLastDay()
 
 void DateTime::AddWeeks(int nWeeks)
 {
-    constexpr int nRange = DayNumbers::kLast / 7 + 1;
-    AddDays(7 * std::clamp(nWeeks, -nRange, nRange));
+    constexpr int kRange = DayNumbers::kLast / 7 + 1;
+    AddDays(7 * std::clamp(nWeeks, -kRange, kRange));
 }
 
 void DateTime::AddMonths(int nMonths)
 {
     const auto [nYear, nMonth, nDay] = Parts();
     const long long nCount = 12LL * nYear + (nMonth - 1) + nMonths;
-    // Below year 0 the remainder is negative; there is no date then, whatever the month.
+    // In a year below 0 the remainder is negative. No harm is done, since such a year has no dates.
     SetOrLastOfMonth(nCount / 12, static_cast<int>(nCount % 12) + 1, nDay);
 }
 

@@ -11,9 +11,9 @@
 // A date from 1 January of year 1 (Julian) to 31 December 9999 (Gregorian, which follows the Julian 4 October
 // 1582 with 15 October 1582), or no date at all.
 //
-// Nothing here reports a failure: what leads to a date that does not exist gives no date, which IsValid
-// tells. The ten dates left out in October 1582 are read as 15 October. Changing the date keeps the time
-// word.
+// Nothing here reports a failure: where an operation leads to a date that does not exist, the result is no
+// date, which IsValid tells. The ten dates that were left out in October 1582 stand for 15 October. Changing
+// the date keeps the time word.
 class ZEB17_EXPORT DateTime
 {
 public:
@@ -30,15 +30,15 @@ public:
     void SetToCurrent();     // now
     void SetToCurrentDate(); // today, without a time of day
 
-    // These change one part of a valid date. A month or a year that lacks the day gives the month's last.
+    // These change one part of a valid date. A month that lacks the day gives its last day.
     void SetDay(int nDay);
     void SetMonth(int nMonth);
     void SetYear(int nYear);
     void SetToFirstDay(); // of the month
     void SetToLastDay();
 
-    // These move a valid date and leave no date alone; out of the range they give no date. A month that lacks
-    // the day gives its last.
+    // These move a valid date, and do nothing where there is none. Beyond the range of dates the result is no
+    // date. A month that lacks the day gives its last day.
     void AddDays(int nDays)
     {
         if (IsValid())
@@ -52,7 +52,7 @@ public:
 
     // 0, 0, 0 for no date.
     void GetDate(int& nYear, int& nMonth, int& nDay) const;
-    // This year for no date, so that stepping by years has a place to start from.
+    // The present year if this is no date, so that stepping by years has a year to start from.
     int GetYear() const;
     int GetMonth() const;     // 0 for no date
     int GetDay() const;       // 0 for no date
@@ -62,8 +62,8 @@ public:
     int CompareDate(const DateTime& other) const;
     bool IsToday() const;
 
-    // The number of the month's last day, 0 if there is no such month. October 1582 has 31: days are numbered
-    // up to there, though 5 to 14 were left out.
+    // The number of the month's last day, 0 if there is no such month. For October 1582 it is 31, though the
+    // days 5 to 14 were left out.
     static int GetDaysInMonth(int nYear, int nMonth);
 
     // The date in the user's long or short form, empty for no date. The three flags in the middle are

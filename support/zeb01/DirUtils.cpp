@@ -1,3 +1,4 @@
+// Paths as texts, and the making of directories.
 #include "DirUtils.h"
 
 #include <filesystem>
@@ -28,7 +29,7 @@ CString DirUtils::ParsePathFromFile(const CString& strPath)
     while (!strDirectory.IsEmpty() && !EndsInSeparator(strDirectory))
         strDirectory = strDirectory.Left(strDirectory.GetLength() - 1);
 
-    // "/" and "C:\" would be something else without their separator.
+    // "/" and "C:\" keep their separator; without it they would be other paths.
     while (strDirectory.GetLength() > 1 && EndsInSeparator(strDirectory) &&
            strDirectory.Right(2).GetAt(0) != ':')
         strDirectory = strDirectory.Left(strDirectory.GetLength() - 1);

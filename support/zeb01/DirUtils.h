@@ -1,4 +1,4 @@
-// Directories.
+// Paths and directories.
 #pragma once
 
 #include <afx.h>
@@ -13,6 +13,6 @@ public:
     // Creates the directory and all that are missing above it. True if it is there afterwards.
     static bool CreateDirectoryA(const CString& strPath);
 
-    // The path of a file in a directory.
+    // The path of the file of that name in the directory; the bare name if strDirectory is empty.
     static CString JoinPath(const CString& strDirectory, const CString& strName);
 };

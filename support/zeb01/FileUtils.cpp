@@ -1,5 +1,7 @@
+// Tests of files, and the writing of text files.
 #include "FileUtils.h"
 
+#include "FileLink.h"
 #include "ReplacedFile.h"
 #include "TextArray.h"
 
@@ -30,23 +32,6 @@ bool FileUtils::DoesFileExist(const CString& strPath)
 {
     const DWORD dwAttributes = GetFileAttributesA(strPath);
     return dwAttributes != INVALID_FILE_ATTRIBUTES && !(dwAttributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
-CString FileUtils::FollowLink(const CString& strPath)
-{
-    const DWORD dwAttributes = GetFileAttributesA(strPath);
-    CFile file;
-    if (dwAttributes == INVALID_FILE_ATTRIBUTES || !(dwAttributes & FILE_ATTRIBUTE_REPARSE_POINT) ||
-        !file.Open(strPath, CFile::modeRead))
-        return strPath;
-
-    CString strTarget;
-    constexpr DWORD kFlags = FILE_NAME_NORMALIZED | VOLUME_NAME_DOS;
-    const DWORD nSize = GetFinalPathNameByHandleA(file.m_hFile, nullptr, 0, kFlags);
-    char* const szTarget = strTarget.GetBuffer(static_cast<int>(nSize));
-    const DWORD nLength = GetFinalPathNameByHandleA(file.m_hFile, szTarget, nSize, kFlags);
-    strTarget.ReleaseBuffer(nLength < nSize ? static_cast<int>(nLength) : 0);
-    return strTarget.IsEmpty() ? strPath : strTarget;
 }
 
 bool FileUtils::EnsureFileIsWritable(const CString& strPath)

@@ -11,15 +11,12 @@ public:
     // True for a file; a directory is none.
     static bool DoesFileExist(const CString& strPath);
 
-    // The path of the file that a link leads to; any other path as it is, also that of a link to nowhere.
-    static CString FollowLink(const CString& strPath);
-
-    // Takes the read-only mark off a file that has it. False if the file then is not writable.
+    // Takes the read-only mark off a file that has one. False if there is no file, or if the mark stays.
     static bool EnsureFileIsWritable(const CString& strPath);
 
-    // Writes the lines as a text file: UTF-8, each line ended by "\r\n", after nIndent blanks. With
-    // bByteOrderMark the file begins with the mark of UTF-8. On failure the result is false and a file
-    // that stood at the path is as it was.
+    // Writes the lines as a text file in UTF-8: before each line nIndent blanks, behind it "\r\n"; with
+    // bByteOrderMark the mark of UTF-8 before all of them. False on failure; a file that stood at the path is
+    // then as it was.
     static bool WriteFileContent(const CString& strPath, const TextArray& lines, bool bByteOrderMark,
                                  int nIndent);
 };

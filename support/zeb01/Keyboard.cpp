@@ -1,3 +1,4 @@
+// The state of the shift key.
 #include "Keyboard.h"
 
 #include <windows.h>

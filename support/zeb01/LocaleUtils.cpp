@@ -1,3 +1,5 @@
+// Names from the system's locale data, and dates by the patterns that stand there. The system's own call for
+// that does not take all years.
 #include "LocaleUtils.h"
 
 #include <WideText.h>
@@ -8,7 +10,7 @@
 
 namespace {
 
-WideText g_strLocale; // empty: the user's
+WideText g_strLocale; // empty: the user's own
 
 const WCHAR* GetLocaleName()
 {
@@ -64,7 +66,8 @@ void AddText(std::vector<PatternPiece>& vPieces, WideTextView strText)
     vPieces.push_back({0, 0, WideText(strText)});
 }
 
-// Takes quoted text off the pattern; a doubled quote stands for one.
+// Takes the quoted text at the beginning off the pattern, and gives it without quotes. A doubled quote stands
+// for one quote.
 WideTextView TakeQuoted(WideTextView& strPattern)
 {
     const std::size_t nEnd = std::min(strPattern.find('\'', 1), strPattern.size());
@@ -108,7 +111,8 @@ struct DateParts
     int nDayOfWeek;
 };
 
-// Runs of one or two letters are numbers, longer ones names; a year of more than two has its century.
+// One or two letters of a kind stand for a number, more of them for a name; a year of three letters or more
+// is written with its century.
 WideText FormatPiece(const PatternPiece& piece, const DateParts& date, bool bBesideDay)
 {
     switch (piece.letter) {

@@ -1,3 +1,4 @@
+// Numbers to text and back.
 #include "NumberTextConv.h"
 
 #include <charconv>
@@ -22,5 +23,5 @@ int NumberTextConv::GetNumberFromString(const CString& strText)
     int nNumber = 0;
     const char* const szNumber = strNumber;
     std::from_chars(szNumber, szNumber + strNumber.GetLength(), nNumber);
-    return nNumber; // untouched if there is none
+    return nNumber; // still 0 if the text begins with none
 }

@@ -1,7 +1,8 @@
+// Writes the new file beside the old one, and moves it there in one step.
 #include "ReplacedFile.h"
 
 #include "DirUtils.h"
-#include "FileUtils.h"
+#include "FileLink.h"
 
 #include <FileFault.h>
 
@@ -9,7 +10,7 @@
 
 namespace {
 
-// No two in a process; the id of the process keeps those of others apart.
+// Gives each name once in a process; the process's id keeps it apart from the names of other processes.
 CString MakeTemporaryName()
 {
     static std::atomic<unsigned> nCount;
@@ -20,7 +21,7 @@ CString MakeTemporaryName()
 
 }
 
-ReplacedFile::ReplacedFile(const CString& strPath) : m_strPlace(FileUtils::FollowLink(strPath))
+ReplacedFile::ReplacedFile(const CString& strPath) : m_strPlace(FollowLink(strPath))
 {
     m_strFileName = strPath;
     const DWORD dwAttributes = GetFileAttributesA(m_strPlace);
@@ -34,7 +35,7 @@ ReplacedFile::ReplacedFile(const CString& strPath) : m_strPlace(FileUtils::Follo
     const bool bOldFile = oldFile.Open(m_strPlace, modeRead);
     const CString strDirectory = DirUtils::ParsePathFromFile(m_strPlace);
     do {
-        // A name that is taken was left behind by a process that was killed.
+        // A file of that name was left behind by a process that was killed and had the same id.
         m_strTemporary = DirUtils::JoinPath(strDirectory, MakeTemporaryName());
         m_hFile = CreateFileA(m_strTemporary, GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
                               bOldFile ? oldFile.m_hFile : nullptr);

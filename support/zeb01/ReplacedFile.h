@@ -1,14 +1,15 @@
-// Writing a file anew without putting its old content at risk.
+// Writes a file anew without putting its old content at risk.
 #pragma once
 
 #include <afx.h>
 
-// A file that is written beside the one whose place it will take. Commit puts it there in one step; until
-// then, whatever fails or ends before, the old file is whole. Without Commit nothing is left behind.
+// A new file that is written beside the old one. Commit puts the new file in the place of the old one in one
+// step; whatever fails before that, or if the process ends, the old file is whole. An object that ends
+// without Commit deletes the new file.
 //
-// Failures are CFileExceptions with the path of the file that was to be replaced. A directory, a device or a
-// read-only file at that path is such a failure already when opening. A link is followed: the file that it
-// leads to is replaced. The new file has the permissions of the old one.
+// Failures are CFileExceptions that tell the path of the old file. The constructor fails for a directory, a
+// device or a read-only file at that path. If the path is a link, the file that it leads to is replaced. The
+// new file gets the permissions of the old one.
 class ZEB17_EXPORT ReplacedFile : public CFile
 {
 public:
@@ -16,10 +17,11 @@ public:
     explicit ReplacedFile(const CString& strPath);
     ~ReplacedFile() override;
 
-    // Flushes to the disk, closes and moves the file into its place. Nothing can be written afterwards.
+    // Flushes the new file to the disk, closes it and moves it into its place. Nothing can be written
+    // afterwards.
     void Commit();
 
 private:
-    CString m_strPlace;     // where the file goes: the target, or what it leads to
-    CString m_strTemporary; // where it is written
+    CString m_strPlace;     // the path of the old file, behind a link if there is one
+    CString m_strTemporary; // the path at which the new file is written; empty after Commit
 };

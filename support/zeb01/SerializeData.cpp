@@ -1,3 +1,4 @@
+// The stored forms of a flag and of a count of records.
 #include "SerializeData.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The small values of the data file that have a form of their own.
+// The stored forms of flags and of counts.
 #pragma once
 
 #include <afx.h>
@@ -7,16 +7,16 @@
 
 #include <cstddef>
 
-// The direction of the archive decides between storing and loading. A short archive ends in the archive's own
-// exception.
+// Each operation stores or loads, as the archive does. Loading beyond the end of the file throws a
+// CArchiveException.
 class ZEB17_EXPORT SerializeData
 {
 public:
-    // A flag, in one byte: 0 or 1 stored, anything but 0 read as true.
+    // A flag in one byte. Storing writes 0 or 1; loading takes any value but 0 for true.
     static void Serialize(CArchive& archive, bool& bValue);
 
-    // The number of records that follow. Storing writes nCount and returns it, always in the current form of
-    // 64 bits; loading ignores nCount and returns what it read, in the older form of 16 bits if bOldForm is
-    // set.
+    // The number of records that follow. Storing writes nCount in 64 bits and returns it. Loading ignores
+    // nCount and returns the number that it reads, which has 16 bits if bOldForm is true and 64 bits
+    // otherwise.
     static size_t SerializeLoopCounter(CArchive& archive, size_t nCount, bool bOldForm);
 };

@@ -1,4 +1,4 @@
-// Texts that stand in clear in the sources and enciphered in the program:
+// Texts that can be read in the sources and are enciphered in the program:
 //
 //     const std::vector<int> kSpring = StoredText<6>("Spring");
 //     ... StringUtils::DecryptText(kSpring) ...

@@ -1,3 +1,4 @@
+// Stored texts and tool-tip texts.
 #include "StringUtils.h"
 
 #include "StoredText.h"

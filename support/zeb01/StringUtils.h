@@ -1,4 +1,4 @@
-// Texts for the user's eye.
+// Texts that the user reads.
 #pragma once
 
 #include <afx.h>

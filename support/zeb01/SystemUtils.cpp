@@ -1,3 +1,4 @@
+// The texts of the errors of the system.
 #include "SystemUtils.h"
 
 CString SystemUtils::GetLastError(unsigned long nError)

@@ -1,3 +1,4 @@
+// Searching and filling a list of texts.
 #include "TextArray.h"
 
 #include <algorithm>

@@ -12,14 +12,14 @@ public:
     // Appends a line.
     void Add(const CString& strText) { m_vTexts.push_back(strText); }
 
-    // Takes over the texts of the list in their order, in place of its own.
+    // Replaces all lines by the texts of the list, in their order.
     void CopyFromList(const CStringList& list);
 
-    // The index of the first line that equals the text, and in `bFound` whether there is one; the index is
-    // the size of the array if not. Without bMatchCase the letters A to Z equal a to z.
+    // The index of the first line that equals the text, or the size of the array if there is none; bFound
+    // becomes true or false. Without bMatchCase the letters A to Z equal a to z.
     std::size_t Find(const CString& strText, bool bMatchCase, bool& bFound) const;
 
-    // The lines; the index is below the size.
+    // The lines. nIndex must be below the size.
     std::size_t GetSize() const { return m_vTexts.size(); }
     const CString& GetAt(std::size_t nIndex) const { return m_vTexts[nIndex]; }
 

@@ -1,3 +1,4 @@
+// The paths of the data files.
 #include "ZebrikUtils.h"
 
 #include "DirUtils.h"
@@ -10,7 +11,7 @@ constexpr const char* kDirectory = "zeb17";
 
 constexpr const char* kFileNames[] = {"calendar1.dat", "calendar2.dat", "calendar3.dat", "calendar4.dat"};
 
-CString g_strDataDirectory; // empty: the user's
+CString g_strDataDirectory; // empty: the user's own
 
 CString GetDataDirectory()
 {

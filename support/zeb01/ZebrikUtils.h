@@ -10,7 +10,7 @@ public:
     // data. Empty for another version, or if the system names no such directory.
     static CString GetCalendarSettingsPath(unsigned short nVersion);
 
-    // Keeps the files in that directory from now on, for tests; the empty name is the user's own directory
-    // again.
+    // Keeps the files in that directory from now on, for tests. The empty name stands for the user's own
+    // directory.
     static void SetDataDirectory(const CString& strDirectory);
 };

@@ -114,8 +114,8 @@ TEST_F(Archive, CountsInThreeWidths)
         {0xFFFFFFFF, "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\0\0\0\0"s},
     };
     for (const auto& [count, bytes] : kCases) {
-        EXPECT_EQ(BytesOf([&](CArchive& ar) { ar.WriteCount(count); }), bytes);
-        Read(bytes, [&](CArchive& ar) { EXPECT_EQ(ar.ReadCount(), count); });
+        EXPECT_EQ(BytesOf([count = count](CArchive& ar) { ar.WriteCount(count); }), bytes);
+        Read(bytes, [count = count](CArchive& ar) { EXPECT_EQ(ar.ReadCount(), count); });
     }
 }
 

@@ -73,7 +73,8 @@ TEST_F(File, OpeningFailsWithCauseAndPath)
     };
     for (const auto& [name, flags, cause] : kCases) {
         const std::string path = m_directory.PathOf(name);
-        EXPECT_EQ(CauseOf([&] { CFile(path.c_str(), flags); }, path), cause) << name << " " << flags;
+        EXPECT_EQ(CauseOf([&, flags = flags] { CFile(path.c_str(), flags); }, path), cause)
+            << name << " " << flags;
     }
 }
 

@@ -1,3 +1,4 @@
+// The buffer of an archive, and the stored forms of texts and counts.
 #include "CArchive.h"
 
 #include "WideText.h"
@@ -12,204 +13,200 @@ namespace {
 
 constexpr int kMinBufferSize = 128;
 
-// Lead-ins of a wider length or count, and of a text of 16-bit characters.
+// Values that stand before a longer form of a length or a count, and before a text of 16-bit characters.
 constexpr BYTE kLongLength = 0xFF;
 constexpr WORD kWideText = 0xFFFE;
 constexpr WORD kLongCount = 0xFFFF;
 constexpr DWORD kLongerCount = 0xFFFFFFFF;
 
-// From UTF-16, little-endian.
-CString ToText(const std::string& bytes)
+CString FromLittleEndianUtf16(const std::string& strBytes)
 {
-    WideText wide(bytes.size() / 2, WCHAR());
-    for (std::size_t i = 0; i < wide.size(); ++i)
-        wide[i] =
-            static_cast<WCHAR>(static_cast<BYTE>(bytes[2 * i]) | static_cast<BYTE>(bytes[2 * i + 1]) << 8);
-    return FromWide(wide);
+    WideText strWide(strBytes.size() / 2, WCHAR());
+    for (std::size_t i = 0; i < strWide.size(); ++i) {
+        const auto byLow = static_cast<BYTE>(strBytes[2 * i]);
+        const auto byHigh = static_cast<BYTE>(strBytes[2 * i + 1]);
+        strWide[i] = static_cast<WCHAR>(byLow | byHigh << 8);
+    }
+    return FromWide(strWide);
 }
 
 }
 
-CArchive::CArchive(CFile* file, UINT mode, int bufferSize, void* buffer)
-    : m_file(file), m_mode(mode & load ? load : store),
-      m_size(static_cast<std::size_t>(std::max(bufferSize, kMinBufferSize))),
-      m_exceptions(std::uncaught_exceptions())
+CArchive::CArchive(CFile* pFile, UINT nMode, int nBufferSize, void* pBuffer)
+    : m_pFile(pFile), m_nMode(nMode & load ? load : store),
+      m_nSize(static_cast<std::size_t>(std::max(nBufferSize, kMinBufferSize))),
+      m_nExceptions(std::uncaught_exceptions())
 {
-    if (!buffer)
-        m_ownBuffer = std::make_unique<BYTE[]>(m_size);
-    m_buffer = buffer ? static_cast<BYTE*>(buffer) : m_ownBuffer.get();
+    if (!pBuffer)
+        m_pOwnBuffer = std::make_unique<BYTE[]>(m_nSize);
+    m_pBuffer = pBuffer ? static_cast<BYTE*>(pBuffer) : m_pOwnBuffer.get();
 }
 
 CArchive::~CArchive() noexcept(false)
 {
-    if (std::uncaught_exceptions() == m_exceptions)
+    if (std::uncaught_exceptions() == m_nExceptions)
         Close();
 }
 
 void CArchive::Flush()
 {
-    if (!m_file)
+    if (!m_pFile)
         return;
-    const std::size_t next = std::exchange(m_next, 0);
-    const std::size_t end = std::exchange(m_end, 0);
-    if (IsStoring() && next > 0)
-        m_file->Write(m_buffer, static_cast<UINT>(next));
-    if (IsLoading() && next < end)
-        m_file->Seek(-static_cast<LONGLONG>(end - next), CFile::current);
+    const std::size_t nNext = std::exchange(m_nNext, 0);
+    const std::size_t nEnd = std::exchange(m_nEnd, 0);
+    if (IsStoring() && nNext > 0)
+        m_pFile->Write(m_pBuffer, static_cast<UINT>(nNext));
+    if (IsLoading() && nNext < nEnd)
+        m_pFile->Seek(-static_cast<LONGLONG>(nEnd - nNext), CFile::current);
 }
 
 void CArchive::Close()
 {
     Flush();
-    m_file = nullptr;
+    m_pFile = nullptr;
 }
 
-void CArchive::Abort()
-{
-    m_next = m_end = 0;
-    m_file = nullptr;
-}
-
-UINT CArchive::Read(void* buffer, UINT count)
+UINT CArchive::Read(void* pBuffer, UINT nCount)
 {
     RequireLoading();
-    auto* out = static_cast<BYTE*>(buffer);
-    UINT done = 0;
-    while (done < count && (m_next < m_end || FillBuffer())) {
-        const auto part = static_cast<UINT>(std::min<std::size_t>(count - done, m_end - m_next));
-        std::memcpy(out + done, m_buffer + m_next, part);
-        m_next += part;
-        done += part;
+    auto* pOut = static_cast<BYTE*>(pBuffer);
+    UINT nDone = 0;
+    while (nDone < nCount && (m_nNext < m_nEnd || FillBuffer())) {
+        const auto nPart = static_cast<UINT>(std::min<std::size_t>(nCount - nDone, m_nEnd - m_nNext));
+        std::memcpy(pOut + nDone, m_pBuffer + m_nNext, nPart);
+        m_nNext += nPart;
+        nDone += nPart;
     }
-    return done;
+    return nDone;
 }
 
-void CArchive::Write(const void* buffer, UINT count)
+void CArchive::Write(const void* pBuffer, UINT nCount)
 {
     RequireStoring();
-    const auto* in = static_cast<const BYTE*>(buffer);
-    UINT done = 0;
-    while (done < count) {
-        if (m_next == m_size)
+    const auto* pIn = static_cast<const BYTE*>(pBuffer);
+    UINT nDone = 0;
+    while (nDone < nCount) {
+        if (m_nNext == m_nSize)
             Flush();
-        const auto part = static_cast<UINT>(std::min<std::size_t>(count - done, m_size - m_next));
-        std::memcpy(m_buffer + m_next, in + done, part);
-        m_next += part;
-        done += part;
+        const auto nPart = static_cast<UINT>(std::min<std::size_t>(nCount - nDone, m_nSize - m_nNext));
+        std::memcpy(m_pBuffer + m_nNext, pIn + nDone, nPart);
+        m_nNext += nPart;
+        nDone += nPart;
     }
 }
 
 ULONGLONG CArchive::GetBytesLeft() const
 {
     RequireLoading();
-    const ULONGLONG length = m_file->GetLength();
-    return m_end - m_next + length - std::min(length, m_file->GetPosition());
+    const ULONGLONG nLength = m_pFile->GetLength();
+    return m_nEnd - m_nNext + nLength - std::min(nLength, m_pFile->GetPosition());
 }
 
 ULONGLONG CArchive::ReadCount()
 {
-    WORD count;
-    *this >> count;
-    return count == kLongCount ? ReadLongCount() : count;
+    WORD wCount;
+    *this >> wCount;
+    return wCount == kLongCount ? ReadLongCount() : wCount;
 }
 
-void CArchive::WriteCount(ULONGLONG count)
+void CArchive::WriteCount(ULONGLONG nCount)
 {
-    if (count < kLongCount) {
-        *this << static_cast<WORD>(count);
+    if (nCount < kLongCount) {
+        *this << static_cast<WORD>(nCount);
         return;
     }
     *this << kLongCount;
-    if (count < kLongerCount) {
-        *this << static_cast<DWORD>(count);
+    if (nCount < kLongerCount) {
+        *this << static_cast<DWORD>(nCount);
         return;
     }
-    *this << kLongerCount << count;
+    *this << kLongerCount << nCount;
 }
 
-CArchive& CArchive::operator<<(const CString& text)
+CArchive& CArchive::operator<<(const CString& strText)
 {
-    const auto length = static_cast<UINT>(text.GetLength());
-    if (length < kLongLength)
-        *this << static_cast<BYTE>(length);
-    else if (length < kWideText)
-        *this << kLongLength << static_cast<WORD>(length);
+    const auto nLength = static_cast<UINT>(strText.GetLength());
+    if (nLength < kLongLength)
+        *this << static_cast<BYTE>(nLength);
+    else if (nLength < kWideText)
+        *this << kLongLength << static_cast<WORD>(nLength);
     else
-        *this << kLongLength << kLongCount << static_cast<DWORD>(length);
-    Write(text.GetString(), length);
+        *this << kLongLength << kLongCount << static_cast<DWORD>(nLength);
+    Write(strText.GetString(), nLength);
     return *this;
 }
 
-CArchive& CArchive::operator>>(CString& text)
+CArchive& CArchive::operator>>(CString& strText)
 {
-    bool wide = false;
-    const ULONGLONG length = ReadLength(wide);
-    text = wide ? ToText(ReadBytes(length, sizeof(WCHAR))) : CString(ReadBytes(length, 1));
+    bool bWide = false;
+    const ULONGLONG nLength = ReadLength(bWide);
+    strText =
+        bWide ? FromLittleEndianUtf16(ReadBytes(nLength, sizeof(WCHAR))) : CString(ReadBytes(nLength, 1));
     return *this;
 }
 
 void CArchive::RequireLoading() const
 {
-    if (!m_file || !IsLoading())
-        AfxThrowArchiveException(CArchiveException::writeOnly, m_file ? m_file->GetFilePath() : CString());
+    if (!m_pFile || !IsLoading())
+        AfxThrowArchiveException(CArchiveException::writeOnly, m_pFile ? m_pFile->GetFilePath() : CString());
 }
 
 void CArchive::RequireStoring() const
 {
-    if (!m_file || !IsStoring())
-        AfxThrowArchiveException(CArchiveException::readOnly, m_file ? m_file->GetFilePath() : CString());
+    if (!m_pFile || !IsStoring())
+        AfxThrowArchiveException(CArchiveException::readOnly, m_pFile ? m_pFile->GetFilePath() : CString());
 }
 
 bool CArchive::FillBuffer()
 {
-    m_next = 0;
-    m_end = m_file->Read(m_buffer, static_cast<UINT>(m_size));
-    return m_end > 0;
+    m_nNext = 0;
+    m_nEnd = m_pFile->Read(m_pBuffer, static_cast<UINT>(m_nSize));
+    return m_nEnd > 0;
 }
 
-void CArchive::ReadExactly(void* buffer, UINT count)
+void CArchive::ReadExactly(void* pBuffer, UINT nCount)
 {
-    if (Read(buffer, count) != count)
-        AfxThrowArchiveException(CArchiveException::endOfFile, m_file->GetFilePath());
+    if (Read(pBuffer, nCount) != nCount)
+        AfxThrowArchiveException(CArchiveException::endOfFile, m_pFile->GetFilePath());
 }
 
-// What follows the 16-bit lead-in of a long count.
+// What follows kLongCount.
 ULONGLONG CArchive::ReadLongCount()
 {
-    DWORD count;
-    *this >> count;
-    if (count != kLongerCount)
-        return count;
-    ULONGLONG longerCount;
-    *this >> longerCount;
-    return longerCount;
+    DWORD dwCount;
+    *this >> dwCount;
+    if (dwCount != kLongerCount)
+        return dwCount;
+    ULONGLONG nLongerCount;
+    *this >> nLongerCount;
+    return nLongerCount;
 }
 
-// The length of a text in characters; sets `wide` if they have 16 bits.
-ULONGLONG CArchive::ReadLength(bool& wide)
+// The length of a text in characters; bWide becomes true if they have 16 bits.
+ULONGLONG CArchive::ReadLength(bool& bWide)
 {
-    BYTE length;
-    *this >> length;
-    if (length != kLongLength)
-        return length;
+    BYTE byLength;
+    *this >> byLength;
+    if (byLength != kLongLength)
+        return byLength;
 
-    WORD longLength;
-    *this >> longLength;
-    if (longLength == kWideText && !wide) {
-        wide = true;
-        return ReadLength(wide);
+    WORD wLength;
+    *this >> wLength;
+    if (wLength == kWideText && !bWide) {
+        bWide = true;
+        return ReadLength(bWide);
     }
-    return longLength == kLongCount ? ReadLongCount() : longLength;
+    return wLength == kLongCount ? ReadLongCount() : wLength;
 }
 
-// Takes no memory for more than the file still holds.
-std::string CArchive::ReadBytes(ULONGLONG count, std::size_t size)
+// Takes no memory before it knows that the file still holds so much.
+std::string CArchive::ReadBytes(ULONGLONG nCount, std::size_t nSize)
 {
-    if (count > (m_end - m_next) / size && count > GetBytesLeft() / size)
-        AfxThrowArchiveException(CArchiveException::endOfFile, m_file->GetFilePath());
-    if (count > INT_MAX / size)
+    if (nCount > (m_nEnd - m_nNext) / nSize && nCount > GetBytesLeft() / nSize)
+        AfxThrowArchiveException(CArchiveException::endOfFile, m_pFile->GetFilePath());
+    if (nCount > INT_MAX / nSize)
         AfxThrowMemoryException(); // more than a text can hold
-    std::string bytes(static_cast<std::size_t>(count) * size, '\0');
-    ReadExactly(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
+    std::string strBytes(static_cast<std::size_t>(nCount) * nSize, '\0');
+    ReadExactly(strBytes.data(), static_cast<UINT>(strBytes.size()));
+    return strBytes;
 }

@@ -9,15 +9,15 @@
 #include <string>
 #include <type_traits>
 
-// A number that an archive stores in its own width. `bool` is none, and neither is `long` where it is wider
-// than the 32 bits that it has in a file.
+// A type of number that an archive stores. `bool` is left out, since its width is not fixed, and so is `long`
+// where it has other than 32 bits: the bytes in a file must be the same on every system.
 template <class T>
 concept ArchiveNumber = std::integral<T> && !std::same_as<T, bool> &&
                         (sizeof(long) == 4 || (!std::same_as<T, long> && !std::same_as<T, unsigned long>));
 
-// Reading past the end of the file throws a CArchiveException with the cause endOfFile; the file's own
-// failures come through as CFileException. Lengths and counts in a file are not believed: a text takes memory
-// only as its characters are read.
+// Reading past the end of the file throws a CArchiveException with the cause endOfFile; a failure of the file
+// itself is a CFileException. A damaged file does no harm: no memory is taken for a text before it is known
+// that the file is long enough for it.
 class ZEB17_EXPORT CArchive
 {
 public:
@@ -27,62 +27,61 @@ public:
         load = 1
     };
 
-    // The file stays the caller's and must outlive the archive. With a null buffer the archive makes one of
-    // `bufferSize` bytes (at least 128); else the buffer stays the caller's.
-    CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
-    // Closes an archive that was not closed, with the exceptions of Close; while an exception passes, what is
-    // buffered is dropped instead.
+    // The file stays the caller's and must outlive the archive. nMode: `load` or `store`. pBuffer: the
+    // caller's own buffer of nBufferSize bytes, at least 128, or null to have the archive make one.
+    CArchive(CFile* pFile, UINT nMode, int nBufferSize = 4096, void* pBuffer = nullptr);
+    // Closes the archive if it is still open, and throws what Close throws. When an exception is the reason
+    // for the end of the archive, what is buffered is dropped instead.
     ~CArchive() noexcept(false);
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
 
-    bool IsLoading() const { return m_mode == load; }
-    bool IsStoring() const { return m_mode == store; }
-    CFile* GetFile() const { return m_file; }
+    bool IsLoading() const { return m_nMode == load; }
+    bool IsStoring() const { return m_nMode == store; }
+    CFile* GetFile() const { return m_pFile; }
 
-    // Writes what is buffered to the file; loading, puts the file's position where the archive's is.
+    // Storing: writes what is buffered to the file. Loading: moves the file's position back over what was
+    // read ahead.
     void Flush();
     // Flushes and ends the archive. The file stays open.
     void Close();
-    // Ends the archive and drops what is buffered.
-    void Abort();
 
-    // Reads up to `count` bytes and returns how many; fewer only at the end of the file.
-    UINT Read(void* buffer, UINT count);
-    void Write(const void* buffer, UINT count);
+    // Reads up to nCount bytes and returns how many; fewer only at the end of the file.
+    UINT Read(void* pBuffer, UINT nCount);
+    void Write(const void* pBuffer, UINT nCount);
 
-    // How many bytes can still be read at most: a bound for any count that a file claims.
+    // How many bytes can still be read: no count of records in the file can truly be larger.
     ULONGLONG GetBytesLeft() const;
 
-    // A count in the customary form: 16 bits, or 0xFFFF and 32, or 0xFFFF, 0xFFFFFFFF and 64.
+    // A count as the toolkit stores it: in 16 bits; or 0xFFFF and 32 bits; or 0xFFFF, 0xFFFFFFFF and 64 bits.
     ULONGLONG ReadCount();
-    void WriteCount(ULONGLONG count);
+    void WriteCount(ULONGLONG nCount);
 
     template <ArchiveNumber T>
     CArchive& operator<<(T value);
     template <ArchiveNumber T>
     CArchive& operator>>(T& value);
-    CArchive& operator<<(const CString& text);
-    // Texts of 16-bit characters are turned into 8-bit ones.
-    CArchive& operator>>(CString& text);
+    CArchive& operator<<(const CString& strText);
+    // A text that is stored in 16-bit characters is turned into an 8-bit one.
+    CArchive& operator>>(CString& strText);
 
 private:
     void RequireLoading() const;
     void RequireStoring() const;
-    void ReadExactly(void* buffer, UINT count);
+    void ReadExactly(void* pBuffer, UINT nCount);
     bool FillBuffer();
     ULONGLONG ReadLongCount();
-    ULONGLONG ReadLength(bool& wide);
-    std::string ReadBytes(ULONGLONG count, std::size_t size);
+    ULONGLONG ReadLength(bool& bWide);
+    std::string ReadBytes(ULONGLONG nCount, std::size_t nSize);
 
-    CFile* m_file;
-    Mode m_mode;
-    std::unique_ptr<BYTE[]> m_ownBuffer;
-    BYTE* m_buffer;
-    std::size_t m_size;
-    std::size_t m_next = 0; // where the buffer is read or written next
-    std::size_t m_end = 0;  // loading: behind the last byte read from the file
-    int m_exceptions;       // passing when the archive was made
+    CFile* m_pFile;
+    Mode m_nMode;
+    std::unique_ptr<BYTE[]> m_pOwnBuffer;
+    BYTE* m_pBuffer;
+    std::size_t m_nSize;
+    std::size_t m_nNext = 0; // the index of the byte to be read or written next
+    std::size_t m_nEnd = 0;  // loading: the number of bytes that the buffer holds
+    int m_nExceptions;       // how many exceptions were passing when the archive was made
 };
 
 template <ArchiveNumber T>

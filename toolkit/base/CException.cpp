@@ -1,3 +1,4 @@
+// The texts of the toolkit's exceptions, and how the system's errors lead to their causes.
 #include "CException.h"
 
 #include <array>
@@ -5,31 +6,30 @@
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CMemoryException, CException)
-IMPLEMENT_DYNAMIC(CNotSupportedException, CException)
 IMPLEMENT_DYNAMIC(CResourceException, CException)
 IMPLEMENT_DYNAMIC(CFileException, CException)
 IMPLEMENT_DYNAMIC(CArchiveException, CException)
 
 namespace {
 
-CString GetSystemText(DWORD error)
+CString GetSystemText(DWORD dwError)
 {
-    char text[512];
-    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS |
-                                            FORMAT_MESSAGE_MAX_WIDTH_MASK,
-                                        nullptr, error, 0, text, sizeof(text), nullptr);
-    return CString(text, static_cast<int>(length)).TrimRight();
+    char szText[512];
+    const DWORD dwLength = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS |
+                                              FORMAT_MESSAGE_MAX_WIDTH_MASK,
+                                          nullptr, dwError, 0, szText, sizeof(szText), nullptr);
+    return CString(szText, static_cast<int>(dwLength)).TrimRight();
 }
 
-CString JoinNameAndText(const CString& name, const CString& text)
+CString JoinNameAndText(const CString& strName, const CString& strText)
 {
-    return name.IsEmpty() || text.IsEmpty() ? text : name + ": " + text;
+    return strName.IsEmpty() || strText.IsEmpty() ? strText : strName + ": " + strText;
 }
 
 struct SystemErrorCause
 {
-    DWORD error;
-    int cause;
+    DWORD dwError;
+    int nCause;
 };
 
 constexpr SystemErrorCause kSystemErrorCauses[] = {
@@ -56,6 +56,7 @@ constexpr SystemErrorCause kSystemErrorCauses[] = {
     {ERROR_HANDLE_EOF, CFileException::endOfFile},
 };
 
+// By the cause of a CArchiveException.
 constexpr std::array kArchiveTexts = {
     "No error",
     "Unknown error in an archive",
@@ -69,14 +70,14 @@ constexpr std::array kArchiveTexts = {
 
 }
 
-BOOL CException::GetErrorMessage(LPTSTR text, UINT size, UINT* helpContext) const
+BOOL CException::GetErrorMessage(LPTSTR lpszText, UINT nSize, UINT* pnHelpContext) const
 {
-    if (helpContext)
-        *helpContext = 0;
-    const CString message = GetMessageText();
-    if (message.IsEmpty() || size == 0)
+    if (pnHelpContext)
+        *pnHelpContext = 0;
+    const CString strText = GetMessageText();
+    if (strText.IsEmpty() || nSize == 0)
         return FALSE;
-    lstrcpynA(text, message, static_cast<int>(size));
+    lstrcpynA(lpszText, strText, static_cast<int>(nSize));
     return TRUE;
 }
 
@@ -85,45 +86,40 @@ CString CMemoryException::GetMessageText() const
     return "Out of memory";
 }
 
-CString CNotSupportedException::GetMessageText() const
-{
-    return "The operation is not supported";
-}
-
 CString CResourceException::GetMessageText() const
 {
     return "A resource is missing";
 }
 
-int CFileException::OsErrorToException(LONG osError)
+int CFileException::OsErrorToException(LONG lOsError)
 {
-    for (const auto& [error, cause] : kSystemErrorCauses)
-        if (error == static_cast<DWORD>(osError))
-            return cause;
+    for (const auto& [dwError, nCause] : kSystemErrorCauses)
+        if (dwError == static_cast<DWORD>(lOsError))
+            return nCause;
     return genericException;
 }
 
 CString CFileException::GetMessageText() const
 {
-    const CString text = m_lOsError >= 0 ? GetSystemText(static_cast<DWORD>(m_lOsError)) : CString();
-    return JoinNameAndText(m_strFileName, text.IsEmpty() ? CString("Unknown error on a file") : text);
+    const CString strText = m_lOsError >= 0 ? GetSystemText(static_cast<DWORD>(m_lOsError)) : CString();
+    return JoinNameAndText(m_strFileName, strText.IsEmpty() ? CString("Unknown error on a file") : strText);
 }
 
 CString CArchiveException::GetMessageText() const
 {
-    const auto cause = static_cast<std::size_t>(m_cause);
-    const bool known = cause < kArchiveTexts.size();
-    return JoinNameAndText(m_strFileName, known ? kArchiveTexts[cause] : kArchiveTexts[genericException]);
+    const auto nCause = static_cast<std::size_t>(m_cause);
+    const bool bKnown = nCause < kArchiveTexts.size();
+    return JoinNameAndText(m_strFileName, bKnown ? kArchiveTexts[nCause] : kArchiveTexts[genericException]);
 }
 
-void AfxThrowFileException(int cause, LONG osError, LPCTSTR fileName)
+void AfxThrowFileException(int nCause, LONG lOsError, LPCTSTR lpszFileName)
 {
-    throw new CFileException(cause, osError, fileName);
+    throw new CFileException(nCause, lOsError, lpszFileName);
 }
 
-void AfxThrowArchiveException(int cause, LPCTSTR archiveName)
+void AfxThrowArchiveException(int nCause, LPCTSTR lpszArchiveName)
 {
-    throw new CArchiveException(cause, archiveName);
+    throw new CArchiveException(nCause, lpszArchiveName);
 }
 
 void AfxThrowMemoryException()
@@ -134,9 +130,4 @@ void AfxThrowMemoryException()
 void AfxThrowResourceException()
 {
     throw new CResourceException;
-}
-
-void AfxThrowNotSupportedException()
-{
-    throw new CNotSupportedException;
 }

@@ -1,5 +1,5 @@
-// The toolkit's exceptions. By its custom they are thrown as pointers to objects of their own, and who
-// catches one for good ends it: catch (CFileException* e) { ...; e->Delete(); }
+// The toolkit's exceptions. They are thrown as pointers to objects made by `new`, and the catch clause that
+// does not throw again deletes the object: catch (CFileException* e) { ...; e->Delete(); }
 #pragma once
 
 #include "CObject.h"
@@ -11,8 +11,9 @@ class ZEB17_EXPORT CException : public CObject
 public:
     void Delete() { delete this; }
 
-    // Copies the text of the error, cut to `size` characters with the null. False if there is none.
-    virtual BOOL GetErrorMessage(LPTSTR text, UINT size, UINT* helpContext = nullptr) const;
+    // Copies the text of the error to lpszText, cut to nSize characters with the null. False if there is no
+    // text. *pnHelpContext becomes 0: there is no help.
+    virtual BOOL GetErrorMessage(LPTSTR lpszText, UINT nSize, UINT* pnHelpContext = nullptr) const;
 
 protected:
     // The text of the error; empty where there is none.
@@ -22,13 +23,6 @@ protected:
 class ZEB17_EXPORT CMemoryException : public CException
 {
     DECLARE_DYNAMIC(CMemoryException)
-protected:
-    CString GetMessageText() const override;
-};
-
-class ZEB17_EXPORT CNotSupportedException : public CException
-{
-    DECLARE_DYNAMIC(CNotSupportedException)
 protected:
     CString GetMessageText() const override;
 };
@@ -63,15 +57,15 @@ public:
         endOfFile
     };
 
-    explicit CFileException(int cause = none, LONG osError = -1, LPCTSTR fileName = nullptr)
-        : m_cause(cause), m_lOsError(osError), m_strFileName(fileName)
+    explicit CFileException(int nCause = none, LONG lOsError = -1, LPCTSTR lpszFileName = nullptr)
+        : m_cause(nCause), m_lOsError(lOsError), m_strFileName(lpszFileName)
     {
     }
 
     // The cause that a system error stands for.
-    static int OsErrorToException(LONG osError);
+    static int OsErrorToException(LONG lOsError);
 
-    int m_cause;
+    int m_cause;     // one of the values above
     LONG m_lOsError; // the system's error code, -1 where there is none
     CString m_strFileName;
 
@@ -95,21 +89,21 @@ public:
         badSchema
     };
 
-    explicit CArchiveException(int cause = none, LPCTSTR archiveName = nullptr)
-        : m_cause(cause), m_strFileName(archiveName)
+    explicit CArchiveException(int nCause = none, LPCTSTR lpszArchiveName = nullptr)
+        : m_cause(nCause), m_strFileName(lpszArchiveName)
     {
     }
 
-    int m_cause;
+    int m_cause; // one of the values above
     CString m_strFileName;
 
 protected:
     CString GetMessageText() const override;
 };
 
-[[noreturn]] ZEB17_EXPORT void AfxThrowFileException(int cause, LONG osError = -1,
-                                                     LPCTSTR fileName = nullptr);
-[[noreturn]] ZEB17_EXPORT void AfxThrowArchiveException(int cause, LPCTSTR archiveName = nullptr);
+// Each throws the exception of that name.
+[[noreturn]] ZEB17_EXPORT void AfxThrowFileException(int nCause, LONG lOsError = -1,
+                                                     LPCTSTR lpszFileName = nullptr);
+[[noreturn]] ZEB17_EXPORT void AfxThrowArchiveException(int nCause, LPCTSTR lpszArchiveName = nullptr);
 [[noreturn]] ZEB17_EXPORT void AfxThrowMemoryException();
 [[noreturn]] ZEB17_EXPORT void AfxThrowResourceException();
-[[noreturn]] ZEB17_EXPORT void AfxThrowNotSupportedException();

@@ -1,3 +1,4 @@
+// CFile on the system's file calls.
 #include "CFile.h"
 
 #include "FileFault.h"
@@ -10,33 +11,20 @@ FileFault g_fileFault = nullptr;
 
 namespace {
 
-[[noreturn]] void ThrowFileException(DWORD error, LPCTSTR path)
+HANDLE OpenHandle(LPCTSTR lpszPath, UINT nOpenFlags)
 {
-    const auto osError = static_cast<LONG>(error);
-    AfxThrowFileException(CFileException::OsErrorToException(osError), osError, path);
-}
-
-struct OpenMode
-{
-    DWORD access;
-    DWORD sharing;
-    DWORD disposition;
-};
-
-OpenMode GetOpenMode(UINT flags)
-{
-    constexpr DWORD kAccess[] = {GENERIC_READ, GENERIC_WRITE, GENERIC_READ | GENERIC_WRITE, GENERIC_READ};
-    const DWORD access = kAccess[flags & 3];
-    const DWORD sharing = access == GENERIC_READ ? FILE_SHARE_READ : 0;
-    return {access, sharing, static_cast<DWORD>(flags & CFile::modeCreate ? CREATE_ALWAYS : OPEN_EXISTING)};
+    const bool bWrite = nOpenFlags & CFile::modeWrite;
+    const bool bCreate = nOpenFlags & CFile::modeCreate;
+    return CreateFileA(lpszPath, bWrite ? GENERIC_WRITE : GENERIC_READ, bWrite ? 0 : FILE_SHARE_READ, nullptr,
+                       bCreate ? CREATE_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 }
 
-CFile::CFile(LPCTSTR path, UINT openFlags)
+CFile::CFile(LPCTSTR lpszPath, UINT nOpenFlags)
 {
     CFileException error;
-    if (!CFile::Open(path, openFlags, &error))
+    if (!CFile::Open(lpszPath, nOpenFlags, &error))
         AfxThrowFileException(error.m_cause, error.m_lOsError, error.m_strFileName);
 }
 
@@ -45,49 +33,47 @@ CFile::~CFile()
     CFile::Abort();
 }
 
-BOOL CFile::Open(LPCTSTR path, UINT openFlags, CFileException* error)
+BOOL CFile::Open(LPCTSTR lpszPath, UINT nOpenFlags, CFileException* pError)
 {
     CFile::Abort();
-    m_strFileName = path;
-    const OpenMode mode = GetOpenMode(openFlags);
-    m_hFile = CreateFileA(path, mode.access, mode.sharing, nullptr, mode.disposition, FILE_ATTRIBUTE_NORMAL,
-                          nullptr);
+    m_strFileName = lpszPath;
+    m_hFile = OpenHandle(lpszPath, nOpenFlags);
     if (IsOpen())
         return TRUE;
 
-    if (error) {
-        error->m_lOsError = static_cast<LONG>(GetLastError());
-        error->m_cause = CFileException::OsErrorToException(error->m_lOsError);
-        error->m_strFileName = m_strFileName;
+    if (pError) {
+        pError->m_lOsError = static_cast<LONG>(GetLastError());
+        pError->m_cause = CFileException::OsErrorToException(pError->m_lOsError);
+        pError->m_strFileName = m_strFileName;
     }
     return FALSE;
 }
 
-UINT CFile::Read(void* buffer, UINT count)
+UINT CFile::Read(void* pBuffer, UINT nCount)
 {
-    DWORD read = 0;
-    if (!ReadFile(m_hFile, buffer, count, &read, nullptr))
+    DWORD dwRead = 0;
+    if (!ReadFile(m_hFile, pBuffer, nCount, &dwRead, nullptr))
         Fail(GetLastError());
-    return read;
+    return dwRead;
 }
 
-void CFile::Write(const void* buffer, UINT count)
+void CFile::Write(const void* pBuffer, UINT nCount)
 {
-    if (const DWORD fault = GetFileFault(FileOperation::Write))
-        Fail(fault);
-    DWORD written = 0;
-    if (!WriteFile(m_hFile, buffer, count, &written, nullptr))
+    if (const DWORD dwFault = GetFileFault(FileOperation::Write))
+        Fail(dwFault);
+    DWORD dwWritten = 0;
+    if (!WriteFile(m_hFile, pBuffer, nCount, &dwWritten, nullptr))
         Fail(GetLastError());
-    if (written != count)
+    if (dwWritten != nCount)
         Fail(ERROR_DISK_FULL);
 }
 
-ULONGLONG CFile::Seek(LONGLONG offset, UINT from)
+ULONGLONG CFile::Seek(LONGLONG nOffset, UINT nFrom)
 {
     LARGE_INTEGER distance;
     LARGE_INTEGER position;
-    distance.QuadPart = offset;
-    if (!SetFilePointerEx(m_hFile, distance, &position, from))
+    distance.QuadPart = nOffset;
+    if (!SetFilePointerEx(m_hFile, distance, &position, nFrom))
         Fail(GetLastError());
     return static_cast<ULONGLONG>(position.QuadPart);
 }
@@ -112,8 +98,8 @@ ULONGLONG CFile::GetLength() const
 
 void CFile::Flush()
 {
-    if (const DWORD fault = GetFileFault(FileOperation::Flush))
-        Fail(fault);
+    if (const DWORD dwFault = GetFileFault(FileOperation::Flush))
+        Fail(dwFault);
     if (!FlushFileBuffers(m_hFile))
         Fail(GetLastError());
 }
@@ -122,11 +108,11 @@ void CFile::Close()
 {
     if (!IsOpen())
         return;
-    const DWORD fault = GetFileFault(FileOperation::Close);
-    const bool closed = CloseHandle(std::exchange(m_hFile, INVALID_HANDLE_VALUE));
-    if (fault)
-        Fail(fault);
-    if (!closed)
+    const DWORD dwFault = GetFileFault(FileOperation::Close);
+    const bool bClosed = CloseHandle(std::exchange(m_hFile, INVALID_HANDLE_VALUE));
+    if (dwFault)
+        Fail(dwFault);
+    if (!bClosed)
         Fail(GetLastError());
 }
 
@@ -136,7 +122,8 @@ void CFile::Abort() noexcept
         CloseHandle(std::exchange(m_hFile, INVALID_HANDLE_VALUE));
 }
 
-void CFile::Fail(DWORD error) const
+void CFile::Fail(DWORD dwError) const
 {
-    ThrowFileException(error, m_strFileName);
+    const auto lOsError = static_cast<LONG>(dwError);
+    AfxThrowFileException(CFileException::OsErrorToException(lOsError), lOsError, m_strFileName);
 }

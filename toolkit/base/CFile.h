@@ -4,7 +4,9 @@
 #include "CException.h"
 
 // Every operation that fails throws a CFileException with the cause, the system's error and the path.
-// Others may read a file that is read, and nobody may open one that is written.
+//
+// While a file is open for reading, others may open it for reading too. While it is open for writing, nobody
+// else can open it.
 class ZEB17_EXPORT CFile : public CObject
 {
     DECLARE_DYNAMIC(CFile)
@@ -13,8 +15,7 @@ public:
     {
         modeRead = 0x0000,
         modeWrite = 0x0001,
-        modeReadWrite = 0x0002,
-        modeCreate = 0x1000 // the file is made anew, empty
+        modeCreate = 0x1000 // with modeWrite: an empty file, in place of one that is there
     };
     enum SeekPosition : UINT
     {
@@ -24,23 +25,24 @@ public:
     };
 
     CFile() = default;
-    CFile(LPCTSTR path, UINT openFlags);
-    // Closes the file; a failure of that is lost, so whoever must know calls Close.
+    CFile(LPCTSTR lpszPath, UINT nOpenFlags);
+    // Closes the file without telling a failure; Close tells it.
     ~CFile() override;
 
-    // Opens; false on failure, with the reason in `error` if one is given.
-    virtual BOOL Open(LPCTSTR path, UINT openFlags, CFileException* error = nullptr);
+    // Opens the file, and gives false on failure, with the reason in *pError if pError is not null.
+    virtual BOOL Open(LPCTSTR lpszPath, UINT nOpenFlags, CFileException* pError = nullptr);
 
-    // Reads up to `count` bytes and returns how many; fewer only at the end of the file.
-    virtual UINT Read(void* buffer, UINT count);
-    virtual void Write(const void* buffer, UINT count);
-    virtual ULONGLONG Seek(LONGLONG offset, UINT from);
+    // Reads up to nCount bytes and returns how many; fewer only at the end of the file.
+    virtual UINT Read(void* pBuffer, UINT nCount);
+    virtual void Write(const void* pBuffer, UINT nCount);
+    // Moves the position and returns it, counted from the beginning. nFrom: a SeekPosition.
+    virtual ULONGLONG Seek(LONGLONG nOffset, UINT nFrom);
     virtual ULONGLONG GetPosition() const;
     virtual ULONGLONG GetLength() const;
     // Returns when what was written is on the disk.
     virtual void Flush();
     virtual void Close();
-    // Closes without a word about failures.
+    // Closes the file without telling a failure.
     virtual void Abort() noexcept;
     virtual CString GetFilePath() const { return m_strFileName; }
 
@@ -49,8 +51,8 @@ public:
 protected:
     bool IsOpen() const { return m_hFile != INVALID_HANDLE_VALUE; }
 
-    // Ends the operation with the exception for a system error.
-    [[noreturn]] void Fail(DWORD error) const;
+    // Throws the exception for an error of the system.
+    [[noreturn]] void Fail(DWORD dwError) const;
 
-    CString m_strFileName; // the path that failures name
+    CString m_strFileName; // the path that exceptions tell
 };

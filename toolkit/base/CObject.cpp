@@ -1,4 +1,5 @@
-#include "afx.h"
+// The run-time class of CObject, and the questions to run-time classes.
+#include "CObject.h"
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr, nullptr};
 

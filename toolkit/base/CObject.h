@@ -7,14 +7,14 @@
 class CArchive;
 class CObject;
 
-// What is known of a class at run time. One constant per class, made by DECLARE_DYNAMIC and
-// IMPLEMENT_DYNAMIC.
+// What a program can ask about a class while it runs. DECLARE_DYNAMIC in the class and IMPLEMENT_DYNAMIC in
+// its source file make one such constant for the class.
 struct ZEB17_EXPORT CRuntimeClass
 {
     LPCSTR m_lpszClassName;
     int m_nObjectSize;
-    UINT m_wSchema; // 0xFFFF: objects of the class are not stored by name
-    CObject* (*m_pfnCreateObject)();
+    UINT m_wSchema;                  // 0xFFFF: objects of the class are not stored by name
+    CObject* (*m_pfnCreateObject)(); // null: objects of the class are not created by name
     const CRuntimeClass* m_pBaseClass;
 
     // True for the class itself and for each class above it.
@@ -28,7 +28,8 @@ public:
 
     virtual const CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject() = default;
-    // Stores or loads the object, according to the direction of the archive.
+    // Stores the object in the archive or loads it from there, as the archive is open for the one or the
+    // other.
     virtual void Serialize(CArchive& ar);
 
     CObject(const CObject&) = delete;

@@ -1,3 +1,4 @@
+// CString on std::string.
 #include "CString.h"
 
 #include <algorithm>
@@ -8,112 +9,112 @@ namespace {
 
 constexpr const char* kBlanks = " \t\n\v\f\r";
 
-// std::tolower would follow the locale of the C library.
+// Unlike std::tolower this does not depend on the locale of the C library.
 constexpr char ToLower(char ch)
 {
     return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
 }
 
-int ToIndex(std::size_t place)
+int ToIndex(std::size_t nPlace)
 {
-    return place == std::string::npos ? -1 : static_cast<int>(place);
+    return nPlace == std::string::npos ? -1 : static_cast<int>(nPlace);
 }
 
-std::string FormatText(const char* format, va_list arguments)
+std::string FormatText(const char* lpszFormat, va_list arguments)
 {
     va_list again;
     va_copy(again, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, arguments);
-    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
-    std::vsnprintf(text.data(), text.size() + 1, format, again);
+    const int nLength = std::vsnprintf(nullptr, 0, lpszFormat, arguments);
+    std::string strText(static_cast<std::size_t>(std::max(nLength, 0)), '\0');
+    std::vsnprintf(strText.data(), strText.size() + 1, lpszFormat, again);
     va_end(again);
-    return text;
+    return strText;
 }
 
 }
 
-CString& CString::operator+=(const CString& text)
+CString& CString::operator+=(const CString& strText)
 {
-    m_text += text.m_text;
+    m_strText += strText.m_strText;
     return *this;
 }
 
-CString& CString::operator+=(const char* text)
+CString& CString::operator+=(const char* lpszText)
 {
-    if (text)
-        m_text += text;
+    if (lpszText)
+        m_strText += lpszText;
     return *this;
 }
 
 CString& CString::operator+=(char ch)
 {
-    m_text += ch;
+    m_strText += ch;
     return *this;
 }
 
-CString CString::Left(int count) const
+CString CString::Left(int nCount) const
 {
-    return Mid(0, count);
+    return Mid(0, nCount);
 }
 
-CString CString::Right(int count) const
+CString CString::Right(int nCount) const
 {
-    return Mid(GetLength() - std::clamp(count, 0, GetLength()));
+    return Mid(GetLength() - std::clamp(nCount, 0, GetLength()));
 }
 
-CString CString::Mid(int first) const
+CString CString::Mid(int nFirst) const
 {
-    return Mid(first, GetLength());
+    return Mid(nFirst, GetLength());
 }
 
-CString CString::Mid(int first, int count) const
+CString CString::Mid(int nFirst, int nCount) const
 {
-    const int start = std::clamp(first, 0, GetLength());
-    return CString(m_text.data() + start, std::clamp(count, 0, GetLength() - start));
+    const int nStart = std::clamp(nFirst, 0, GetLength());
+    return CString(m_strText.data() + nStart, std::clamp(nCount, 0, GetLength() - nStart));
 }
 
-int CString::Find(const char* text, int start) const
+int CString::Find(const char* lpszText, int nStart) const
 {
-    return ToIndex(m_text.find(text, static_cast<std::size_t>(std::max(start, 0))));
+    return ToIndex(m_strText.find(lpszText, static_cast<std::size_t>(std::max(nStart, 0))));
 }
 
-int CString::Find(char ch, int start) const
+int CString::Find(char ch, int nStart) const
 {
-    return ToIndex(m_text.find(ch, static_cast<std::size_t>(std::max(start, 0))));
+    return ToIndex(m_strText.find(ch, static_cast<std::size_t>(std::max(nStart, 0))));
 }
 
-int CString::FindOneOf(const char* characters) const
+int CString::FindOneOf(const char* lpszCharacters) const
 {
-    return ToIndex(m_text.find_first_of(characters));
+    return ToIndex(m_strText.find_first_of(lpszCharacters));
 }
 
-int CString::Replace(const char* oldText, const char* newText)
+int CString::Replace(const char* lpszOld, const char* lpszNew)
 {
-    const std::size_t oldLength = std::strlen(oldText);
-    if (oldLength == 0)
+    const std::size_t nOldLength = std::strlen(lpszOld);
+    if (nOldLength == 0)
         return 0;
 
-    std::string result;
-    std::size_t start = 0;
-    int count = 0;
-    for (std::size_t place; (place = m_text.find(oldText, start)) != std::string::npos; ++count) {
-        result.append(m_text, start, place - start).append(newText);
-        start = place + oldLength;
+    std::string strResult;
+    std::size_t nStart = 0;
+    int nCount = 0;
+    for (std::size_t nPlace; (nPlace = m_strText.find(lpszOld, nStart)) != std::string::npos; ++nCount) {
+        strResult.append(m_strText, nStart, nPlace - nStart).append(lpszNew);
+        nStart = nPlace + nOldLength;
     }
-    result.append(m_text, start);
-    m_text = std::move(result);
-    return count;
+    strResult.append(m_strText, nStart);
+    m_strText = std::move(strResult);
+    return nCount;
 }
 
 CString& CString::TrimLeft()
 {
-    m_text.erase(0, m_text.find_first_not_of(kBlanks));
+    m_strText.erase(0, m_strText.find_first_not_of(kBlanks));
     return *this;
 }
 
 CString& CString::TrimRight()
 {
-    m_text.erase(m_text.find_last_not_of(kBlanks) + 1);
+    m_strText.erase(m_strText.find_last_not_of(kBlanks) + 1);
     return *this;
 }
 
@@ -124,35 +125,35 @@ CString& CString::Trim()
 
 CString& CString::MakeLower()
 {
-    std::transform(m_text.begin(), m_text.end(), m_text.begin(), ToLower);
+    std::transform(m_strText.begin(), m_strText.end(), m_strText.begin(), ToLower);
     return *this;
 }
 
-int CString::Compare(const char* other) const
+int CString::Compare(const char* lpszOther) const
 {
-    return m_text.compare(other ? other : "");
+    return m_strText.compare(lpszOther ? lpszOther : "");
 }
 
-int CString::CompareNoCase(const char* other) const
+int CString::CompareNoCase(const char* lpszOther) const
 {
-    return CString(*this).MakeLower().Compare(CString(other).MakeLower());
+    return CString(*this).MakeLower().Compare(CString(lpszOther).MakeLower());
 }
 
-void CString::Format(const char* format, ...)
+void CString::Format(const char* lpszFormat, ...)
 {
     va_list arguments;
-    va_start(arguments, format);
-    m_text = FormatText(format, arguments);
+    va_start(arguments, lpszFormat);
+    m_strText = FormatText(lpszFormat, arguments);
     va_end(arguments);
 }
 
-LPTSTR CString::GetBuffer(int minLength)
+LPTSTR CString::GetBuffer(int nMinLength)
 {
-    m_text.resize(std::max(m_text.size(), static_cast<std::size_t>(std::max(minLength, 0))));
-    return m_text.data();
+    m_strText.resize(std::max(m_strText.size(), static_cast<std::size_t>(std::max(nMinLength, 0))));
+    return m_strText.data();
 }
 
-void CString::ReleaseBuffer(int length)
+void CString::ReleaseBuffer(int nLength)
 {
-    m_text.resize(length < 0 ? std::strlen(m_text.c_str()) : static_cast<std::size_t>(length));
+    m_strText.resize(nLength < 0 ? std::strlen(m_strText.c_str()) : static_cast<std::size_t>(nLength));
 }

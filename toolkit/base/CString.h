@@ -1,4 +1,4 @@
-// A text of 8-bit characters: UTF-8 on Linux, the active code page on Windows. A value.
+// A text of 8-bit characters, which is UTF-8 on Linux and in the active code page on Windows.
 #pragma once
 
 #include <windows.h>
@@ -9,74 +9,89 @@
 #include <string>
 #include <string_view>
 
-// Indices and counts are in bytes, from 0. Case and blanks are those of ASCII.
+// Indices and counts are those of bytes; the first has index 0. Only the letters and blanks of ASCII count as
+// such.
 class ZEB17_EXPORT CString
 {
 public:
     CString() = default;
-    CString(const char* text) : m_text(text ? text : "") {} // null gives the empty text
-    CString(const char* text, int length) : m_text(text, static_cast<std::size_t>(length)) {}
-    explicit CString(char ch, int count = 1) : m_text(static_cast<std::size_t>(count), ch) {}
-    explicit CString(std::string_view text) : m_text(text) {}
+    CString(const char* lpszText) : m_strText(lpszText ? lpszText : "") {} // null gives the empty text
+    CString(const char* lpszText, int nLength) : m_strText(lpszText, static_cast<std::size_t>(nLength)) {}
+    explicit CString(char ch, int nCount = 1) : m_strText(static_cast<std::size_t>(nCount), ch) {}
+    explicit CString(std::string_view strText) : m_strText(strText) {}
 
-    operator LPCTSTR() const { return m_text.c_str(); }
-    LPCTSTR GetString() const { return m_text.c_str(); }
+    operator LPCTSTR() const { return m_strText.c_str(); }
+    LPCTSTR GetString() const { return m_strText.c_str(); }
 
-    int GetLength() const { return static_cast<int>(m_text.size()); }
-    bool IsEmpty() const { return m_text.empty(); }
-    void Empty() { m_text.clear(); }
+    int GetLength() const { return static_cast<int>(m_strText.size()); }
+    bool IsEmpty() const { return m_strText.empty(); }
+    void Empty() { m_strText.clear(); }
 
-    char GetAt(int index) const { return m_text[static_cast<std::size_t>(index)]; }
-    char operator[](int index) const { return GetAt(index); }
-    void SetAt(int index, char ch) { m_text[static_cast<std::size_t>(index)] = ch; }
+    char GetAt(int nIndex) const { return m_strText[static_cast<std::size_t>(nIndex)]; }
+    char operator[](int nIndex) const { return GetAt(nIndex); }
+    void SetAt(int nIndex, char ch) { m_strText[static_cast<std::size_t>(nIndex)] = ch; }
 
-    CString& operator+=(const CString& text);
-    CString& operator+=(const char* text);
+    CString& operator+=(const CString& strText);
+    CString& operator+=(const char* lpszText);
     CString& operator+=(char ch);
-    friend CString operator+(CString left, const CString& right) { return left += right; }
-    friend CString operator+(CString left, const char* right) { return left += right; }
-    friend CString operator+(CString left, char right) { return left += right; }
-    friend CString operator+(const char* left, const CString& right) { return CString(left) += right; }
-    friend CString operator+(char left, const CString& right) { return CString(left) += right; }
+    friend CString operator+(CString strLeft, const CString& strRight) { return strLeft += strRight; }
+    friend CString operator+(CString strLeft, const char* lpszRight) { return strLeft += lpszRight; }
+    friend CString operator+(CString strLeft, char chRight) { return strLeft += chRight; }
+    friend CString operator+(const char* lpszLeft, const CString& strRight)
+    {
+        return CString(lpszLeft) += strRight;
+    }
+    friend CString operator+(char chLeft, const CString& strRight) { return CString(chLeft) += strRight; }
 
-    // Parts of the text; counts and indices beyond its ends are cut to it.
-    CString Left(int count) const;
-    CString Right(int count) const;
-    CString Mid(int first) const;
-    CString Mid(int first, int count) const;
+    // Parts of the text. A count or an index beyond an end of the text stands for that end.
+    CString Left(int nCount) const;
+    CString Right(int nCount) const;
+    CString Mid(int nFirst) const;
+    CString Mid(int nFirst, int nCount) const;
 
-    // The index of the first place at or behind `start`, or -1.
-    int Find(const char* text, int start = 0) const;
-    int Find(char ch, int start = 0) const;
-    int FindOneOf(const char* characters) const;
+    // The index of the first place at or behind nStart where the text, the character or one of the characters
+    // stands; -1 if there is none.
+    int Find(const char* lpszText, int nStart = 0) const;
+    int Find(char ch, int nStart = 0) const;
+    int FindOneOf(const char* lpszCharacters) const;
 
     // Returns how many places were replaced.
-    int Replace(const char* oldText, const char* newText);
+    int Replace(const char* lpszOld, const char* lpszNew);
 
     CString& TrimLeft();
     CString& TrimRight();
     CString& Trim();
     CString& MakeLower();
 
-    // Below, at or above 0 as the text stands before, at or behind the other; by bytes.
-    int Compare(const char* other) const;
-    int CompareNoCase(const char* other) const;
-    friend bool operator==(const CString& left, const CString& right) { return left.m_text == right.m_text; }
-    friend bool operator==(const CString& left, const char* right) { return left.Compare(right) == 0; }
-    friend auto operator<=>(const CString& left, const CString& right)
+    // Negative, 0 or positive as the text comes before the other, equals it or comes after it, by the values
+    // of the bytes.
+    int Compare(const char* lpszOther) const;
+    int CompareNoCase(const char* lpszOther) const;
+    friend bool operator==(const CString& strLeft, const CString& strRight)
     {
-        return left.m_text <=> right.m_text;
+        return strLeft.m_strText == strRight.m_strText;
     }
-    friend auto operator<=>(const CString& left, const char* right) { return left.Compare(right) <=> 0; }
+    friend bool operator==(const CString& strLeft, const char* lpszRight)
+    {
+        return strLeft.Compare(lpszRight) == 0;
+    }
+    friend auto operator<=>(const CString& strLeft, const CString& strRight)
+    {
+        return strLeft.m_strText <=> strRight.m_strText;
+    }
+    friend auto operator<=>(const CString& strLeft, const char* lpszRight)
+    {
+        return strLeft.Compare(lpszRight) <=> 0;
+    }
 
-    // As printf; the text's own characters may be among the arguments.
-    void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
+    // As printf. The text itself may be one of the arguments.
+    void Format(const char* lpszFormat, ...) __attribute__((format(printf, 2, 3)));
 
-    // Room for `minLength` characters and a null, to be written to until ReleaseBuffer, which sets the length
-    // (-1: up to the first null).
-    LPTSTR GetBuffer(int minLength = 0);
-    void ReleaseBuffer(int length = -1);
+    // Lends the characters for writing, with room for at least nMinLength of them and a null. ReleaseBuffer
+    // must follow; it sets the new length of the text, or with -1 ends the text at its first null.
+    LPTSTR GetBuffer(int nMinLength = 0);
+    void ReleaseBuffer(int nLength = -1);
 
 private:
-    std::string m_text;
+    std::string m_strText;
 };

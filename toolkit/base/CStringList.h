@@ -5,7 +5,7 @@
 
 #include <vector>
 
-// A place in a list; null behind the end.
+// The place of a text in a list; null stands for no place.
 struct PositionTag;
 using POSITION = PositionTag*;
 
@@ -15,18 +15,22 @@ class ZEB17_EXPORT CStringList : public CObject
 public:
     CStringList() = default;
 
-    POSITION AddTail(const CString& text);
-    void RemoveAll() { m_texts.clear(); }
-    INT_PTR GetCount() const { return static_cast<INT_PTR>(m_texts.size()); }
-    bool IsEmpty() const { return m_texts.empty(); }
+    POSITION AddTail(const CString& strText);
+    void RemoveAll() { m_vTexts.clear(); }
+    INT_PTR GetCount() const { return static_cast<INT_PTR>(m_vTexts.size()); }
+    bool IsEmpty() const { return m_vTexts.empty(); }
 
-    // for (POSITION pos = list.GetHeadPosition(); pos;) use(list.GetNext(pos));
+    // GetHeadPosition gives the place of the first text, null in an empty list. GetNext gives the text at a
+    // place and moves the place on, to null after the last text:
+    //
+    //     for (POSITION pos = list.GetHeadPosition(); pos;)
+    //         Use(list.GetNext(pos));
     POSITION GetHeadPosition() const;
     const CString& GetNext(POSITION& position) const;
 
-    // A count, then so many texts. Loading appends to the list.
+    // Stores the number of texts and then the texts, or loads as many and appends them to the list.
     void Serialize(CArchive& ar) override;
 
 private:
-    std::vector<CString> m_texts;
+    std::vector<CString> m_vTexts;
 };

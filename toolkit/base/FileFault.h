@@ -1,4 +1,4 @@
-// For tests only: lets the operations of the file layer fail, or the process die, at a chosen point.
+// For tests: lets one operation on a file fail, or lets the process end there.
 #pragma once
 
 #include <windows.h>
@@ -12,13 +12,13 @@ enum class FileOperation
     Rename
 };
 
-// Asked before each operation on a file; a result other than 0 is the system error with which the operation
-// then fails without being carried out (a close is carried out all the same). Null, as it always is outside
-// tests: no fault.
+// What a test sets is called before each operation on a file. If it returns an error of the system, the
+// operation fails with that error and is not carried out; only a close is carried out all the same. Null
+// outside of tests.
 using FileFault = DWORD (*)(FileOperation operation);
 extern FileFault g_fileFault;
 
-// The error that is wanted from this operation, or 0.
+// The error with which the operation is to fail, or 0.
 inline DWORD GetFileFault(FileOperation operation)
 {
     return g_fileFault ? g_fileFault(operation) : ERROR_SUCCESS;

@@ -1,23 +1,26 @@
+// Text between code pages, by the calls of the system.
 #include "WideText.h"
 
-WideText ToWide(const CString& text, UINT codePage)
+WideText ToWide(const CString& strText, UINT nCodePage)
 {
-    if (text.IsEmpty())
+    if (strText.IsEmpty())
         return {};
-    const int length = MultiByteToWideChar(codePage, 0, text, text.GetLength(), nullptr, 0);
-    WideText wide(static_cast<std::size_t>(length), WCHAR());
-    MultiByteToWideChar(codePage, 0, text, text.GetLength(), wide.data(), length);
-    return wide;
+    const int nLength = MultiByteToWideChar(nCodePage, 0, strText, strText.GetLength(), nullptr, 0);
+    WideText strWide(static_cast<std::size_t>(nLength), WCHAR());
+    MultiByteToWideChar(nCodePage, 0, strText, strText.GetLength(), strWide.data(), nLength);
+    return strWide;
 }
 
-CString FromWide(WideTextView wide, UINT codePage)
+CString FromWide(WideTextView strWide, UINT nCodePage)
 {
-    if (wide.empty())
+    if (strWide.empty())
         return {};
-    const auto length = static_cast<int>(wide.size());
-    const int size = WideCharToMultiByte(codePage, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
-    CString text;
-    WideCharToMultiByte(codePage, 0, wide.data(), length, text.GetBuffer(size), size, nullptr, nullptr);
-    text.ReleaseBuffer(size);
-    return text;
+    const auto nLength = static_cast<int>(strWide.size());
+    const int nSize =
+        WideCharToMultiByte(nCodePage, 0, strWide.data(), nLength, nullptr, 0, nullptr, nullptr);
+    CString strText;
+    WideCharToMultiByte(nCodePage, 0, strWide.data(), nLength, strText.GetBuffer(nSize), nSize, nullptr,
+                        nullptr);
+    strText.ReleaseBuffer(nSize);
+    return strText;
 }

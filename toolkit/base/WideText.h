@@ -1,4 +1,4 @@
-// Between 8-bit text and the 16-bit text of some calls.
+// Conversion between 8-bit text and the 16-bit text that some calls of the system take.
 #pragma once
 
 #include "CString.h"
@@ -6,6 +6,7 @@
 using WideText = std::basic_string<WCHAR>;
 using WideTextView = std::basic_string_view<WCHAR>;
 
-// The 8-bit text is in the code page; what the other form cannot express becomes a substitute character.
-WideText ToWide(const CString& text, UINT codePage = CP_ACP);
-CString FromWide(WideTextView wide, UINT codePage = CP_ACP);
+// nCodePage is that of the 8-bit text. A character that the other form cannot express becomes a substitute
+// character, such as a question mark.
+WideText ToWide(const CString& strText, UINT nCodePage = CP_ACP);
+CString FromWide(WideTextView strWide, UINT nCodePage = CP_ACP);

@@ -1,4 +1,4 @@
-// The base of the toolkit: objects, text, exceptions, files and archives.
+// All headers of the base of the toolkit: objects, text, exceptions, files and archives.
 #pragma once
 
 #include "CObject.h"
