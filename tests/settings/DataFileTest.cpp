@@ -75,7 +75,7 @@ std::string MakeFile(unsigned short nVersion)
 
 TEST_F(DataFile, LoadsVersions2To4)
 {
-    for (const unsigned short nVersion : {2, 3, 4}) {
+    for (const unsigned short nVersion : std::initializer_list<unsigned short>{2, 3, 4}) {
         UseDirectory(m_root / std::to_string(nVersion));
         WriteFile(nVersion, MakeFile(nVersion));
         ASSERT_TRUE(m_settings.Load());
@@ -149,7 +149,7 @@ TEST_F(DataFile, LoadsEveryFormOfACustomSection)
     renumbered.m_nID = 10000;
     renumbered.SetShow(true);
     renumbered.SetColor(0xFFFFFF);
-    for (const unsigned nWord : {0, 1, 2, 3, 4, 0xFFFF}) {
+    for (const unsigned nWord : {0U, 1U, 2U, 3U, 4U, 0xFFFFU}) {
         DatesCustom::s_nNextCustomID = 10000;
         WriteFile(4, FileBytes().U16(3).NoOverlays().Custom({stored}, nWord).ToDo({}, nWord).U32(10042));
         ASSERT_TRUE(m_settings.Load());
@@ -178,7 +178,7 @@ TEST_F(DataFile, LoadsEveryFormOfAnOverlay)
     // An id without an entry, between two with one; the last record of an id counts.
     const Entries records = {MakeEntry(0, "", false, 5), MakeEntry(16, "", false, 6),
                              MakeEntry(41, "", true, 7), MakeEntry(0, "", false, 8)};
-    for (const unsigned nWord : {0, 1, 2, 3, 0xFFFF}) {
+    for (const unsigned nWord : {0U, 1U, 2U, 3U, 0xFFFFU}) {
         CalendarSettings settings;
         WriteFile(2,
                   FileBytes().U16(2).Overlay(records, nWord).Overlay({}).Overlay({}).Custom({}).U32(10000));
@@ -227,7 +227,7 @@ TEST_F(DataFile, IsWrittenAsDescribedAndComesBackWhole)
     ASSERT_TRUE(m_settings.Load());
     m_settings.SetAllColor(GroupNetherlands, 0x80000001);
     m_settings.SetAllShow(GroupCanada, false);
-    for (const size_t nLength : {0, 1, 254, 255, 65533, 65534, 70000}) {
+    for (const unsigned nLength : {0U, 1U, 254U, 255U, 65533U, 65534U, 70000U}) {
         auto pEntry = std::make_unique<CalendarDateEntry>();
         pEntry->SetBeforeAfterDayOfWeek(CString(std::string(nLength, 'y')), DateEntry::OCCURRENCE_LAST, 6, 4,
                                         -4);

@@ -145,7 +145,7 @@ TEST_F(HostileFile, HasAByteThatIsAnother)
 {
     const std::string strFile = MakeFile();
     for (std::size_t i = 0; i < strFile.size(); ++i) {
-        for (const unsigned nFlip : {0x01, 0x80, 0xFF}) {
+        for (const unsigned nFlip : {0x01U, 0x80U, 0xFFU}) {
             std::string strDamaged = strFile;
             strDamaged[i] = static_cast<char>(static_cast<unsigned char>(strDamaged[i]) ^ nFlip);
             WriteFile(4, strDamaged);
@@ -157,7 +157,7 @@ TEST_F(HostileFile, HasAByteThatIsAnother)
             }
         }
     }
-    for (const unsigned nForm : {0, 3, 0xFFFF}) {
+    for (const unsigned nForm : {0U, 3U, 0xFFFFU}) {
         CalendarSettings settings;
         WriteFile(4, NationalSections().U16(3).U64(1).Entry(kEntry, nForm).ToDo({}).U32(1));
         EXPECT_EQ(Load(settings), Outcome::BadSchema);

@@ -1,3 +1,4 @@
+// When an entry of the calendar is complete, and how it is stored.
 #include "CalendarDateEntry.h"
 
 #include <SerializeData.h>
@@ -15,7 +16,7 @@ void CalendarDateEntry::Serialize(CArchive& archive)
     if (archive.IsStoring())
         archive << wVersion;
     else
-        archive >> wVersion; // there is one form only
+        archive >> wVersion; // there is one form, so the word decides nothing
     SerializeData::Serialize(archive, m_bShow);
     if (archive.IsStoring())
         archive << m_dwColor;

@@ -1,4 +1,4 @@
-// A special date of the calendar: a date entry with what the calendar shows of it.
+// A special date of the calendar: a date entry with a show flag and a colour.
 #pragma once
 
 #include <DateEntry.h>
@@ -6,28 +6,28 @@
 class ZEB17_EXPORT CalendarDateEntry : public DateEntry
 {
 public:
-    // A blank entry, shown, with its own rule, in white.
+    // A blank entry: shown, white, not calculated.
     CalendarDateEntry() = default;
 
     // An entry that is not shown takes no part in lookups.
     void SetShow(bool bShow) { m_bShow = bShow; }
     bool GetShow() const { return m_bShow; }
 
-    // A calculated entry has no rule; its group works its date out and knows it by its id.
+    // A calculated entry has no rule: its group works its date out, and finds the entry by its id.
     void SetCalculated(bool bCalculated) { m_bCalculated = bCalculated; }
     bool GetCalculated() const { return m_bCalculated; }
 
-    // 0x00BBGGRR.
+    // The colour is 0x00BBGGRR.
     void SetColor(DWORD dwColor) { m_dwColor = dwColor; }
     DWORD GetColor() const { return m_dwColor; }
 
-    // As DateEntry; a calculated entry needs a description only.
+    // As DateEntry::IsValid; but a calculated entry needs nothing besides a description.
     bool IsValid() const override;
 
-    // Stores or loads the entry with all but the calculated flag. Failures are the archive's exceptions.
+    // Stores or loads the whole entry besides the calculated flag. Failures are the archive's exceptions.
     void Serialize(CArchive& archive) override;
 
-    // What the operations above set and give.
+    // The values that the operations above set and give.
     bool m_bShow = true;
     bool m_bCalculated = false;
     DWORD m_dwColor = 0xFFFFFF;

@@ -1,4 +1,4 @@
-// The form in which a national group writes down its special dates.
+// The tables in which a national group writes down its special dates, one row a date.
 #pragma once
 
 #include <DateEntry.h>
@@ -41,7 +41,7 @@ struct DateTable
         int nStartYear = 0;
     };
 
-    // The day nSignedDayOfWeek before or after a weekday of the month.
+    // The weekday before or after a weekday of the month; nSignedDayOfWeek is negative for before.
     struct NearWeekdayDate
     {
         int nID;
@@ -53,21 +53,21 @@ struct DateTable
         DateEntry::KIND kind = DateEntry::KIND_EVERY_YEAR;
     };
 
-    // The day nSignedDayOfWeek before or after a fixed date.
+    // The weekday before or after a fixed date; nSignedDayOfWeek is negative for before.
     struct NearFixedDate
     {
         int nID;
-        int nDay;
         int nMonth;
+        int nDay;
         int nSignedDayOfWeek;
         Text pText;
     };
 
-    // A date so many days after Easter Sunday.
+    // A date that is counted in days from Easter Sunday.
     struct EasterDate
     {
         int nID;
-        int nDaysAfterEaster;
+        int nDaysAfterEaster; // negative for a date before Easter
         Text pText;
     };
 
@@ -75,5 +75,5 @@ struct DateTable
     std::span<const WeekdayDate> weekdays = {};
     std::span<const NearWeekdayDate> nearWeekdays = {};
     std::span<const NearFixedDate> nearFixed = {};
-    std::span<const EasterDate> easter = {}; // in the order of testing
+    std::span<const EasterDate> easter = {}; // the first one that falls on a date is reported
 };

@@ -1,4 +1,5 @@
-// The texts that several national groups share: one constant a text, so that the groups give the same string.
+// The texts that several national groups share. Each is one constant, so that a date that two groups have is
+// reported with one text.
 #pragma once
 
 #include <StoredText.h>

@@ -1,3 +1,4 @@
+// Looking up what falls on a date, the date of Easter, and the stored colours and show flags of a group.
 #include "Dates.h"
 
 #include <DateTime.h>
@@ -13,16 +14,16 @@ namespace {
 constexpr WORD kOverlayVersion = 2;
 constexpr WORD kOldCounterVersion = 1;
 
-// The months in which a date counted from Easter is looked for.
+// A date that is counted from Easter is looked for in these months.
 constexpr int kFirstEasterMonth = 3;
 constexpr int kLastEasterMonth = 6;
 
-// How many years the entry has been observed, 0 if it doesn't count them.
+// How many years the entry has been observed; 0 for an entry that tells no first year.
 int GetAge(const DateEntry& entry, int nYear)
 {
     if (entry.m_nKind != DateEntry::KIND_FROM_YEAR)
         return 0;
-    const long long nAge = static_cast<long long>(nYear) - entry.m_nStartYear; // any year may be stored
+    const long long nAge = static_cast<long long>(nYear) - entry.m_nStartYear; // a file may hold any year
     return static_cast<int>(std::min<long long>(nAge, std::numeric_limits<int>::max()));
 }
 
@@ -194,8 +195,8 @@ void Dates::AppendDesc(const CString& strNew, CString& strDesc, int nAge)
         strDesc += " (" + NumberTextConv::NumberToString(nAge, false, 0, CString()) + ')';
 }
 
-// Oudin's computus of 1940 as the Explanatory Supplement to the Astronomical Almanac prints it. In 64 bits no
-// year overflows.
+// The computus of Oudin (1940) in the form of the Explanatory Supplement to the Astronomical Almanac. With 64
+// bits no year of 32 bits overflows.
 void Dates::GetEasterDate(int nYear, int& nMonth, int& nDay)
 {
     const long long y = nYear;
@@ -204,7 +205,7 @@ void Dates::GetEasterDate(int nYear, int& nMonth, int& nDay)
     const long long k = (c - 17) / 25;
     long long i = c - c / 4 - (c - k) / 3 + 19 * n + 15;
     i = i - 30 * (i / 30);
-    if (i / 28 != 0) // else the correction is 0, and for years below 0 its divisor i + 1 may be
+    if (i / 28 != 0) // otherwise the correction is 0, and for a year below 0 its divisor i + 1 could be 0
         i = i - (i / 28) * (1 - (i / 28) * (29 / (i + 1)) * ((21 - n) / 11));
     long long j = y + y / 4 + i + 2 - c + c / 4;
     j = j - 7 * (j / 7);

@@ -1,3 +1,4 @@
+// The table of Canada.
 #include "DatesCanada.h"
 
 #include "DateTexts.h"
@@ -55,8 +56,8 @@ constexpr DateTable::NearWeekdayDate kNearWeekdayDates[] = {
 };
 
 constexpr DateTable::NearFixedDate kNearFixedDates[] = {
-    // id, day, month, the day of the week before or after it
-    {134, 25, 5, -MONDAY, &kVictoriaDay},
+    // id, month, day, the day of the week before or after it
+    {134, 5, 25, -MONDAY, &kVictoriaDay},
 };
 
 constexpr DateTable::EasterDate kEasterDates[] = {

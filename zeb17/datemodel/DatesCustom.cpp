@@ -1,3 +1,4 @@
+// The section of the user's own dates, in all its forms.
 #include "DatesCustom.h"
 
 #include <algorithm>
@@ -29,7 +30,7 @@ void DatesCustom::Serialize(CArchive& archive)
         LoadEntries(archive, nCount);
 }
 
-// The first data files knew neither colour nor show flag of an entry, and gave no lasting id.
+// The first data files held neither the colour nor the show flag of an entry, and no lasting id.
 void DatesCustom::LoadBareEntries(CArchive& archive, size_t nCount)
 {
     DateEntry bare;

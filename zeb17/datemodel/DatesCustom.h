@@ -6,11 +6,11 @@
 class DatesCustom : public UserDates
 {
 public:
-    // Stores or loads the entries; loading ends the old ones as soon as the section has begun. Beside the
-    // failures of the archive, a count that no list could hold throws std::length_error.
+    // Stores or loads the entries. Loading deletes the old entries once the first word of the section is
+    // read. Failures are the archive's exceptions, and std::length_error for a count that no list could hold.
     void Serialize(CArchive& archive) override;
 
-    // The id of the next new entry, for all lists of the process. Stored in the data file.
+    // The id that the next new entry gets, in whatever list of the process. The data file stores it.
     static DWORD s_nNextCustomID;
 
 private:

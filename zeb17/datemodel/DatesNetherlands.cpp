@@ -1,3 +1,4 @@
+// The table of the Netherlands.
 #include "DatesNetherlands.h"
 
 #include "DateTexts.h"

@@ -1,3 +1,4 @@
+// The section of the to-do list.
 #include "DatesToDo.h"
 
 namespace {
@@ -15,7 +16,7 @@ void DatesToDo::Serialize(CArchive& archive)
         return;
     }
     WORD wSectionWord = 0;
-    archive >> wSectionWord; // there is one form only
+    archive >> wSectionWord; // there is one form, so the word decides nothing
     m_Entries.clear();
     LoadEntries(archive, ReadCount(archive, false));
 }

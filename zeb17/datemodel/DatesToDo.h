@@ -9,6 +9,6 @@ public:
     // As DatesCustom::Serialize.
     void Serialize(CArchive& archive) override;
 
-    // The id of the next new entry, for all lists of the process. Never stored.
+    // The id that the next new entry gets, in whatever list of the process. It is never stored.
     static DWORD s_nNextToDoID;
 };

@@ -1,3 +1,4 @@
+// The table of the United States.
 #include "DatesUS.h"
 
 #include "DateTexts.h"

@@ -1,3 +1,4 @@
+// The list of a group of the user's, and the part of its section that both groups share.
 #include "UserDates.h"
 
 #include <SerializeData.h>

@@ -1,3 +1,4 @@
+// The five groups as one object, in memory.
 #include "CalendarSettings.h"
 
 #include <MTMutex.h>
@@ -29,7 +30,7 @@ CalendarSettings::CalendarSettings()
 
 CalendarSettings::~CalendarSettings()
 {
-    m_pMutex.reset(); // before the groups
+    m_pMutex.reset(); // the mutex goes before the groups
 }
 
 CString CalendarSettings::GetName(Group group)
@@ -67,8 +68,7 @@ bool CalendarSettings::IsEnableToDoList()
 
 CString CalendarSettings::GetDateDesc(int nDay, int nMonth, int nYear, DWORD& dwColor) const
 {
-    // The later a group is asked, the more its colour counts. A lookup sets the colour only if it reports an
-    // entry.
+    // Each lookup that reports an entry sets the colour, so the group that is asked last wins.
     const Dates* const groups[] = {&m_DatesNetherlands, &m_DatesCanada, &m_DatesUS, &m_DatesCustom};
     CString strDesc;
     for (const Dates* pGroup : groups)

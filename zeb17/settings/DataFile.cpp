@@ -1,4 +1,4 @@
-// The data file: its byte form is described in docs/data-file.md.
+// Reading and writing the data file. docs/data-file.md describes its bytes.
 #include "CalendarSettings.h"
 
 #include <DirUtils.h>
@@ -8,13 +8,23 @@
 #include <ZebrikUtils.h>
 
 #include <algorithm>
-#include <iterator>
+#include <span>
+#include <vector>
 
 namespace {
 
+using enum CalendarSettings::Group;
+
 constexpr unsigned short kNewestVersion = 4;
-constexpr WORD kFileWord = 3; // as written; readers go by the path alone
+constexpr WORD kFileWord = 3; // written, and skipped by the readers: the path alone tells them the form
 constexpr int kBufferSize = 4096;
+
+// The groups in the order of their sections in the file.
+constexpr CalendarSettings::Group kGroups[] = {GroupUS, GroupCanada, GroupNetherlands, GroupCustom,
+                                               GroupToDo};
+
+// Files before version 4 have no to-do list.
+constexpr auto kGroupsBeforeToDo = std::span(kGroups).first<4>();
 
 void SkipWord(CArchive& archive)
 {
@@ -22,7 +32,7 @@ void SkipWord(CArchive& archive)
     archive >> wSkipped;
 }
 
-// The oldest form keeps one colour and one show flag a group, under the group's name.
+// What the oldest form of the file keeps of a group: one colour and one show flag, under the group's name.
 struct GroupSettings
 {
     Dates* pGroup = nullptr;
@@ -86,11 +96,7 @@ bool CalendarSettings::Save()
     ReplacedFile file(strPath);
     CArchive archive(&file, CArchive::store, kBufferSize, nullptr);
     archive << kFileWord;
-    m_DatesUS.Serialize(archive);
-    m_DatesCanada.Serialize(archive);
-    m_DatesNetherlands.Serialize(archive);
-    m_DatesCustom.Serialize(archive);
-    m_DatesToDo.Serialize(archive);
+    SerializeSections(archive, kGroups);
     archive << DatesCustom::s_nNextCustomID;
     archive.Close();
     file.Commit();
@@ -99,16 +105,15 @@ bool CalendarSettings::Save()
 
 void CalendarSettings::ReadDataFileVersion1(CArchive& archive)
 {
-    GroupSettings groups[] = {{&m_DatesUS, GetName(GroupUS)},
-                              {&m_DatesCanada, GetName(GroupCanada)},
-                              {&m_DatesNetherlands, GetName(GroupNetherlands)},
-                              {&m_DatesCustom, GetName(GroupCustom)}};
-    GroupSettings other; // takes what belongs to no group
+    std::vector<GroupSettings> groups;
+    for (const Group group : kGroupsBeforeToDo)
+        groups.push_back({.pGroup = FindGroup(group), .strName = GetName(group)});
+    GroupSettings other; // takes what the file says of groups that there are not
     const auto readGroup = [&]() -> GroupSettings& {
         CString strName;
         archive >> strName;
-        const auto group = std::ranges::find(groups, strName, &GroupSettings::strName);
-        return group == std::end(groups) ? other : *group;
+        const auto found = std::ranges::find(groups, strName, &GroupSettings::strName);
+        return found == groups.end() ? other : *found;
     };
 
     SkipWord(archive);
@@ -117,7 +122,8 @@ void CalendarSettings::ReadDataFileVersion1(CArchive& archive)
     for (std::int32_t i = 0; i < nColors; ++i)
         archive >> readGroup().dwColor;
 
-    // The stored form of a CStringList, read name by name: a list of millions of names would take memory.
+    // This is the stored form of a CStringList. The names are read one by one, since a list of millions of
+    // names would take much memory.
     const ULONGLONG nShown = archive.ReadCount();
     for (ULONGLONG i = 0; i < nShown; ++i)
         readGroup().bShow = true;
@@ -132,20 +138,19 @@ void CalendarSettings::ReadDataFileVersion1(CArchive& archive)
 void CalendarSettings::ReadDataFileVersion2(CArchive& archive)
 {
     SkipWord(archive);
-    m_DatesUS.Serialize(archive);
-    m_DatesCanada.Serialize(archive);
-    m_DatesNetherlands.Serialize(archive);
-    m_DatesCustom.Serialize(archive);
+    SerializeSections(archive, kGroupsBeforeToDo);
     archive >> DatesCustom::s_nNextCustomID;
 }
 
 void CalendarSettings::ReadDataFileVersion4(CArchive& archive)
 {
     SkipWord(archive);
-    m_DatesUS.Serialize(archive);
-    m_DatesCanada.Serialize(archive);
-    m_DatesNetherlands.Serialize(archive);
-    m_DatesCustom.Serialize(archive);
-    m_DatesToDo.Serialize(archive);
+    SerializeSections(archive, kGroups);
     archive >> DatesCustom::s_nNextCustomID;
+}
+
+void CalendarSettings::SerializeSections(CArchive& archive, std::span<const Group> groups)
+{
+    for (const Group group : groups)
+        FindGroup(group)->Serialize(archive);
 }
