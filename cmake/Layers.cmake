@@ -1,9 +1,15 @@
-# zeb17_layer(<name> SOURCES <file>... [INCLUDES <dir>...] [USES <layer>...])
+# zeb17_layer(<name> SOURCES <file>... [INCLUDES <dir>...] [USES <layer>...] [HIDDEN])
 #
 # One layer of the system: a static library that is later linked whole into the shared library, and
-# as it is into the tests. A layer sees the headers of the layers it names under USES, and no others.
+# as it is into the tests. A layer sees the headers of the layers it names under USES, and no others; they have to stand
+# below it. Hosts see the headers of all layers that are not HIDDEN.
 function(zeb17_layer name)
-    cmake_parse_arguments(arg "" "" "SOURCES;INCLUDES;USES" ${ARGN})
+    cmake_parse_arguments(arg "HIDDEN" "" "SOURCES;INCLUDES;USES" ${ARGN})
+    foreach(used ${arg_USES})
+        if(NOT TARGET ${used})
+            message(FATAL_ERROR "The layer ${name} uses ${used}, which does not stand below it.")
+        endif()
+    endforeach()
     add_library(${name} STATIC ${arg_SOURCES})
     if(NOT arg_INCLUDES)
         set(arg_INCLUDES .)
@@ -15,6 +21,10 @@ function(zeb17_layer name)
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/cmake/export")
     target_compile_definitions(${name} PUBLIC ZEB17_BUILDING)
     target_link_libraries(${name} PUBLIC ${arg_USES})
+    set_property(GLOBAL APPEND PROPERTY ZEB17_LAYERS ${name})
+    if(NOT arg_HIDDEN)
+        set_property(GLOBAL APPEND PROPERTY ZEB17_SHOWN_LAYERS ${name})
+    endif()
 endfunction()
 
 # zeb17_test(<name> SOURCES <file>... USES <layer>... [SCALES <number>...])

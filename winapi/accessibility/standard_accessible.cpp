@@ -1,0 +1,362 @@
+// The standard object: what can be said of any window, from its class, its style and its text.
+#include "oleacc.h"
+
+#include "window.h"
+#include "window_tree.h"
+
+#include <QString>
+
+#include <algorithm>
+
+using namespace winapi;
+
+namespace {
+
+enum class Speaks
+{
+    OwnText,  // is the name
+    LabelText // names it, its own text is the value
+};
+
+struct Kind
+{
+    LONG role;
+    Speaks name;
+};
+
+Kind buttonKind(const Window& window)
+{
+    switch (window.style & BS_TYPEMASK) {
+    case BS_CHECKBOX:
+    case BS_AUTOCHECKBOX:
+        return {ROLE_SYSTEM_CHECKBUTTON, Speaks::OwnText};
+    case BS_RADIOBUTTON:
+    case BS_AUTORADIOBUTTON:
+        return {ROLE_SYSTEM_RADIOBUTTON, Speaks::OwnText};
+    case BS_GROUPBOX:
+        return {ROLE_SYSTEM_GROUPING, Speaks::OwnText};
+    default:
+        return {ROLE_SYSTEM_PUSHBUTTON, Speaks::OwnText};
+    }
+}
+
+Kind kindOf(const Window& window)
+{
+    struct ClassKind
+    {
+        const char* className;
+        Kind kind;
+    };
+    static constexpr ClassKind kinds[] = {
+        {"static", {ROLE_SYSTEM_STATICTEXT, Speaks::OwnText}},
+        {"edit", {ROLE_SYSTEM_TEXT, Speaks::LabelText}},
+        {"listbox", {ROLE_SYSTEM_LIST, Speaks::LabelText}},
+        {"combobox", {ROLE_SYSTEM_COMBOBOX, Speaks::LabelText}},
+        {"#32770", {ROLE_SYSTEM_DIALOG, Speaks::OwnText}},
+    };
+    const QString name = QString::fromStdString(window.windowClass->name).toLower();
+    if (name == "button")
+        return buttonKind(window);
+    const auto* const found = std::find_if(std::begin(kinds), std::end(kinds),
+                                           [&](const ClassKind& kind) { return name == kind.className; });
+    return found != std::end(kinds) ? found->kind : Kind{ROLE_SYSTEM_CLIENT, Speaks::OwnText};
+}
+
+QString textOf(HWND window)
+{
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    GetWindowTextA(window, text.data(), static_cast<int>(text.size()));
+    return QString::fromUtf8(text.c_str());
+}
+
+// The nearest label before it.
+QString labelOf(const Window& window)
+{
+    const auto& siblings = window.parent->children;
+    const auto self = std::find(siblings.begin(), siblings.end(), &window);
+    const auto label =
+        std::find_if(std::make_reverse_iterator(self), siblings.rend(),
+                     [](const Window* sibling) { return kindOf(*sibling).role == ROLE_SYSTEM_STATICTEXT; });
+    return label == siblings.rend() ? QString() : textOf((*label)->handle);
+}
+
+HRESULT give(const QString& text, BSTR* result)
+{
+    *result = text.isEmpty() ? nullptr
+                             : SysAllocStringLen(reinterpret_cast<const OLECHAR*>(text.utf16()),
+                                                 static_cast<UINT>(text.size()));
+    return *result ? S_OK : S_FALSE;
+}
+
+HRESULT give(LONG number, VARIANT* result)
+{
+    *result = {};
+    result->vt = VT_I4;
+    result->lVal = number;
+    return S_OK;
+}
+
+HRESULT giveObject(HWND window, IDispatch** object)
+{
+    return AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IDispatch),
+                                      reinterpret_cast<void**>(object));
+}
+
+HRESULT giveObject(HWND window, VARIANT* result)
+{
+    *result = {};
+    const HRESULT hr = giveObject(window, &result->pdispVal);
+    result->vt = SUCCEEDED(hr) ? VT_DISPATCH : VT_EMPTY;
+    return hr;
+}
+
+HRESULT giveNothing(VARIANT* result)
+{
+    *result = {};
+    return S_FALSE;
+}
+
+std::vector<HWND> shownChildren(const Window& window)
+{
+    std::vector<HWND> shown;
+    for (const Window* child : window.children) {
+        if (child->is(WS_VISIBLE))
+            shown.push_back(child->handle);
+    }
+    return shown;
+}
+
+class StandardAccessible final : public IAccessible
+{
+public:
+    explicit StandardAccessible(HWND window) : m_window(window) {}
+    StandardAccessible(const StandardAccessible&) = delete;
+    StandardAccessible& operator=(const StandardAccessible&) = delete;
+
+    HRESULT QueryInterface(REFIID id, void** object) override
+    {
+        const bool known =
+            id == __uuidof(IUnknown) || id == __uuidof(IDispatch) || id == __uuidof(IAccessible);
+        *object = known ? this : nullptr;
+        if (!known)
+            return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG AddRef() override { return ++m_references; }
+    ULONG Release() override
+    {
+        const ULONG left = --m_references;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    HRESULT GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return E_NOTIMPL;
+    }
+
+    HRESULT get_accParent(IDispatch** parent) override
+    {
+        *parent = nullptr;
+        return tell([&](Window& window) {
+            return window.isTopLevel() ? S_FALSE : giveObject(window.parent->handle, parent);
+        });
+    }
+    HRESULT get_accChildCount(LONG* count) override
+    {
+        return tell([&](Window& window) {
+            *count = static_cast<LONG>(shownChildren(window).size());
+            return S_OK;
+        });
+    }
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override
+    {
+        *object = nullptr;
+        return tell([&](Window& window) {
+            if (child.vt == VT_I4 && child.lVal == CHILDID_SELF)
+                return QueryInterface(__uuidof(IDispatch), reinterpret_cast<void**>(object));
+            const std::vector<HWND> children = shownChildren(window);
+            const auto index = static_cast<std::size_t>(child.lVal) - 1;
+            return child.vt == VT_I4 && index < children.size() ? giveObject(children[index], object)
+                                                                : E_INVALIDARG;
+        });
+    }
+    HRESULT get_accName(VARIANT child, BSTR* name) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            if (kindOf(window).name == Speaks::OwnText)
+                return give(textOf(m_window).remove('&'), name);
+            return give(labelOf(window).remove('&').remove(':'), name);
+        });
+    }
+    HRESULT get_accValue(VARIANT child, BSTR* value) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            const Kind kind = kindOf(window);
+            const bool secret = kind.role == ROLE_SYSTEM_TEXT && window.is(ES_PASSWORD);
+            return give(kind.name == Speaks::LabelText && !secret ? textOf(m_window) : QString(), value);
+        });
+    }
+    HRESULT get_accDescription(VARIANT, BSTR* text) override { return give(QString(), text); }
+    HRESULT get_accHelp(VARIANT, BSTR* text) override { return give(QString(), text); }
+    HRESULT get_accHelpTopic(BSTR*, VARIANT, LONG*) override { return E_NOTIMPL; }
+    HRESULT get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            const QString text = kindOf(window).name == Speaks::OwnText ? textOf(m_window) : labelOf(window);
+            const qsizetype mark = text.indexOf('&');
+            const bool marked = mark >= 0 && mark + 1 < text.size();
+            return give(marked ? "Alt+" + text.mid(mark + 1, 1).toUpper() : QString(), shortcut);
+        });
+    }
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override
+    {
+        return tellOfSelf(child, [&](Window& window) { return give(kindOf(window).role, role); });
+    }
+    HRESULT get_accState(VARIANT child, VARIANT* state) override
+    {
+        return tellOfSelf(child, [&](Window& window) { return give(stateOf(window), state); });
+    }
+    HRESULT get_accFocus(VARIANT* child) override
+    {
+        return tell([&](Window&) {
+            const HWND focus = GetFocus();
+            if (focus == m_window)
+                return give(CHILDID_SELF, child);
+            return IsChild(m_window, focus) ? giveObject(focus, child) : giveNothing(child);
+        });
+    }
+    HRESULT get_accSelection(VARIANT* child) override { return giveNothing(child); }
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            return give(canBePressed(window) ? QStringLiteral("Press") : QString(), action);
+        });
+    }
+    HRESULT accSelect(LONG flags, VARIANT child) override
+    {
+        return tellOfSelf(child, [&](Window&) {
+            if (flags != SELFLAG_TAKEFOCUS)
+                return E_INVALIDARG;
+            SetFocus(m_window);
+            return S_OK;
+        });
+    }
+    HRESULT accLocation(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT child) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            const QPoint origin = screenOrigin(window);
+            *left = origin.x();
+            *top = origin.y();
+            *width = window.rect.width();
+            *height = window.rect.height();
+            return S_OK;
+        });
+    }
+    HRESULT accNavigate(LONG, VARIANT, VARIANT*) override { return E_NOTIMPL; }
+    HRESULT accHitTest(LONG x, LONG y, VARIANT* child) override
+    {
+        return tell([&](Window& window) {
+            const QPoint place = QPoint(x, y) - screenOrigin(window);
+            const HWND hit = ChildWindowFromPoint(m_window, {place.x(), place.y()});
+            if (!hit)
+                return giveNothing(child);
+            return hit == m_window ? give(CHILDID_SELF, child) : giveObject(hit, child);
+        });
+    }
+    HRESULT accDoDefaultAction(VARIANT child) override
+    {
+        return tellOfSelf(child, [&](Window& window) {
+            if (!canBePressed(window))
+                return DISP_E_MEMBERNOTFOUND;
+            PostMessageA(m_window, BM_CLICK, 0, 0);
+            return S_OK;
+        });
+    }
+    HRESULT put_accName(VARIANT, BSTR) override { return E_NOTIMPL; }
+    HRESULT put_accValue(VARIANT, BSTR) override { return E_NOTIMPL; }
+
+private:
+    ~StandardAccessible() = default;
+
+    template <class Answer>
+    HRESULT tell(Answer answer) const
+    {
+        const WindowPtr window = findWindow(m_window);
+        return window ? answer(*window) : CO_E_OBJNOTCONNECTED;
+    }
+    template <class Answer>
+    HRESULT tellOfSelf(const VARIANT& child, Answer answer) const
+    {
+        return child.vt == VT_I4 && child.lVal == CHILDID_SELF ? tell(answer) : E_INVALIDARG;
+    }
+
+    static bool canBePressed(const Window& window)
+    {
+        const LONG role = kindOf(window).role;
+        return window.isEnabled() && (role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_CHECKBUTTON ||
+                                      role == ROLE_SYSTEM_RADIOBUTTON);
+    }
+
+    LONG stateOf(const Window& window) const
+    {
+        LONG state = 0;
+        if (!window.isVisible())
+            state |= STATE_SYSTEM_INVISIBLE;
+        if (!window.isEnabled())
+            state |= STATE_SYSTEM_UNAVAILABLE;
+        else if (window.is(WS_TABSTOP))
+            state |= STATE_SYSTEM_FOCUSABLE;
+        if (GetFocus() == m_window)
+            state |= STATE_SYSTEM_FOCUSED;
+        const LONG role = kindOf(window).role;
+        const bool checkable = role == ROLE_SYSTEM_CHECKBUTTON || role == ROLE_SYSTEM_RADIOBUTTON;
+        if (checkable && SendMessageA(m_window, BM_GETCHECK, 0, 0) == BST_CHECKED)
+            state |= STATE_SYSTEM_CHECKED;
+        return state;
+    }
+
+    const HWND m_window;
+    ULONG m_references = 1;
+};
+
+}
+
+// All callers are in this process: the answer is the object itself, with a reference of its own.
+LRESULT LresultFromObject(REFIID id, WPARAM, IUnknown* object)
+{
+    void* reference = nullptr;
+    const HRESULT hr = object->QueryInterface(id, &reference);
+    return SUCCEEDED(hr) ? reinterpret_cast<LRESULT>(reference) : hr;
+}
+
+HRESULT ObjectFromLresult(LRESULT result, REFIID id, WPARAM, void** object)
+{
+    auto* const reference = reinterpret_cast<IUnknown*>(result);
+    const HRESULT hr = reference->QueryInterface(id, object);
+    reference->Release();
+    return hr;
+}
+
+HRESULT AccessibleObjectFromWindow(HWND window, DWORD objectId, REFIID id, void** object)
+{
+    const LRESULT own = SendMessageA(window, WM_GETOBJECT, 0, static_cast<LONG>(objectId));
+    return own > 0 ? ObjectFromLresult(own, id, 0, object)
+                   : CreateStdAccessibleObject(window, static_cast<LONG>(objectId), id, object);
+}
+
+HRESULT CreateStdAccessibleObject(HWND window, LONG objectId, REFIID id, void** object)
+{
+    *object = nullptr;
+    if (objectId != OBJID_CLIENT || !IsWindow(window))
+        return E_FAIL;
+    IAccessible* const created = new StandardAccessible(window);
+    const HRESULT hr = created->QueryInterface(id, object);
+    created->Release();
+    return hr;
+}

@@ -1,0 +1,8 @@
+// The button.
+#pragma once
+
+namespace winapi {
+
+void registerButtonClass();
+
+}

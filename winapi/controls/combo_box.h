@@ -1,0 +1,8 @@
+// The combo box.
+#pragma once
+
+namespace winapi {
+
+void registerComboBoxClass();
+
+}

@@ -1,0 +1,50 @@
+#include "control.h"
+
+#include "geometry.h"
+
+namespace winapi {
+
+HFONT fontOr(HFONT font)
+{
+    return font ? font : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+ControlContext::ControlContext(HWND window, HFONT font)
+    : m_window(window), m_dc(GetDC(window)), m_oldFont(SelectObject(m_dc, fontOr(font)))
+{
+}
+
+ControlContext::~ControlContext()
+{
+    SelectObject(m_dc, m_oldFont);
+    ReleaseDC(m_window, m_dc);
+}
+
+ControlPaint::ControlPaint(HWND window, HFONT font) : m_window(window)
+{
+    BeginPaint(window, &m_paint);
+    m_oldFont = SelectObject(m_paint.hdc, fontOr(font));
+}
+
+ControlPaint::~ControlPaint()
+{
+    SelectObject(m_paint.hdc, m_oldFont);
+    EndPaint(m_window, &m_paint);
+}
+
+void fillByParent(const Window& control, HDC dc, UINT colorMessage)
+{
+    const RECT rect = toRect(control.clientRect());
+    auto brush = reinterpret_cast<HBRUSH>(SendMessageA(control.parent->handle, colorMessage,
+                                                       reinterpret_cast<WPARAM>(dc),
+                                                       reinterpret_cast<LPARAM>(control.handle)));
+    FillRect(dc, &rect, brush ? brush : GetSysColorBrush(COLOR_BTNFACE));
+}
+
+void notifyCommand(const Window& control, WORD code)
+{
+    SendMessageA(control.parent->handle, WM_COMMAND, MAKEWPARAM(control.id, code),
+                 reinterpret_cast<LPARAM>(control.handle));
+}
+
+}

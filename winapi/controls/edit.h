@@ -1,0 +1,8 @@
+// The text field.
+#pragma once
+
+namespace winapi {
+
+void registerEditClass();
+
+}

@@ -1,0 +1,8 @@
+// The list box.
+#pragma once
+
+namespace winapi {
+
+void registerListBoxClass();
+
+}

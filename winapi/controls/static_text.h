@@ -1,0 +1,8 @@
+// The label.
+#pragma once
+
+namespace winapi {
+
+void registerStaticClass();
+
+}

@@ -1,0 +1,8 @@
+// The tool-tip control.
+#pragma once
+
+namespace winapi {
+
+void registerToolTipClass();
+
+}

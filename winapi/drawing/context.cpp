@@ -1,0 +1,229 @@
+// Device contexts: how they are made, saved and ended, and how their coordinates lie on a surface.
+#include "context.h"
+
+#include "application.h"
+#include "bitmaps.h"
+#include "handle_table.h"
+
+#include <cmath>
+
+namespace winapi {
+
+namespace {
+
+HandleTable<HDC, Context>& contexts()
+{
+    static HandleTable<HDC, Context> table;
+    return table;
+}
+
+// What memory contexts draw on: the bitmap that they hold.
+class BitmapSurface : public Surface
+{
+public:
+    explicit BitmapSurface(std::shared_ptr<Bitmap> bitmap) : m_bitmap(std::move(bitmap)) {}
+
+    QPaintDevice& device() override { return m_bitmap->image; }
+
+private:
+    std::shared_ptr<Bitmap> m_bitmap;
+};
+
+// Stands for the screen as a whole, which can be asked but not drawn on.
+class ScreenSurface : public Surface
+{
+public:
+    ScreenSurface() : m_image(makeImage(1, 1, application().devicePixelRatio())) {}
+
+    QPaintDevice& device() override { return m_image; }
+
+private:
+    QImage m_image;
+};
+
+template <class Kind>
+Selected<Kind> stock(int index)
+{
+    return {GetStockObject(index), findObject<Kind>(GetStockObject(index))};
+}
+
+DrawingState initialState()
+{
+    DrawingState state;
+    state.pen = stock<Pen>(BLACK_PEN);
+    state.brush = stock<Brush>(WHITE_BRUSH);
+    state.font = stock<Font>(SYSTEM_FONT);
+    return state;
+}
+
+Selected<Bitmap> makeDefaultBitmap(qreal devicePixelRatio)
+{
+    return {defaultBitmap(), std::make_shared<Bitmap>(Bitmap{makeImage(1, 1, devicePixelRatio)})};
+}
+
+}
+
+HDC addContext(std::shared_ptr<Context> context)
+{
+    return contexts().add(std::move(context));
+}
+
+std::shared_ptr<Context> findContext(HDC dc)
+{
+    return contexts().find(dc);
+}
+
+HDC createContext(Surface& surface, QPoint origin, const QRegion& clip)
+{
+    return addContext(std::make_shared<Context>(surface, origin, clip));
+}
+
+void destroyContext(HDC dc)
+{
+    contexts().remove(dc);
+}
+
+HDC createScreenContext()
+{
+    return addContext(std::make_shared<Context>(std::make_unique<ScreenSurface>(), QRegion()));
+}
+
+Context::Context(Surface& surface, QPoint origin, QRegion visible)
+    : state(initialState()), m_surface(&surface), m_origin(origin), m_visible(std::move(visible))
+{
+}
+
+Context::Context(std::unique_ptr<Surface> surface, const QRegion& visible, QPoint gridOrigin)
+    : state(initialState()), m_owned(std::move(surface)), m_surface(m_owned.get()), m_gridOrigin(gridOrigin),
+      m_visible(visible)
+{
+}
+
+Context::~Context()
+{
+    if (isMemory())
+        state.bitmap.object->selected = false;
+}
+
+QImage* Context::image() const
+{
+    return dynamic_cast<QImage*>(&m_surface->device());
+}
+
+void Context::selectBitmap(const Selected<Bitmap>& bitmap)
+{
+    if (isMemory())
+        state.bitmap.object->selected = false;
+    state.bitmap = bitmap;
+    applyBitmap();
+}
+
+void Context::applyBitmap()
+{
+    state.bitmap.object->selected = true;
+    m_owned = std::make_unique<BitmapSurface>(state.bitmap.object);
+    m_surface = m_owned.get();
+    m_visible = QRect({}, state.bitmap->image.deviceIndependentSize().toSize());
+}
+
+void Context::restore(int level)
+{
+    const bool memory = isMemory();
+    if (memory)
+        state.bitmap.object->selected = false;
+    state = saved[static_cast<std::size_t>(level - 1)];
+    saved.resize(static_cast<std::size_t>(level - 1));
+    if (memory)
+        applyBitmap();
+}
+
+QSizeF Context::scale() const
+{
+    return {qreal(state.viewportExtent.width()) / state.windowExtent.width(),
+            qreal(state.viewportExtent.height()) / state.windowExtent.height()};
+}
+
+QTransform Context::toDevice() const
+{
+    return QTransform::fromTranslate(state.viewportOrigin.x(), state.viewportOrigin.y())
+        .scale(scale().width(), scale().height())
+        .translate(-state.windowOrigin.x(), -state.windowOrigin.y());
+}
+
+QPointF Context::gridShift() const
+{
+    // Far less than a pixel, it lets a half always go up, whatever small errors come in between.
+    constexpr qreal tieBreak = 1.0 / 1024;
+    const qreal ratio = m_surface->device().devicePixelRatio();
+    if (ratio == std::floor(ratio))
+        return {};
+    const QPointF start = (m_gridOrigin - toDevice().map(QPointF())) * ratio;
+    const auto pastPixel = [](qreal place) { return place - std::floor(place + 0.5); };
+    const QPointF shift = isMemory() ? QPointF(pastPixel(start.x()), pastPixel(start.y())) : QPointF();
+    return (shift + QPointF(tieBreak, tieBreak)) / ratio;
+}
+
+QRegion Context::drawable() const
+{
+    return state.clip ? visible() & *state.clip : visible();
+}
+
+}
+
+using namespace winapi;
+
+namespace {
+
+qreal devicePixelRatio(HDC dc)
+{
+    const auto context = findContext(dc);
+    return context ? context->surface().device().devicePixelRatio() : application().devicePixelRatio();
+}
+
+}
+
+HDC CreateCompatibleDC(HDC dc)
+{
+    const auto other = findContext(dc);
+    if (dc && !other)
+        return nullptr;
+    auto context = std::make_shared<Context>(nullptr, QRegion(), other ? other->gridOrigin() : QPoint());
+    context->selectBitmap(makeDefaultBitmap(devicePixelRatio(dc)));
+    return addContext(std::move(context));
+}
+
+BOOL DeleteDC(HDC dc)
+{
+    return contexts().remove(dc) != nullptr;
+}
+
+int SaveDC(HDC dc)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return 0;
+    context->saved.push_back(context->state);
+    return static_cast<int>(context->saved.size());
+}
+
+BOOL RestoreDC(HDC dc, int level)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return FALSE;
+    const int count = static_cast<int>(context->saved.size());
+    const int target = level < 0 ? count + level + 1 : level;
+    if (target < 1 || target > count)
+        return FALSE;
+    context->restore(target);
+    return TRUE;
+}
+
+DWORD GetObjectType(HGDIOBJ handle)
+{
+    if (const auto context = findContext(static_cast<HDC>(handle)))
+        return context->isMemory() ? OBJ_MEMDC : OBJ_DC;
+    const auto object = findObject(handle);
+    constexpr DWORD kinds[] = {OBJ_PEN, OBJ_BRUSH, OBJ_FONT, OBJ_BITMAP, OBJ_REGION};
+    return object ? kinds[object->index()] : 0;
+}

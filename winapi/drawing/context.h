@@ -1,0 +1,105 @@
+// Device contexts as the drawing calls see them.
+#pragma once
+
+#include "drawing_objects.h"
+#include "surface.h"
+#include "wingdi.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace winapi {
+
+// An object that a context holds: it lives on while selected, even when its handle is released.
+template <class Kind>
+struct Selected
+{
+    HGDIOBJ handle = nullptr;
+    std::shared_ptr<Kind> object;
+
+    const Kind* operator->() const { return object.get(); }
+};
+
+// What SaveDC keeps.
+struct DrawingState
+{
+    Selected<Pen> pen;
+    Selected<Brush> brush;
+    Selected<Font> font;
+    Selected<Bitmap> bitmap; // of memory contexts
+    COLORREF textColor = 0x000000;
+    COLORREF backgroundColor = 0xFFFFFF;
+    int backgroundMode = OPAQUE;
+    UINT textAlign = TA_LEFT | TA_TOP;
+    QPoint position; // logical
+    int mapMode = MM_TEXT;
+    QPoint windowOrigin;
+    QPoint viewportOrigin;
+    QSize windowExtent{1, 1};    // so many logical units are as long as
+    QSize viewportExtent{1, 1};  // so many pixels
+    std::optional<QRegion> clip; // device units; none: all that is visible
+};
+
+class Context
+{
+public:
+    // `origin` and `visible` are in pixels of the surface, which outlives the context.
+    Context(Surface& surface, QPoint origin, QRegion visible);
+    // A memory context, or one that owns what it draws on. `gridOrigin`: where its device 0, 0 lies on the
+    // surface that it is compatible with.
+    Context(std::unique_ptr<Surface> surface, const QRegion& visible, QPoint gridOrigin = {});
+    ~Context();
+    Context(const Context&) = delete;
+    Context& operator=(const Context&) = delete;
+
+    DrawingState state;
+    std::vector<DrawingState> saved;
+
+    Surface& surface() const { return *m_surface; }
+    bool isMemory() const { return state.bitmap.object != nullptr; }
+    // The image drawn on, or null on a printer.
+    QImage* image() const;
+
+    void selectBitmap(const Selected<Bitmap>& bitmap);
+    void restore(int level);
+
+    // From logical units to device units (the origin of the context is device 0, 0), and on to the surface.
+    QTransform toDevice() const;
+    QPoint origin() const { return m_origin; }
+    QPoint gridOrigin() const { return m_gridOrigin + m_origin; }
+    // Where a logical pixel is not a whole number of the screen's, drawing is moved by less than one, so that
+    // a memory context rounds to pixels as the surface does that it is compatible with.
+    QPointF gridShift() const;
+    // Device units a logical unit.
+    QSizeF scale() const;
+
+    // Where drawing shows, in device units.
+    QRegion drawable() const;
+    QRegion visible() const { return m_visible.translated(-m_origin); }
+
+private:
+    void applyBitmap();
+
+    std::unique_ptr<Surface> m_owned;
+    Surface* m_surface;
+    QPoint m_origin;
+    QPoint m_gridOrigin;
+    QRegion m_visible;
+};
+
+HDC addContext(std::shared_ptr<Context> context);
+std::shared_ptr<Context> findContext(HDC dc);
+
+// Makes a context whose origin lies at `origin` of the surface and that draws inside `clip` only (both in
+// logical pixels of the surface). Released by destroyContext. The surface outlives the context.
+HDC createContext(Surface& surface, QPoint origin, const QRegion& clip);
+void destroyContext(HDC dc);
+
+// Makes a context of the screen as a whole, which can be asked but not drawn on.
+HDC createScreenContext();
+
+}

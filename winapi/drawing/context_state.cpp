@@ -1,0 +1,222 @@
+// What a context holds: selected objects, colours and modes, and the mapping of coordinates.
+#include "context.h"
+#include "overload.h"
+
+#include <algorithm>
+
+using namespace winapi;
+
+namespace {
+
+// Puts `object` in the place of `current` and gives the handle that stood there.
+template <class Kind>
+HGDIOBJ select(Selected<Kind>& current, const Selected<Kind>& object)
+{
+    return std::exchange(current, object).handle;
+}
+
+HGDIOBJ selectBitmap(Context& context, const Selected<Bitmap>& bitmap)
+{
+    if (!context.isMemory() || (bitmap->selected && bitmap.object != context.state.bitmap.object))
+        return nullptr;
+    const HGDIOBJ old = context.state.bitmap.handle;
+    context.selectBitmap(bitmap);
+    return old;
+}
+
+// Stores `value` and gives what held before; `failure` where there is no such context.
+template <class Value, class Argument>
+Value exchangeState(HDC dc, Value DrawingState::*member, Argument value, Value failure)
+{
+    const auto context = findContext(dc);
+    return context ? std::exchange(context->state.*member, static_cast<Value>(value)) : failure;
+}
+
+template <class Value>
+Value readState(HDC dc, Value DrawingState::*member, Value failure)
+{
+    const auto context = findContext(dc);
+    return context ? context->state.*member : failure;
+}
+
+BOOL moveOrigin(HDC dc, QPoint DrawingState::*member, QPoint origin, POINT* old)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return FALSE;
+    const QPoint before = std::exchange(context->state.*member, origin);
+    if (old)
+        *old = {before.x(), before.y()};
+    return TRUE;
+}
+
+BOOL readOrigin(HDC dc, QPoint DrawingState::*member, POINT* origin)
+{
+    const auto context = findContext(dc);
+    if (!context || !origin)
+        return FALSE;
+    *origin = {(context->state.*member).x(), (context->state.*member).y()};
+    return TRUE;
+}
+
+void mapPoints(POINT* points, int count, const QTransform& transform)
+{
+    std::for_each_n(points, std::max(count, 0), [&transform](POINT& point) {
+        const QPoint mapped = transform.map(QPointF(point.x, point.y)).toPoint();
+        point = {mapped.x(), mapped.y()};
+    });
+}
+
+BOOL setExtent(HDC dc, QSize DrawingState::*member, QSize extent, SIZE* old)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return FALSE;
+    const QSize before = context->state.*member;
+    if (old)
+        *old = {before.width(), before.height()};
+    // With pixels as units the extents are fixed, which is no failure.
+    if (context->state.mapMode != MM_ANISOTROPIC)
+        return TRUE;
+    if (extent.width() == 0 || extent.height() == 0)
+        return FALSE;
+    context->state.*member = extent;
+    return TRUE;
+}
+
+}
+
+int SetMapMode(HDC dc, int mode)
+{
+    const auto context = findContext(dc);
+    if (!context || (mode != MM_TEXT && mode != MM_ANISOTROPIC))
+        return 0;
+    if (mode == MM_TEXT)
+        context->state.windowExtent = context->state.viewportExtent = {1, 1};
+    return std::exchange(context->state.mapMode, mode);
+}
+
+BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old)
+{
+    return setExtent(dc, &DrawingState::windowExtent, {width, height}, old);
+}
+
+BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old)
+{
+    return setExtent(dc, &DrawingState::viewportExtent, {width, height}, old);
+}
+
+BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old)
+{
+    return moveOrigin(dc, &DrawingState::viewportOrigin, {x, y}, old);
+}
+
+BOOL GetViewportOrgEx(HDC dc, POINT* origin)
+{
+    return readOrigin(dc, &DrawingState::viewportOrigin, origin);
+}
+
+BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old)
+{
+    return moveOrigin(dc, &DrawingState::windowOrigin, {x, y}, old);
+}
+
+BOOL GetWindowOrgEx(HDC dc, POINT* origin)
+{
+    return readOrigin(dc, &DrawingState::windowOrigin, origin);
+}
+
+BOOL DPtoLP(HDC dc, POINT* points, int count)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return FALSE;
+    mapPoints(points, count, context->toDevice().inverted());
+    return TRUE;
+}
+
+COLORREF SetBkColor(HDC dc, COLORREF color)
+{
+    return exchangeState(dc, &DrawingState::backgroundColor, color, CLR_INVALID);
+}
+
+COLORREF GetBkColor(HDC dc)
+{
+    return readState(dc, &DrawingState::backgroundColor, CLR_INVALID);
+}
+
+int SetBkMode(HDC dc, int mode)
+{
+    if (mode != TRANSPARENT && mode != OPAQUE)
+        return 0;
+    return exchangeState(dc, &DrawingState::backgroundMode, mode, 0);
+}
+
+int GetBkMode(HDC dc)
+{
+    return readState(dc, &DrawingState::backgroundMode, 0);
+}
+
+COLORREF SetTextColor(HDC dc, COLORREF color)
+{
+    return exchangeState(dc, &DrawingState::textColor, color, CLR_INVALID);
+}
+
+COLORREF GetTextColor(HDC dc)
+{
+    return readState(dc, &DrawingState::textColor, CLR_INVALID);
+}
+
+UINT SetTextAlign(HDC dc, UINT align)
+{
+    return exchangeState(dc, &DrawingState::textAlign, align, GDI_ERROR);
+}
+
+UINT GetTextAlign(HDC dc)
+{
+    return readState(dc, &DrawingState::textAlign, GDI_ERROR);
+}
+
+HGDIOBJ SelectObject(HDC dc, HGDIOBJ handle)
+{
+    const auto context = findContext(dc);
+    const auto object = findObject(handle);
+    if (!context || !object)
+        return nullptr;
+    const auto selected = [&](auto& kind) {
+        using Kind = std::remove_reference_t<decltype(kind)>;
+        return Selected<Kind>{handle, std::shared_ptr<Kind>(object, &kind)};
+    };
+    return std::visit(
+        Overload{
+            [&](Pen& pen) { return select(context->state.pen, selected(pen)); },
+            [&](Brush& brush) { return select(context->state.brush, selected(brush)); },
+            [&](Font& font) { return select(context->state.font, selected(font)); },
+            [&](Bitmap& bitmap) { return selectBitmap(*context, selected(bitmap)); },
+            // A region is no object to be put back later: the result tells what kind of region it is.
+            [&](Region&) {
+                return reinterpret_cast<HGDIOBJ>(
+                    static_cast<LONG_PTR>(SelectClipRgn(dc, static_cast<HRGN>(handle))));
+            },
+        },
+        *object);
+}
+
+HGDIOBJ GetCurrentObject(HDC dc, UINT kind)
+{
+    const auto context = findContext(dc);
+    if (!context)
+        return nullptr;
+    switch (kind) {
+    case OBJ_PEN:
+        return context->state.pen.handle;
+    case OBJ_BRUSH:
+        return context->state.brush.handle;
+    case OBJ_FONT:
+        return context->state.font.handle;
+    case OBJ_BITMAP:
+        return context->state.bitmap.handle;
+    default:
+        return nullptr;
+    }
+}

@@ -1,0 +1,11 @@
+// Shapes that other rooms draw too.
+#pragma once
+
+#include "windef.h"
+
+namespace winapi {
+
+// Fills `rect` (context coordinates) with `brush`, as FillRect does; system colours count as brushes (index + 1).
+void eraseRect(HDC dc, const RECT& rect, HBRUSH brush);
+
+}

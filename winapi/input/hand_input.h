@@ -1,0 +1,34 @@
+// What hands do with mouse and keyboard.
+#pragma once
+
+#include "winuser.h"
+
+#include <QPoint>
+#include <QString>
+
+#include <variant>
+
+namespace winapi {
+
+// What a hand did, before it is known which window it concerns.
+struct MouseInput
+{
+    UINT message;
+    QPoint screen;
+    int wheelDelta = 0;
+    bool doubleClick = false;
+    Qt::KeyboardModifiers modifiers = {};
+};
+struct KeyInput
+{
+    int key; // virtual
+    bool up;
+    bool alt;
+    WORD scanCode;
+    bool extended;
+    QString text;
+    Qt::KeyboardModifiers modifiers = {};
+};
+using Input = std::variant<MouseInput, KeyInput>;
+
+}

@@ -1,0 +1,367 @@
+#include "message_queue.h"
+
+#include "application.h"
+#include "keyboard.h"
+#include "mouse.h"
+#include "rooms_above.h"
+#include "timer.h"
+#include "update_region.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCursor>
+
+#include <algorithm>
+#include <deque>
+
+namespace winapi {
+
+namespace {
+
+struct QueuedMessage
+{
+    MSG message;
+    QString characters; // of a key that was really pressed
+};
+
+struct Filter
+{
+    HWND window = nullptr;
+    UINT first = 0;
+    UINT last = 0;
+    bool remove = true;
+
+    bool passes(const MSG& message) const
+    {
+        return passesWindow(message.hwnd) &&
+               (!(first || last) || (message.message >= first && message.message <= last));
+    }
+
+private:
+    bool passesWindow(HWND target) const { return !window || target == window || IsChild(window, target); }
+};
+
+struct Queue
+{
+    std::deque<QueuedMessage> posted;
+    std::deque<Input> input;
+    std::optional<int> quit;
+    QueuedMessage current{}; // taken last
+    bool waiting = false;    // inside Qt, on behalf of a loop of the program
+    bool wakePosted = false;
+};
+
+Queue& queue()
+{
+    static Queue messages;
+    return messages;
+}
+
+// Serves the queue while a Qt loop runs: the application's own, a menu's or a dialog's.
+class Pump : public QObject
+{
+public:
+    static void post()
+    {
+        static Pump& pump = *new Pump; // outlives every loop
+        QCoreApplication::postEvent(&pump, new QEvent(QEvent::User));
+    }
+
+protected:
+    bool event(QEvent* event) override;
+};
+
+std::optional<MSG> toMessage(const Input& input, QString& characters)
+{
+    if (const auto* const key = std::get_if<KeyInput>(&input)) {
+        characters = key->text;
+        return toMessage(*key);
+    }
+    return toMessage(std::get<MouseInput>(input));
+}
+
+std::optional<MSG> takePosted(const Filter& filter)
+{
+    auto& posted = queue().posted;
+    const auto found = std::find_if(posted.begin(), posted.end(), [&](const QueuedMessage& queued) {
+        return filter.passes(queued.message);
+    });
+    if (found == posted.end())
+        return std::nullopt;
+    QueuedMessage taken = *found;
+    if (filter.remove) {
+        posted.erase(found);
+        queue().current = taken;
+    }
+    return taken.message;
+}
+
+// Input becomes a posted message when its turn comes: only then is it known whom it concerns.
+bool convertInput()
+{
+    Queue& q = queue();
+    while (!q.input.empty()) {
+        const Input input = q.input.front();
+        q.input.pop_front();
+        QString characters;
+        if (const auto message = toMessage(input, characters)) {
+            q.posted.push_back({*message, characters});
+            return true;
+        }
+    }
+    return false;
+}
+
+bool asksForInput(const Filter& filter)
+{
+    const auto overlaps = [&](UINT first, UINT last) { return filter.first <= last && filter.last >= first; };
+    return !(filter.first || filter.last) || overlaps(WM_KEYFIRST, WM_KEYLAST) ||
+           overlaps(WM_MOUSEFIRST, WM_MOUSELAST);
+}
+
+std::optional<MSG> takePaint(const Filter& filter)
+{
+    const WindowPtr window = nextToPaint();
+    if (!window)
+        return std::nullopt;
+    const MSG message = makeMessage(window->handle, WM_PAINT, 0, 0);
+    return filter.passes(message) ? std::optional(message) : std::nullopt;
+}
+
+std::optional<MSG> takeTimer(const Filter& filter)
+{
+    if ((filter.first || filter.last) && (filter.first > WM_TIMER || filter.last < WM_TIMER))
+        return std::nullopt;
+    return takeDueTimer(filter.window);
+}
+
+std::optional<MSG> takeQuit()
+{
+    if (!queue().quit)
+        return std::nullopt;
+    return makeMessage(nullptr, WM_QUIT, static_cast<WPARAM>(*queue().quit), 0);
+}
+
+std::optional<MSG> takeWaiting(const Filter& filter)
+{
+    if (auto message = takePosted(filter))
+        return message;
+    if (auto message = takeQuit()) {
+        if (filter.remove)
+            queue().quit.reset();
+        return message;
+    }
+    while (asksForInput(filter) && convertInput()) {
+        if (auto message = takePosted(filter))
+            return message;
+    }
+    return std::nullopt;
+}
+
+void runQt(QEventLoop::ProcessEventsFlags flags)
+{
+    application();
+    const bool before = std::exchange(queue().waiting, true);
+    QCoreApplication::processEvents(flags);
+    // Not done by processEvents itself outside of a Qt loop.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    queue().waiting = before;
+}
+
+// In Windows' order: what was posted, what the hand did, what is to be painted, what time it is.
+std::optional<MSG> takeNext(const Filter& filter)
+{
+    if (auto message = takeWaiting(filter))
+        return message;
+    runQt(QEventLoop::AllEvents);
+    if (auto message = takeWaiting(filter))
+        return message;
+    if (auto message = takePaint(filter))
+        return message;
+    return takeTimer(filter);
+}
+
+std::optional<MSG> takeNextInsideQt()
+{
+    const Filter all;
+    if (queue().posted.empty() && queue().quit)
+        return std::nullopt;
+    if (auto message = takeWaiting(all))
+        return message;
+    if (auto message = takePaint(all))
+        return message;
+    return takeTimer(all);
+}
+
+// A few at a time, so that the loop around comes to its own.
+void serveQueue()
+{
+    constexpr int batch = 64;
+    for (int served = 0; served < batch; ++served) {
+        auto message = takeNextInsideQt();
+        if (!message) {
+            // The loop of a program that waits below ours is to see it as well, so it stays.
+            if (queue().quit)
+                QCoreApplication::exit(*queue().quit);
+            return;
+        }
+        if (CallMsgFilterA(&*message, MSGF_USER))
+            continue;
+        TranslateMessage(&*message);
+        DispatchMessageA(&*message);
+    }
+    wakeQueue();
+}
+
+bool Pump::event(QEvent* event)
+{
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    queue().wakePosted = false;
+    if (!queue().waiting)
+        serveQueue();
+    return true;
+}
+
+}
+
+void wakeQueue()
+{
+    if (queue().wakePosted || !QCoreApplication::instance())
+        return;
+    queue().wakePosted = true;
+    Pump::post();
+}
+
+void postInput(Input input)
+{
+    auto& waiting = queue().input;
+    const auto isMove = [](const Input& one) {
+        const auto* const mouse = std::get_if<MouseInput>(&one);
+        return mouse && mouse->message == WM_MOUSEMOVE;
+    };
+    if (!waiting.empty() && isMove(waiting.back()) && isMove(input))
+        waiting.pop_back();
+    waiting.push_back(std::move(input));
+    wakeQueue();
+}
+
+MSG makeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const QPoint place = QCoreApplication::instance() ? QCursor::pos() : QPoint();
+    return {window, message, wParam, lParam, GetTickCount(), {place.x(), place.y()}};
+}
+
+void discardMessagesOf(const Window& window)
+{
+    std::erase_if(queue().posted,
+                  [&](const QueuedMessage& queued) { return queued.message.hwnd == window.handle; });
+}
+
+}
+
+using namespace winapi;
+
+BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (window && !findWindow(window))
+        return FALSE;
+    queue().posted.push_back({makeMessage(window, message, wParam, lParam), {}});
+    wakeQueue();
+    return TRUE;
+}
+
+BOOL PostThreadMessageA(DWORD, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return PostMessageA(nullptr, message, wParam, lParam);
+}
+
+void PostQuitMessage(int exitCode)
+{
+    queue().quit = exitCode;
+    wakeQueue();
+}
+
+BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
+{
+    const auto next = takeNext({window, first, last, (remove & PM_REMOVE) != 0});
+    if (!next || !message)
+        return FALSE;
+    *message = *next;
+    return TRUE;
+}
+
+BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last)
+{
+    if (!message || (window && !findWindow(window)))
+        return -1;
+    while (!PeekMessageA(message, window, first, last, PM_REMOVE))
+        runQt(QEventLoop::WaitForMoreEvents);
+    return message->message != WM_QUIT;
+}
+
+BOOL WaitMessage()
+{
+    MSG message;
+    while (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE))
+        runQt(QEventLoop::WaitForMoreEvents);
+    return TRUE;
+}
+
+BOOL TranslateMessage(const MSG* message)
+{
+    if (!message || message->message < WM_KEYFIRST || message->message > WM_KEYLAST)
+        return FALSE;
+    const bool system = message->message == WM_SYSKEYDOWN;
+    if (!system && message->message != WM_KEYDOWN)
+        return TRUE;
+    const QueuedMessage& current = queue().current;
+    const bool pressed = current.message.hwnd == message->hwnd && current.message.time == message->time &&
+                         current.message.wParam == message->wParam && !current.characters.isEmpty();
+    const int key = static_cast<int>(message->wParam);
+    // Qt counts Delete among the characters.
+    const QString characters = pressed && key != VK_DELETE ? current.characters : charactersOf(key);
+    for (const char c : characters.toUtf8())
+        PostMessageA(message->hwnd, system ? WM_SYSCHAR : WM_CHAR, static_cast<BYTE>(c), message->lParam);
+    return TRUE;
+}
+
+LRESULT DispatchMessageA(const MSG* message)
+{
+    if (!message)
+        return 0;
+    if (message->message == WM_TIMER && message->lParam) {
+        reinterpret_cast<TIMERPROC>(message->lParam)(message->hwnd, WM_TIMER, message->wParam,
+                                                     GetTickCount());
+        return 0;
+    }
+    showToToolTips(*message);
+    return message->hwnd ? SendMessageA(message->hwnd, message->message, message->wParam, message->lParam)
+                         : 0;
+}
+
+LRESULT SendMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowPtr window = findWindow(handle);
+    return window ? callProcedure(*window, message, wParam, lParam) : 0;
+}
+
+LRESULT SendDlgItemMessageA(HWND parent, int id, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return SendMessageA(GetDlgItem(parent, id), message, wParam, lParam);
+}
+
+LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return proc ? proc(window, message, wParam, lParam) : 0;
+}
+
+DWORD GetMessagePos()
+{
+    const POINT place = queue().current.message.pt;
+    return static_cast<DWORD>(MAKELONG(place.x, place.y));
+}
+
+LONG GetMessageTime()
+{
+    return static_cast<LONG>(queue().current.message.time);
+}

@@ -1,0 +1,223 @@
+// Menus: their items and states.
+#include "menu.h"
+
+#include "errors.h"
+#include "handle_table.h"
+#include "winerror.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+namespace winapi {
+
+namespace {
+
+constexpr UINT stateFlags = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_HILITE;
+constexpr UINT typeFlags = MF_SEPARATOR | MF_OWNERDRAW | MF_MENUBREAK | MF_MENUBARBREAK;
+constexpr UINT notFound = static_cast<UINT>(-1);
+
+HandleTable<HMENU, Menu>& menus()
+{
+    static HandleTable<HMENU, Menu> table;
+    return table;
+}
+
+// An item where it stands: its menu may be a submenu of the one that was asked.
+struct Place
+{
+    std::shared_ptr<Menu> menu;
+    std::size_t position;
+
+    MenuItem& item() const { return menu->items[position]; }
+};
+
+std::optional<Place> findById(const std::shared_ptr<Menu>& menu, UINT id)
+{
+    if (!menu)
+        return std::nullopt;
+    for (std::size_t i = 0; i < menu->items.size(); ++i) {
+        const MenuItem& item = menu->items[i];
+        if (item.subMenu) {
+            if (const auto inside = findById(menus().find(item.subMenu), id))
+                return inside;
+        } else if (item.id == id)
+            return Place{menu, i};
+    }
+    return std::nullopt;
+}
+
+std::optional<Place> findItem(HMENU handle, UINT item, UINT flags)
+{
+    const auto menu = findMenu(handle);
+    if (!menu)
+        return std::nullopt;
+    std::optional<Place> place;
+    if (!(flags & MF_BYPOSITION))
+        place = findById(menu, item);
+    else if (item < menu->items.size())
+        place = Place{menu, item};
+    if (!place)
+        SetLastError(ERROR_MENU_ITEM_NOT_FOUND);
+    return place;
+}
+
+MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
+{
+    MenuItem item;
+    item.type = flags & typeFlags;
+    item.state = flags & stateFlags;
+    if (flags & MF_POPUP)
+        item.subMenu = reinterpret_cast<HMENU>(id);
+    else
+        item.id = static_cast<UINT>(id);
+    if (item.isSeparator())
+        item.state |= MF_GRAYED | MF_DISABLED;
+    else if (text)
+        item.text = text;
+    return item;
+}
+
+// Gives the item's old state within `mask`.
+UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
+{
+    const auto place = findItem(handle, item, flags);
+    if (!place)
+        return notFound;
+    UINT& state = place->item().state;
+    const UINT before = state & mask;
+    state = (state & ~mask) | (flags & mask);
+    return before;
+}
+
+}
+
+std::shared_ptr<Menu> findMenu(HMENU handle)
+{
+    auto menu = menus().find(handle);
+    if (!menu)
+        SetLastError(ERROR_INVALID_MENU_HANDLE);
+    return menu;
+}
+
+HMENU addMenu(Menu menu)
+{
+    return menus().add(std::make_shared<Menu>(std::move(menu)));
+}
+
+}
+
+using namespace winapi;
+
+HMENU CreateMenu()
+{
+    return addMenu({});
+}
+
+HMENU CreatePopupMenu()
+{
+    return addMenu({});
+}
+
+BOOL DestroyMenu(HMENU handle)
+{
+    const auto menu = menus().remove(handle);
+    if (!menu)
+        return fail(ERROR_INVALID_MENU_HANDLE);
+    for (const MenuItem& item : menu->items)
+        if (item.subMenu)
+            DestroyMenu(item.subMenu);
+    return TRUE;
+}
+
+BOOL IsMenu(HMENU menu)
+{
+    return findMenu(menu) != nullptr;
+}
+
+BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    const auto menu = findMenu(handle);
+    MenuItem item = makeItem(flags, id, text);
+    if (!menu || (item.subMenu && !IsMenu(item.subMenu)))
+        return FALSE;
+    menu->items.push_back(std::move(item));
+    return TRUE;
+}
+
+BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
+{
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return FALSE;
+    MenuItem modified = makeItem(flags, id, text);
+    if (place->item().subMenu && place->item().subMenu != modified.subMenu)
+        DestroyMenu(place->item().subMenu);
+    place->item() = std::move(modified);
+    return TRUE;
+}
+
+BOOL RemoveMenu(HMENU menu, UINT item, UINT flags)
+{
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return FALSE;
+    auto& items = place->menu->items;
+    items.erase(items.begin() + static_cast<std::ptrdiff_t>(place->position));
+    return TRUE;
+}
+
+int GetMenuItemCount(HMENU handle)
+{
+    const auto menu = findMenu(handle);
+    return menu ? static_cast<int>(menu->items.size()) : -1;
+}
+
+UINT GetMenuItemID(HMENU menu, int position)
+{
+    const auto place = findItem(menu, static_cast<UINT>(position), MF_BYPOSITION);
+    return !place || place->item().subMenu ? notFound : place->item().id;
+}
+
+UINT GetMenuState(HMENU menu, UINT item, UINT flags)
+{
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return notFound;
+    const MenuItem& found = place->item();
+    if (!found.subMenu)
+        return found.flags();
+    return static_cast<UINT>(GetMenuItemCount(found.subMenu)) << 8 | (found.flags() & 0xFF);
+}
+
+HMENU GetSubMenu(HMENU menu, int position)
+{
+    const auto place = findItem(menu, static_cast<UINT>(position), MF_BYPOSITION);
+    return place ? place->item().subMenu : nullptr;
+}
+
+int GetMenuStringA(HMENU menu, UINT item, LPSTR text, int size, UINT flags)
+{
+    const auto place = findItem(menu, item, flags);
+    if (text && size > 0)
+        text[0] = '\0';
+    if (!place)
+        return 0;
+    const std::string& full = place->item().text;
+    if (!text || size <= 0)
+        return static_cast<int>(full.size());
+    const auto copied = std::min(full.size(), static_cast<std::size_t>(size - 1));
+    std::memcpy(text, full.data(), copied);
+    text[copied] = '\0';
+    return static_cast<int>(copied);
+}
+
+BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags)
+{
+    return static_cast<BOOL>(changeState(menu, item, flags, MF_GRAYED | MF_DISABLED));
+}
+
+DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags)
+{
+    return changeState(menu, item, flags, MF_CHECKED);
+}

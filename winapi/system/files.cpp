@@ -1,0 +1,304 @@
+// Files on the calls of POSIX.
+#include "descriptor.h"
+#include "errors.h"
+#include "kernel_object.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+using namespace winapi;
+
+namespace {
+
+constexpr mode_t kAllWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+
+class FileObject final : public KernelObject
+{
+public:
+    explicit FileObject(Descriptor file) : m_file(std::move(file)) {}
+
+    int descriptor() const { return m_file.get(); }
+
+    DWORD close() override { return ::close(m_file.release()) == 0 ? ERROR_SUCCESS : errorFromErrno(errno); }
+
+private:
+    Descriptor m_file;
+};
+
+std::string parentOf(const std::string& path)
+{
+    const std::size_t slash = path.find_last_of('/');
+    if (slash == std::string::npos)
+        return ".";
+    return path.substr(0, std::max<std::size_t>(slash, 1));
+}
+
+bool isDirectory(const struct stat& status)
+{
+    return S_ISDIR(status.st_mode);
+}
+
+bool isDirectory(const char* path)
+{
+    struct stat status;
+    return ::stat(path, &status) == 0 && isDirectory(status);
+}
+
+// The superuser may write to any file; the mark decides all the same, as it does on Windows.
+bool isReadOnly(const char* path)
+{
+    struct stat status;
+    return ::stat(path, &status) == 0 && !isDirectory(status) && !(status.st_mode & kAllWrite);
+}
+
+// Whether a file stands there that must not be written over.
+bool isProtected(const char* path)
+{
+    return isDirectory(path) || isReadOnly(path);
+}
+
+// Windows tells a missing file from a missing directory.
+BOOL failOnPath(const char* path)
+{
+    if (errno == ENOENT && !isDirectory(parentOf(path).c_str()))
+        return fail(ERROR_PATH_NOT_FOUND);
+    return failWithErrno();
+}
+
+// The handle is a good one, so a bad descriptor was opened for the other direction.
+BOOL failOnTransfer()
+{
+    return errno == EBADF ? fail(ERROR_ACCESS_DENIED) : failWithErrno();
+}
+
+int openFlags(DWORD access, DWORD disposition)
+{
+    constexpr int kDisposition[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0, O_CREAT, O_TRUNC};
+    const bool write = access & GENERIC_WRITE;
+    const bool read = access & GENERIC_READ;
+    const int mode = !write ? O_RDONLY : read ? O_RDWR : O_WRONLY;
+    return mode | kDisposition[disposition] | O_CLOEXEC;
+}
+
+Descriptor openDescriptor(LPCSTR path, int flags)
+{
+    int file;
+    do {
+        file = ::open(path, flags, 0666);
+    } while (file < 0 && errno == EINTR);
+    return Descriptor(file);
+}
+
+bool syncDirectory(const std::string& path)
+{
+    const Descriptor directory = openDescriptor(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    // Some file systems keep no directory that could be synchronised.
+    return directory.isOpen() && (::fsync(directory.get()) == 0 || errno == EINVAL);
+}
+
+bool copyPermissions(HANDLE from, int to)
+{
+    struct stat status;
+    const auto* file = objectFromHandle<FileObject>(from);
+    return file && ::fstat(file->descriptor(), &status) == 0 && ::fchmod(to, status.st_mode & 0777) == 0;
+}
+
+}
+
+HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWORD disposition, DWORD,
+                   HANDLE templateFile)
+{
+    if (!path || !*path)
+        return fail(ERROR_PATH_NOT_FOUND), INVALID_HANDLE_VALUE;
+    if (disposition < CREATE_NEW || disposition > TRUNCATE_EXISTING)
+        return fail(ERROR_INVALID_PARAMETER), INVALID_HANDLE_VALUE;
+    if (disposition != CREATE_NEW && (isDirectory(path) || (access & GENERIC_WRITE && isReadOnly(path))))
+        return fail(ERROR_ACCESS_DENIED), INVALID_HANDLE_VALUE;
+
+    Descriptor file = openDescriptor(path, openFlags(access, disposition));
+    if (!file.isOpen()) {
+        failOnPath(path);
+        if (disposition == CREATE_NEW && errno == EEXIST)
+            SetLastError(ERROR_FILE_EXISTS);
+        return INVALID_HANDLE_VALUE;
+    }
+    if (templateFile && disposition == CREATE_NEW && !copyPermissions(templateFile, file.get())) {
+        failWithErrno();
+        ::unlink(path);
+        return INVALID_HANDLE_VALUE;
+    }
+    return static_cast<KernelObject*>(new FileObject(std::move(file)));
+}
+
+BOOL ReadFile(HANDLE file, LPVOID buffer, DWORD count, LPDWORD read, LPOVERLAPPED)
+{
+    *read = 0;
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return FALSE;
+    while (*read < count) {
+        const ssize_t part = ::read(object->descriptor(), static_cast<char*>(buffer) + *read, count - *read);
+        if (part == 0)
+            break;
+        if (part > 0)
+            *read += static_cast<DWORD>(part);
+        else if (errno != EINTR)
+            return failOnTransfer();
+    }
+    return TRUE;
+}
+
+BOOL WriteFile(HANDLE file, LPCVOID buffer, DWORD count, LPDWORD written, LPOVERLAPPED)
+{
+    *written = 0;
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return FALSE;
+    while (*written < count) {
+        const ssize_t part =
+            ::write(object->descriptor(), static_cast<const char*>(buffer) + *written, count - *written);
+        if (part >= 0)
+            *written += static_cast<DWORD>(part);
+        else if (errno != EINTR)
+            return failOnTransfer();
+    }
+    return TRUE;
+}
+
+BOOL SetFilePointerEx(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER position, DWORD from)
+{
+    constexpr int kFrom[] = {SEEK_SET, SEEK_CUR, SEEK_END};
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return FALSE;
+    if (from > FILE_END)
+        return fail(ERROR_INVALID_PARAMETER);
+    const off_t result = ::lseek(object->descriptor(), distance.QuadPart, kFrom[from]);
+    if (result < 0)
+        return errno == EINVAL ? fail(ERROR_NEGATIVE_SEEK) : failWithErrno();
+    if (position)
+        position->QuadPart = result;
+    return TRUE;
+}
+
+BOOL GetFileSizeEx(HANDLE file, PLARGE_INTEGER size)
+{
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return FALSE;
+    struct stat status;
+    if (::fstat(object->descriptor(), &status) != 0)
+        return failWithErrno();
+    size->QuadPart = status.st_size;
+    return TRUE;
+}
+
+BOOL FlushFileBuffers(HANDLE file)
+{
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return FALSE;
+    return ::fsync(object->descriptor()) == 0 ? TRUE : failWithErrno();
+}
+
+DWORD GetFinalPathNameByHandleA(HANDLE file, LPSTR path, DWORD size, DWORD)
+{
+    const auto* object = objectFromHandle<FileObject>(file);
+    if (!object)
+        return 0;
+    char target[4096];
+    const std::string link = "/proc/self/fd/" + std::to_string(object->descriptor());
+    const ssize_t length = ::readlink(link.c_str(), target, sizeof(target));
+    if (length < 0)
+        return failWithErrno(), 0;
+    if (static_cast<DWORD>(length) >= size)
+        return static_cast<DWORD>(length) + 1;
+    std::memcpy(path, target, static_cast<std::size_t>(length));
+    path[length] = '\0';
+    return static_cast<DWORD>(length);
+}
+
+BOOL DeleteFileA(LPCSTR path)
+{
+    if (GetFileAttributesA(path) == FILE_ATTRIBUTE_READONLY)
+        return fail(ERROR_ACCESS_DENIED);
+    return ::unlink(path) == 0 ? TRUE : failOnPath(path);
+}
+
+BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags)
+{
+    const bool replace = flags & MOVEFILE_REPLACE_EXISTING;
+    if (replace && isProtected(to))
+        return fail(ERROR_ACCESS_DENIED);
+    if (::renameat2(AT_FDCWD, from, AT_FDCWD, to, replace ? 0 : RENAME_NOREPLACE) != 0) {
+        struct stat status;
+        return failOnPath(::lstat(from, &status) == 0 ? to : from);
+    }
+    if (!(flags & MOVEFILE_WRITE_THROUGH))
+        return TRUE;
+    return syncDirectory(parentOf(to)) ? TRUE : failWithErrno();
+}
+
+// A link has attributes of its own, except that it counts as a directory if it leads to one.
+DWORD GetFileAttributesA(LPCSTR path)
+{
+    struct stat status;
+    if (::lstat(path, &status) != 0) {
+        failOnPath(path);
+        return INVALID_FILE_ATTRIBUTES;
+    }
+    if (S_ISLNK(status.st_mode))
+        return FILE_ATTRIBUTE_REPARSE_POINT | (isDirectory(path) ? FILE_ATTRIBUTE_DIRECTORY : 0);
+    if (isDirectory(status))
+        return FILE_ATTRIBUTE_DIRECTORY;
+    if (!S_ISREG(status.st_mode))
+        return FILE_ATTRIBUTE_DEVICE;
+    return status.st_mode & kAllWrite ? FILE_ATTRIBUTE_NORMAL : FILE_ATTRIBUTE_READONLY;
+}
+
+BOOL SetFileAttributesA(LPCSTR path, DWORD attributes)
+{
+    struct stat status;
+    if (::stat(path, &status) != 0)
+        return failOnPath(path);
+    if (isDirectory(status))
+        return TRUE;
+    const mode_t mode =
+        attributes & FILE_ATTRIBUTE_READONLY ? status.st_mode & ~kAllWrite : status.st_mode | S_IWUSR;
+    return ::chmod(path, mode & 07777) == 0 ? TRUE : failWithErrno();
+}
+
+BOOL CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES)
+{
+    if (!path || !*path)
+        return fail(ERROR_PATH_NOT_FOUND);
+    if (::mkdir(path, 0777) == 0)
+        return TRUE;
+    return errno == ENOENT ? fail(ERROR_PATH_NOT_FOUND) : failWithErrno();
+}
+
+BOOL RemoveDirectoryA(LPCSTR path)
+{
+    if (::rmdir(path) == 0)
+        return TRUE;
+    return errno == ENOTDIR ? fail(ERROR_DIRECTORY) : failOnPath(path);
+}
+
+DWORD GetTempPathA(DWORD size, LPSTR buffer)
+{
+    const char* directory = std::getenv("TMPDIR");
+    std::string path = directory && *directory ? directory : "/tmp";
+    if (path.back() != '/')
+        path += '/';
+    if (path.size() >= size)
+        return static_cast<DWORD>(path.size()) + 1;
+    std::memcpy(buffer, path.c_str(), path.size() + 1);
+    return static_cast<DWORD>(path.size());
+}

@@ -1,0 +1,184 @@
+// What a window does with the messages that nobody else handles.
+#include "geometry.h"
+#include "host_widget.h"
+#include "keyboard.h"
+#include "mouse.h"
+#include "oleacc.h"
+#include "shapes.h"
+
+using namespace winapi;
+
+namespace {
+
+void takeText(Window& window, const char* text)
+{
+    window.text = text ? text : "";
+    if (window.isTopLevel())
+        followWindow(window, false);
+}
+
+LRESULT giveText(const Window& window, WPARAM size, LPARAM buffer)
+{
+    if (size == 0)
+        return 0;
+    auto* const target = reinterpret_cast<LPSTR>(buffer);
+    lstrcpynA(target, window.text.c_str(), static_cast<int>(size));
+    return lstrlenA(target);
+}
+
+void tellPlacing(const Window& window, const WINDOWPOS& pos)
+{
+    constexpr UINT noClientSize = 0x0800;
+    constexpr UINT noClientMove = 0x1000;
+    const WPARAM state = window.is(WS_MAXIMIZE)   ? SIZE_MAXIMIZED
+                         : window.is(WS_MINIMIZE) ? SIZE_MINIMIZED
+                                                  : SIZE_RESTORED;
+    if (!(pos.flags & noClientMove))
+        SendMessageA(pos.hwnd, WM_MOVE, 0, toLParam(window.rect.topLeft()));
+    if (!(pos.flags & noClientSize) && isAlive(window))
+        SendMessageA(pos.hwnd, WM_SIZE, state, toLParam(window.rect.size()));
+}
+
+LRESULT erase(const Window& window, HDC dc)
+{
+    const HBRUSH brush = window.windowClass->info.hbrBackground;
+    if (!brush)
+        return FALSE;
+    eraseRect(dc, toRect(window.clientRect()), brush);
+    return TRUE;
+}
+
+// A parent may set the cursor for its children.
+LRESULT setCursor(const Window& window, WPARAM wParam, LPARAM lParam)
+{
+    if (window.is(WS_CHILD) && SendMessageA(window.parent->handle, WM_SETCURSOR, wParam, lParam))
+        return TRUE;
+    if (reinterpret_cast<HWND>(wParam) != window.handle || static_cast<short>(LOWORD(lParam)) != HTCLIENT)
+        return FALSE;
+    if (const HCURSOR cursor = window.windowClass->info.hCursor)
+        SetCursor(cursor);
+    return FALSE;
+}
+
+LRESULT mouseActivate(const Window& window, WPARAM wParam, LPARAM lParam)
+{
+    if (window.is(WS_CHILD))
+        return SendMessageA(window.parent->handle, WM_MOUSEACTIVATE, wParam, lParam);
+    return window.exStyle & WS_EX_NOACTIVATE ? MA_NOACTIVATE : MA_ACTIVATE;
+}
+
+LRESULT setRedraw(Window& window, bool redraw)
+{
+    if (redraw)
+        window.style |= WS_VISIBLE;
+    else
+        window.style &= ~WS_VISIBLE;
+    return 0;
+}
+
+// A Qt application around us moves the keyboard on.
+void leaveEmbedded(const Window& window, WPARAM key)
+{
+    if (key == VK_TAB && window.isTopLevel() && window.host && window.host->isEmbedded())
+        window.host->passFocus(!isDown(VK_SHIFT));
+}
+
+void validateByPainting(HWND handle)
+{
+    PAINTSTRUCT paint;
+    BeginPaint(handle, &paint);
+    EndPaint(handle, &paint);
+}
+
+LRESULT controlColors(HDC dc)
+{
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkColor(dc, GetSysColor(COLOR_BTNFACE));
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+}
+
+LRESULT toParent(const Window& window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return window.is(WS_CHILD) ? SendMessageA(window.parent->handle, message, wParam, lParam) : 0;
+}
+
+}
+
+LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowPtr window = findWindow(handle);
+    if (!window)
+        return 0;
+    switch (message) {
+    case WM_NCCREATE:
+        takeText(*window, reinterpret_cast<CREATESTRUCTA*>(lParam)->lpszName);
+        return TRUE;
+    case WM_SETTEXT:
+        takeText(*window, reinterpret_cast<LPCSTR>(lParam));
+        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle, OBJID_CLIENT, CHILDID_SELF);
+        return TRUE;
+    case WM_GETTEXT:
+        return giveText(*window, wParam, lParam);
+    case WM_GETTEXTLENGTH:
+        return static_cast<LRESULT>(window->text.size());
+    case WM_WINDOWPOSCHANGED:
+        tellPlacing(*window, *reinterpret_cast<WINDOWPOS*>(lParam));
+        return 0;
+    case WM_NCACTIVATE:
+        return TRUE;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) != WA_INACTIVE)
+            SetFocus(handle);
+        return 0;
+    case WM_MOUSEACTIVATE:
+        return mouseActivate(*window, wParam, lParam);
+    case WM_CANCELMODE:
+        EndMenu();
+        if (GetCapture() == handle)
+            ReleaseCapture();
+        return 0;
+    case WM_NCHITTEST:
+        return HTCLIENT;
+    case WM_SETCURSOR:
+        return setCursor(*window, wParam, lParam);
+    case WM_ERASEBKGND:
+        return erase(*window, reinterpret_cast<HDC>(wParam));
+    case WM_PAINT:
+        validateByPainting(handle);
+        return 0;
+    case WM_SETREDRAW:
+        return setRedraw(*window, wParam);
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORDLG:
+        return controlColors(reinterpret_cast<HDC>(wParam));
+    case WM_KEYDOWN:
+        leaveEmbedded(*window, wParam);
+        return 0;
+    case WM_SYSKEYDOWN:
+        if (wParam == VK_F4 && (HIWORD(lParam) & KF_ALTDOWN))
+            PostMessageA(GetAncestor(handle, GA_ROOT), WM_SYSCOMMAND, SC_CLOSE, 0);
+        return 0;
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+    case WM_CONTEXTMENU:
+        return toParent(*window, message, wParam, lParam);
+    case WM_RBUTTONUP: {
+        POINT place{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+        ClientToScreen(handle, &place);
+        SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), MAKELPARAM(place.x, place.y));
+        return 0;
+    }
+    case WM_SYSCOMMAND:
+        if ((wParam & 0xFFF0) == SC_CLOSE)
+            SendMessageA(handle, WM_CLOSE, 0, 0);
+        return 0;
+    case WM_CLOSE:
+        DestroyWindow(handle);
+        return 0;
+    case WM_NOTIFYFORMAT:
+        return lParam == NF_QUERY ? NFR_ANSI : 0;
+    default:
+        return 0;
+    }
+}

@@ -1,0 +1,361 @@
+#include "host_widget.h"
+
+#include "application.h"
+#include "focus.h"
+#include "keyboard.h"
+#include "message_queue.h"
+#include "mouse.h"
+#include "rooms_above.h"
+#include "window_surface.h"
+#include "window_tree.h"
+#include "zeb17_qt.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QEnterEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace winapi {
+
+namespace {
+
+Qt::WindowFlags flagsFor(const Window& window)
+{
+    Qt::WindowFlags flags = Qt::Window;
+    if (window.exStyle & WS_EX_TOOLWINDOW)
+        flags = Qt::Tool;
+    else if (window.owner)
+        flags = Qt::Dialog;
+    if (window.is(WS_POPUP) && !window.is(WS_CAPTION))
+        flags |= Qt::FramelessWindowHint;
+    if (window.exStyle & WS_EX_TOPMOST)
+        flags |= Qt::WindowStaysOnTopHint;
+    return flags;
+}
+
+Qt::WindowStates stateOf(const Window& window)
+{
+    if (window.is(WS_MINIMIZE))
+        return Qt::WindowMinimized;
+    return window.is(WS_MAXIMIZE) ? Qt::WindowMaximized : Qt::WindowNoState;
+}
+
+QWidget* ownerWidget(const Window& window)
+{
+    const WindowPtr owner = window.owner ? findWindow(window.owner) : nullptr;
+    return owner ? owner->host.data() : nullptr;
+}
+
+}
+
+HostWidget::HostWidget(Window& window)
+    : QWidget(ownerWidget(window), flagsFor(window)), m_handle(window.handle)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    resize(window.rect.size());
+    m_ratio = devicePixelRatioF();
+}
+
+HostWidget::~HostWidget()
+{
+    const WindowPtr window = served();
+    if (!window)
+        return;
+    window->host = nullptr;
+    DestroyWindow(m_handle);
+}
+
+QPoint HostWidget::screenOrigin() const
+{
+    return isEmbedded() ? mapToGlobal(QPoint(0, 0)) : geometry().topLeft();
+}
+
+void HostWidget::follow(bool mayActivate)
+{
+    const WindowPtr window = served();
+    if (!window || m_following)
+        return;
+    m_following = true;
+    setWindowTitle(QString::fromUtf8(window->text.c_str()));
+    if (!isEmbedded()) {
+        if (stateOf(*window) == Qt::WindowNoState)
+            setGeometry(window->rect);
+        setWindowState(stateOf(*window) | (windowState() & Qt::WindowActive));
+        setAttribute(Qt::WA_ShowWithoutActivating, !mayActivate);
+    }
+    setVisible(window->is(WS_VISIBLE));
+    m_following = false;
+    takePlace();
+}
+
+void HostWidget::takeActivation()
+{
+    if (!isEmbedded())
+        activateWindow();
+    setFocus();
+}
+
+void HostWidget::abandon()
+{
+    m_handle = nullptr;
+    if (m_eventDepth == 0) {
+        delete this;
+        return;
+    }
+    hide();
+    deleteLater();
+}
+
+bool HostWidget::event(QEvent* event)
+{
+    ++m_eventDepth;
+    const bool done = QWidget::event(event);
+    --m_eventDepth;
+    return done;
+}
+
+// The pixels are retained: whatever is to be shown again is there.
+void HostWidget::paintEvent(QPaintEvent* event)
+{
+    const WindowPtr window = served();
+    if (!window)
+        return;
+    // On a screen of another density all is drawn anew, so that it stays sharp.
+    if (std::exchange(m_ratio, devicePixelRatioF()) != devicePixelRatioF())
+        RedrawWindow(m_handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(0, 0, surfaceOf(*window).image());
+}
+
+// The window system, or a layout around us, has the last word on size and place.
+void HostWidget::takePlace()
+{
+    const WindowPtr window = served();
+    if (!window || m_following)
+        return;
+    const QRect place = isEmbedded() ? QRect(window->rect.topLeft(), size()) : geometry();
+    if (place == window->rect)
+        return;
+    m_following = true;
+    SetWindowPos(m_handle, nullptr, place.x(), place.y(), place.width(), place.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    m_following = false;
+}
+
+void HostWidget::resizeEvent(QResizeEvent*)
+{
+    takePlace();
+}
+
+void HostWidget::moveEvent(QMoveEvent*)
+{
+    if (!isEmbedded())
+        takePlace();
+}
+
+void HostWidget::showEvent(QShowEvent*)
+{
+    if (!m_following && served())
+        ShowWindow(m_handle, SW_SHOWNA);
+}
+
+void HostWidget::hideEvent(QHideEvent*)
+{
+    if (!m_following && isHidden() && served())
+        ShowWindow(m_handle, SW_HIDE);
+}
+
+void HostWidget::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    PostMessageA(m_handle, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+void HostWidget::changeEvent(QEvent* event)
+{
+    const WindowPtr window = served();
+    if (!window || m_following || event->type() != QEvent::WindowStateChange)
+        return;
+    window->style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
+    if (isMinimized())
+        window->style |= WS_MINIMIZE;
+    else if (isMaximized())
+        window->style |= WS_MAXIMIZE;
+}
+
+// A menu borrows the keyboard without the window losing it.
+void HostWidget::focusInEvent(QFocusEvent* event)
+{
+    const WindowPtr window = served();
+    if (!window || event->reason() == Qt::PopupFocusReason)
+        return;
+    // Qt tells of the widget's focus after this, and is to tell of the window's that has it after that.
+    QMetaObject::invokeMethod(this, &HostWidget::tellFocus, Qt::QueuedConnection);
+    activate(window.get(), ActivatedBy::Host);
+    if (isAlive(*window) && isEmbedded() && IsWindow(window->lastFocus))
+        SetFocus(window->lastFocus);
+}
+
+void HostWidget::tellFocus()
+{
+    if (QAccessible::isActive() && hasFocus())
+        tellFocusBelow(*this);
+}
+
+void HostWidget::focusOutEvent(QFocusEvent* event)
+{
+    const WindowPtr window = served();
+    // When we hide it, the tree has decided already who is next.
+    if (!window || m_following || event->reason() == Qt::PopupFocusReason || GetActiveWindow() != m_handle)
+        return;
+    window->lastFocus = GetFocus();
+    if (!dynamic_cast<HostWidget*>(QApplication::focusWidget()))
+        activate(nullptr, ActivatedBy::Host);
+}
+
+// A window may come to be under a pointer that rests.
+void HostWidget::enterEvent(QEnterEvent* event)
+{
+    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
+}
+
+void HostWidget::leaveEvent(QEvent*)
+{
+    if (const WindowPtr window = served())
+        mouseLeft(*window);
+}
+
+namespace {
+
+UINT buttonMessage(Qt::MouseButton button, bool down)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return down ? WM_LBUTTONDOWN : WM_LBUTTONUP;
+    case Qt::RightButton:
+        return down ? WM_RBUTTONDOWN : WM_RBUTTONUP;
+    case Qt::MiddleButton:
+        return down ? WM_MBUTTONDOWN : WM_MBUTTONUP;
+    default:
+        return WM_NULL;
+    }
+}
+
+void postButton(const QMouseEvent& event, bool down, bool doubleClick)
+{
+    if (const UINT message = buttonMessage(event.button(), down))
+        postInput(MouseInput{message, event.globalPosition().toPoint(), 0, doubleClick, event.modifiers()});
+}
+
+// Whole notches only, whatever steps the device makes; the rest is kept.
+int takeNotches(int& rest, int delta)
+{
+    if ((rest < 0) != (delta < 0))
+        rest = 0;
+    rest += delta;
+    const int notches = rest / WHEEL_DELTA * WHEEL_DELTA;
+    rest -= notches;
+    return notches;
+}
+
+}
+
+void HostWidget::mousePressEvent(QMouseEvent* event)
+{
+    postButton(*event, true, false);
+}
+
+void HostWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    postButton(*event, false, false);
+}
+
+void HostWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    postButton(*event, true, true);
+}
+
+void HostWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
+}
+
+void HostWidget::wheelEvent(QWheelEvent* event)
+{
+    const QPoint screen = event->globalPosition().toPoint();
+    if (const int up = takeNotches(m_wheelRest.ry(), event->angleDelta().y()))
+        postInput(MouseInput{WM_MOUSEWHEEL, screen, up, false, event->modifiers()});
+    if (const int right = takeNotches(m_wheelRest.rx(), -event->angleDelta().x()))
+        postInput(MouseInput{WM_MOUSEHWHEEL, screen, right, false, event->modifiers()});
+    event->accept();
+}
+
+void HostWidget::keyPressEvent(QKeyEvent* event)
+{
+    postKey(*event, false);
+}
+
+void HostWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!event->isAutoRepeat())
+        postKey(*event, true);
+}
+
+// What is made of the keys so far shows in the control; when it is finished it is typed like any other text.
+void HostWidget::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString finished = event->commitString();
+    const WindowPtr window = findWindow(GetFocus());
+    if (window && window->control) {
+        event->setCommitString({});
+        window->control->compose(*window, *event);
+    }
+    if (!finished.isEmpty())
+        postText(finished);
+}
+
+QVariant HostWidget::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    const WindowPtr window = findWindow(GetFocus());
+    return window && window->control ? window->control->answer(query) : QVariant();
+}
+
+HostWidget& hostOf(Window& root)
+{
+    if (!root.host) {
+        application();
+        installAccessibility();
+        root.host = new HostWidget(root);
+    }
+    return *root.host;
+}
+
+void followWindow(Window& root, bool mayActivate)
+{
+    if (root.is(WS_VISIBLE))
+        hostOf(root);
+    if (root.host)
+        root.host->follow(mayActivate);
+}
+
+void destroyHost(Window& root)
+{
+    if (HostWidget* const host = std::exchange(root.host, nullptr))
+        host->abandon();
+}
+
+}
+
+QWidget* QWidgetFromWindow(HWND handle)
+{
+    using namespace winapi;
+    const WindowPtr window = findWindow(handle);
+    return window && window->parent && window->isTopLevel() ? &hostOf(*window) : nullptr;
+}

@@ -1,0 +1,246 @@
+// The tree of windows: who stands in whom, in which order, and where on the screen.
+#include "window_tree.h"
+
+#include "host_widget.h"
+
+#include <algorithm>
+
+namespace winapi {
+
+namespace {
+
+WindowPtr makeDesktop()
+{
+    const WindowPtr window = addWindow();
+    window->style = WS_VISIBLE;
+    window->procedure = DefWindowProcA;
+    window->windowClass = std::make_shared<WindowClass>();
+    window->rect = QRect(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    return window;
+}
+
+}
+
+Window& desktop()
+{
+    static const WindowPtr window = makeDesktop();
+    return *window;
+}
+
+Window& rootOf(Window& window)
+{
+    Window* root = &window;
+    while (root->parent && !root->isTopLevel())
+        root = root->parent;
+    return *root;
+}
+
+bool isDescendant(const Window& ancestor, const Window& window)
+{
+    const Window* above = window.parent;
+    while (above && above != &ancestor)
+        above = above->parent;
+    return above != nullptr;
+}
+
+void linkWindow(Window& window, Window& parent, HWND insertAfter)
+{
+    window.parent = &parent;
+    auto& siblings = parent.children;
+    auto place = siblings.begin();
+    if (insertAfter == HWND_BOTTOM) {
+        place = siblings.end();
+    } else if (insertAfter != HWND_TOP && insertAfter != HWND_TOPMOST && insertAfter != HWND_NOTOPMOST) {
+        place = std::find_if(siblings.begin(), siblings.end(),
+                             [insertAfter](const Window* sibling) { return sibling->handle == insertAfter; });
+        if (place != siblings.end())
+            ++place;
+    }
+    siblings.insert(place, &window);
+}
+
+void unlinkWindow(Window& window)
+{
+    if (window.parent)
+        std::erase(window.parent->children, &window);
+}
+
+QPoint originInRoot(const Window& window)
+{
+    QPoint origin;
+    for (const Window* w = &window; w->parent && !w->isTopLevel(); w = w->parent)
+        origin += w->rect.topLeft();
+    return origin;
+}
+
+QPoint screenOrigin(const Window& window)
+{
+    if (!window.parent)
+        return {0, 0};
+    const Window& root = rootOf(const_cast<Window&>(window));
+    const QPoint rootOrigin = root.host ? root.host->screenOrigin() : root.rect.topLeft();
+    return rootOrigin + originInRoot(window);
+}
+
+namespace {
+
+// `point` in the window's own client coordinates.
+WindowPtr hitTestIn(Window& window, QPoint point, QPoint screen)
+{
+    const auto children = window.children;
+    for (Window* child : children) {
+        if (!child->is(WS_VISIBLE) || child->is(WS_DISABLED) || !child->rect.contains(point))
+            continue;
+        if (WindowPtr hit = hitTestIn(*child, point - child->rect.topLeft(), screen))
+            return hit;
+    }
+    const WindowPtr self = findWindow(window.handle);
+    if (!self || SendMessageA(window.handle, WM_NCHITTEST, 0, toLParam(screen)) == HTTRANSPARENT)
+        return nullptr;
+    return self;
+}
+
+Window* topLevelAt(QPoint screen)
+{
+    const auto& all = desktop().children;
+    const auto found = std::find_if(all.begin(), all.end(), [screen](const Window* window) {
+        return window->is(WS_VISIBLE) &&
+               window->clientRect().translated(screenOrigin(*window)).contains(screen);
+    });
+    return found == all.end() ? nullptr : *found;
+}
+
+}
+
+WindowPtr hitTest(QPoint screen)
+{
+    Window* const top = topLevelAt(screen);
+    return top ? hitTestIn(*top, screen - screenOrigin(*top), screen) : nullptr;
+}
+
+}
+
+using namespace winapi;
+
+BOOL IsChild(HWND parent, HWND window)
+{
+    const WindowPtr ancestor = findWindow(parent);
+    const WindowPtr child = findWindow(window);
+    return ancestor && child && child->is(WS_CHILD) && isDescendant(*ancestor, *child);
+}
+
+HWND GetParent(HWND window)
+{
+    const WindowPtr found = findWindow(window);
+    if (!found || !found->parent)
+        return nullptr;
+    if (found->is(WS_CHILD))
+        return found->parent->handle;
+    return found->is(WS_POPUP) ? found->owner : nullptr;
+}
+
+HWND GetAncestor(HWND window, UINT flags)
+{
+    const WindowPtr found = findWindow(window);
+    if (!found || !found->parent)
+        return nullptr;
+    if (flags == GA_PARENT)
+        return found->parent->handle;
+    Window* root = &rootOf(*found);
+    while (flags == GA_ROOTOWNER && root->owner) {
+        const WindowPtr owner = findWindow(root->owner);
+        if (!owner)
+            break;
+        root = &rootOf(*owner);
+    }
+    return root->handle;
+}
+
+HWND GetWindow(HWND window, UINT command)
+{
+    const WindowPtr found = findWindow(window);
+    if (!found)
+        return nullptr;
+    if (command == GW_OWNER)
+        return found->owner;
+    if (command == GW_CHILD)
+        return found->children.empty() ? nullptr : found->children.front()->handle;
+    if (!found->parent)
+        return nullptr;
+
+    const auto& siblings = found->parent->children;
+    const auto self = std::find(siblings.begin(), siblings.end(), found.get());
+    switch (command) {
+    case GW_HWNDFIRST:
+        return siblings.front()->handle;
+    case GW_HWNDLAST:
+        return siblings.back()->handle;
+    case GW_HWNDNEXT:
+        return self + 1 == siblings.end() ? nullptr : self[1]->handle;
+    case GW_HWNDPREV:
+        return self == siblings.begin() ? nullptr : self[-1]->handle;
+    default:
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+}
+
+HWND GetTopWindow(HWND window)
+{
+    return GetWindow(window ? window : GetDesktopWindow(), GW_CHILD);
+}
+
+HWND GetDesktopWindow()
+{
+    return desktop().handle;
+}
+
+HWND GetDlgItem(HWND parent, int id)
+{
+    const WindowPtr found = findWindow(parent);
+    if (!found)
+        return nullptr;
+    for (const Window* child : found->children) {
+        if (static_cast<int>(child->id) == id)
+            return child->handle;
+    }
+    SetLastError(ERROR_CONTROL_ID_NOT_FOUND);
+    return nullptr;
+}
+
+int GetDlgCtrlID(HWND window)
+{
+    const WindowPtr found = findWindow(window);
+    return found ? static_cast<int>(found->id) : 0;
+}
+
+BOOL EnumThreadWindows(DWORD, WNDENUMPROC proc, LPARAM lParam)
+{
+    if (!proc)
+        return FALSE;
+    std::vector<HWND> handles;
+    for (const Window* window : desktop().children)
+        handles.push_back(window->handle);
+    return std::all_of(handles.begin(), handles.end(),
+                       [&](HWND handle) { return !IsWindow(handle) || proc(handle, lParam); });
+}
+
+HWND WindowFromPoint(POINT point)
+{
+    const WindowPtr hit = hitTest({point.x, point.y});
+    return hit ? hit->handle : nullptr;
+}
+
+// Unlike input, counts hidden and disabled children.
+HWND ChildWindowFromPoint(HWND parent, POINT point)
+{
+    const WindowPtr found = findWindow(parent);
+    const QPoint place(point.x, point.y);
+    if (!found || !found->clientRect().contains(place))
+        return nullptr;
+    for (const Window* child : found->children) {
+        if (child->rect.contains(place))
+            return child->handle;
+    }
+    return parent;
+}
