@@ -79,7 +79,7 @@ class DemoApp : public CWinApp
 public:
     explicit DemoApp(const Options& options) : m_options(options), m_window(!options.HasOutput()) {}
 
-    BOOL InitInstance() override
+    BOOL InitInstance()
     {
         if (!m_window.CreateMain())
             return FALSE;

@@ -158,7 +158,7 @@ void UIPrinter::Print(PrintInfo* pInfo)
 void UIPrinter::InitPrintProcess()
 {
     const PrintInfo& info = m_pJob->m_info;
-    CPrintDialog& dialog = *m_pJob->m_page.m_pPD;
+    CPrintDialog& dialog = m_pJob->m_page.m_dialog;
     dialog.m_pd.hwndOwner = info.m_pCtrlWnd ? info.m_pCtrlWnd->m_hWnd : nullptr;
 
     const bool bAsk = !info.m_bPrintFlag && s_strOutputFile.IsEmpty();

@@ -29,13 +29,12 @@ int CImageMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pTarget, const R
 
 void CImageMenu::UpdateItems(CWnd* pTarget)
 {
-    CCmdUI state;
-    state.m_pMenu = this;
-    state.m_nIndexMax = ::GetMenuItemCount(m_hMenu);
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
-        state.m_nID = ::GetMenuItemID(m_hMenu, static_cast<int>(state.m_nIndex));
-        const bool bIsCommand = state.m_nID != 0 && state.m_nID != static_cast<UINT>(-1);
-        if (bIsCommand)
-            state.DoUpdate(pTarget, FALSE);
+    CCmdUI item;
+    item.m_pMenu = this;
+    const int nItems = ::GetMenuItemCount(m_hMenu);
+    for (int i = 0; i < nItems; ++i) {
+        item.m_nIndex = static_cast<UINT>(i);
+        item.m_nID = ::GetMenuItemID(m_hMenu, i);
+        item.DoUpdate(pTarget);
     }
 }

@@ -131,7 +131,7 @@ TEST_F(AccessibleTest, DaysCanBeReadOneByOne)
             strName += ", Today";
         const bool bSelected = date.CompareDate(Date(2026, 7, 20)) == 0;
         CRect rc = calendar->GetRectOfCell(nItem - 1);
-        calendar->ClientToScreen(&rc);
+        ::MapWindowPoints(*calendar, nullptr, reinterpret_cast<POINT*>(&rc), 2);
 
         EXPECT_EQ(speaker.GetName(nItem), strName);
         EXPECT_EQ(speaker.GetRole(nItem), ROLE_SYSTEM_CELL);

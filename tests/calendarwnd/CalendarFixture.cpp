@@ -163,7 +163,7 @@ void CalendarTest::Show(const DateTime& date, bool bHaveDate)
 
 void CalendarTest::Repaint()
 {
-    calendar->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    ::RedrawWindow(*calendar, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 CRect CalendarTest::GetInvalid()

@@ -42,7 +42,7 @@ TEST_F(CreationTest, EndsWithoutADateAndSaysSo)
     EXPECT_EQ(calendar->m_nTodayCell, 2 * 7 + 3); // the third Wednesday
     EXPECT_THAT(logger.m_lines, IsEmpty());
     EXPECT_NE(calendar->m_toolTip.m_hWnd, nullptr);
-    EXPECT_EQ(calendar->GetStyle() & (WS_CHILD | WS_VISIBLE | WS_TABSTOP),
+    EXPECT_EQ(::GetWindowLongA(*calendar, GWL_STYLE) & (WS_CHILD | WS_VISIBLE | WS_TABSTOP),
               WS_CHILD | WS_VISIBLE | WS_TABSTOP);
     EXPECT_EQ(::GetClassLongPtrA(calendar->m_hWnd, GCL_STYLE), 0x843u);
 }
@@ -78,7 +78,7 @@ TEST_F(CreationTest, Buttons)
                 EXPECT_EQ(button.pButton->GetDlgCtrlID(), button.nId);
                 EXPECT_EQ(strCaption, button.strCaption) << button.nId;
                 EXPECT_EQ(button.pButton->IsWindowEnabled() != FALSE, button.bEnabled) << button.nId;
-                EXPECT_TRUE(button.pButton->IsWindowVisible());
+                EXPECT_TRUE(::IsWindowVisible(*button.pButton));
             }
         }
 }

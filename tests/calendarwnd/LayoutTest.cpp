@@ -30,7 +30,7 @@ TEST_F(LayoutTest, ButtonsFillHeadingAndFooter)
         for (const auto& [pButton, rc] : places) {
             CRect rcPlace;
             pButton->GetWindowRect(&rcPlace);
-            calendar->ScreenToClient(&rcPlace);
+            ::MapWindowPoints(nullptr, *calendar, reinterpret_cast<POINT*>(&rcPlace), 2);
             EXPECT_EQ(rcPlace, rc) << pButton->GetDlgCtrlID() << " in " << cx << 'x' << cy;
         }
         EXPECT_EQ(c.m_rcGrid, CRect(0, 23, cx, cy - 25));

@@ -28,7 +28,7 @@ protected:
     // The pointer comes to rest on a point of a window.
     static void PointAt(CWnd& wnd, CPoint point = {9, 9})
     {
-        wnd.ClientToScreen(&point);
+        ::ClientToScreen(wnd, &point);
         ::SetCursorPos(point.x, point.y);
     }
 

@@ -57,10 +57,11 @@ protected:
 
     void ExpectLine(CPoint ptMiddle, bool bHorizontal)
     {
-        EXPECT_EQ(sheet.GetPixel(ptMiddle), kLine) << ptMiddle.x << ',' << ptMiddle.y;
-        const CSize across = bHorizontal ? CSize(0, 1) : CSize(1, 0);
-        EXPECT_EQ(sheet.GetPixel(ptMiddle + across), kPaper) << ptMiddle.x << ',' << ptMiddle.y;
-        EXPECT_EQ(sheet.GetPixel(ptMiddle - across), kPaper) << ptMiddle.x << ',' << ptMiddle.y;
+        for (const int nAcross : {-1, 0, 1}) {
+            const int x = ptMiddle.x + (bHorizontal ? 0 : nAcross);
+            const int y = ptMiddle.y + (bHorizontal ? nAcross : 0);
+            EXPECT_EQ(::GetPixel(sheet, x, y), nAcross == 0 ? kLine : kPaper) << x << ',' << y;
+        }
     }
 
     // Whether the pixels inside a cell are those of this text.

@@ -19,6 +19,7 @@ public:
     ~Canvas() override { ::SelectObject(m_hDC, m_hOldBitmap); }
 
     const CRect& GetRect() const { return m_rect; }
+    COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
 
     // The smallest rectangle around all pixels inside `rect` that `isInk` holds for; empty if there are none.
     template <class Predicate>
@@ -28,7 +29,7 @@ public:
         for (int y = rect.top; y < rect.bottom; ++y)
             for (int x = rect.left; x < rect.right; ++x)
                 if (isInk(GetPixel(x, y)))
-                    rcInk.UnionRect(&rcInk, CRect(x, y, x + 1, y + 1));
+                    ::UnionRect(&rcInk, &rcInk, CRect(x, y, x + 1, y + 1));
         return rcInk;
     }
     CRect FindInk(COLORREF crPaper = RGB(255, 255, 255)) const

@@ -1,3 +1,4 @@
+// Commands, notifications, and the updates of menu items.
 #include "TestWnd.h"
 
 #include <gmock/gmock.h>
@@ -17,7 +18,6 @@ protected:
     {
         m_log.push_back("update " + std::to_string(ui->m_nID));
         ui->Enable(FALSE);
-        ui->SetCheck(1);
     }
     void OnSilentUpdate(CCmdUI*) {}
     void OnFocusNotification() { m_log.push_back("control"); }
@@ -83,46 +83,39 @@ TEST_F(Commands, NotificationsMatchTheControlsOwnIdAndMayBeDeclined)
     EXPECT_EQ(Notify(TTN_NEEDTEXTA), 23);
     EXPECT_EQ(Notify(TTN_SHOW), 0); // no handler
     EXPECT_THAT(m_target.m_log, ElementsAre("need text 7 -520"));
-    AFX_CMDHANDLERINFO info;
     const int code = static_cast<int>(MAKELONG(TTN_NEEDTEXTA, WM_NOTIFY));
-    EXPECT_FALSE(m_target.OnCmdMsg(6, code, nullptr, &info)) << "below the range";
-    EXPECT_FALSE(m_target.OnCmdMsg(10, code, nullptr, &info)) << "above it";
-    EXPECT_TRUE(m_target.OnCmdMsg(9, code, nullptr, &info)) << "found without a call";
-    EXPECT_EQ(info.pTarget, &m_target);
-    m_target.m_accept = false;
     LRESULT result = 0;
     NMHDR header = {m_control, 0, TTN_NEEDTEXTA};
     AFX_NOTIFY notify = {&result, &header};
-    EXPECT_FALSE(m_target.OnCmdMsg(9, code, &notify, nullptr));
+    EXPECT_FALSE(m_target.OnCmdMsg(6, code, &notify)) << "below the range";
+    EXPECT_FALSE(m_target.OnCmdMsg(10, code, &notify)) << "above it";
+    EXPECT_TRUE(m_target.OnCmdMsg(9, code, &notify));
+    m_target.m_accept = false;
+    EXPECT_FALSE(m_target.OnCmdMsg(9, code, &notify));
 }
 
 TEST_F(Commands, UpdatesSetTheItemsOfAMenu)
 {
     CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
+    ASSERT_TRUE(menu.Attach(::CreatePopupMenu()));
     const struct
     {
         UINT id;
-        BOOL handled;
         UINT state;
         const char* why;
     } cases[] = {
-        {100, TRUE, MF_GRAYED | MF_DISABLED | MF_CHECKED, "set by its update handler"},
-        {102, TRUE, 0, "left alone by its update handler, and a handler carries it out"},
-        {110, FALSE, 0, "a handler carries it out"},
-        {140, FALSE, MF_GRAYED | MF_DISABLED, "nothing carries it out"},
+        {100, MF_GRAYED | MF_DISABLED, "set by its update handler"},
+        {102, 0, "left alone by its update handler"},
+        {110, 0, "has no update handler"},
     };
     CCmdUI item;
     item.m_pMenu = &menu;
     for (const auto& c : cases) {
         item.m_nID = c.id;
-        item.m_nIndex = menu.GetMenuItemCount();
-        menu.AppendMenu(MF_STRING, c.id, "item");
-        EXPECT_EQ(item.DoUpdate(&m_target, TRUE), c.handled) << c.why;
-        EXPECT_EQ(menu.GetMenuState(c.id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED | MF_CHECKED), c.state)
+        ::AppendMenuA(menu.m_hMenu, MF_STRING, c.id, "item");
+        item.DoUpdate(&m_target);
+        EXPECT_EQ(::GetMenuState(menu.m_hMenu, c.id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED), c.state)
             << c.why;
+        ++item.m_nIndex;
     }
-    menu.EnableMenuItem(140, MF_BYCOMMAND | MF_ENABLED);
-    item.DoUpdate(&m_target, FALSE);
-    EXPECT_EQ(menu.GetMenuState(140, MF_BYCOMMAND) & MF_GRAYED, 0U) << "not asked to disable";
 }

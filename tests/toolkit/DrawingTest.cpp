@@ -1,3 +1,4 @@
+// Drawing objects and contexts: who owns which handle.
 #include "TestWnd.h"
 
 #include <gtest/gtest.h>
@@ -42,20 +43,24 @@ TEST(DrawingObjects, OwnTheirHandle)
     EXPECT_EQ(GetObjectType(handle), 0U);
 }
 
-// The system has so many drawing objects to give, and no more.
+namespace {
+
+// A process is given so many drawing objects and no more.
 template <class Object, class... Arguments>
-static bool ThrowsWhenNoneAreLeft(Arguments... arguments)
+bool ThrowsWhenNoneAreLeft(Arguments... arguments)
 {
-    constexpr std::size_t moreThanThereAre = 100000;
+    constexpr std::size_t kMoreThanThereAre = 100000;
     std::vector<std::unique_ptr<Object>> all;
     try {
-        while (all.size() < moreThanThereAre)
+        while (all.size() < kMoreThanThereAre)
             all.push_back(std::make_unique<Object>(arguments...));
-    } catch (CResourceException* exception) {
-        exception->Delete();
+    } catch (CResourceException* pException) {
+        pException->Delete();
         return !all.empty();
     }
     return false;
+}
+
 }
 
 TEST(DrawingObjects, ThrowWhenTheyCannotBeMade)
@@ -72,7 +77,7 @@ TEST(Contexts, AreReleasedWithTheirObject)
     {
         CClientDC dc(&frame);
         EXPECT_EQ(CDC::FromHandle(dc), &dc);
-        EXPECT_EQ(dc.GetWindow(), &frame);
+        EXPECT_EQ(::WindowFromDC(dc), frame.m_hWnd);
     }
     for (const char* turn : {"first", "second"}) { // the system may give the same handle again
         CDC* dc = frame.GetDC();

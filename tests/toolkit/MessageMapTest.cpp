@@ -1,3 +1,4 @@
+// How messages and their arguments reach the handlers of a message map.
 #include "TestWnd.h"
 
 #include <gmock/gmock.h>
@@ -7,7 +8,7 @@ using testing::ElementsAre;
 namespace {
 const UINT kRegistered = RegisterWindowMessageA("toolkit test message");
 
-/// Writes down each call of a handler with its arguments. There is one for each way to hand arguments over.
+// Writes down each call of a handler with its arguments. There is one handler for each kind of arguments.
 class Recorder : public CWnd
 {
 public:
@@ -24,8 +25,8 @@ protected:
 
     void OnSize(UINT type, int cx, int cy) { Note("size", type, cx, cy); }
     void OnLButtonDown(UINT flags, CPoint point) { Note("down", flags, point.x, point.y); }
-    void OnLButtonUp(UINT flags, CPoint point) { Note("up", flags, point.x, point.y); }
-    void OnMouseLeave() { Note("leave"); }
+    void OnMouseMove(UINT flags, CPoint point) { Note("move", flags, point.x, point.y); }
+    void OnClose() { Note("close"); }
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point)
     {
         Note("wheel", flags, delta, point.x, point.y);
@@ -59,8 +60,8 @@ protected:
 BEGIN_MESSAGE_MAP(Recorder, CWnd)
     ON_WM_SIZE()
     ON_WM_LBUTTONDOWN()
-    ON_WM_LBUTTONUP()
-    ON_WM_MOUSELEAVE()
+    ON_WM_MOUSEMOVE()
+    ON_WM_CLOSE()
     ON_WM_MOUSEWHEEL()
     ON_WM_SETCURSOR()
     ON_WM_ACTIVATE()
@@ -71,16 +72,16 @@ BEGIN_MESSAGE_MAP(Recorder, CWnd)
     ON_REGISTERED_MESSAGE(kRegistered, &Recorder::OnRegistered)
 END_MESSAGE_MAP()
 
-/// Overrides one line of its base's map and leaves the others to it.
+// Has one line of its base's map anew, and leaves the others to the base.
 class Derived : public Recorder
 {
 protected:
-    void OnLButtonUp(UINT, CPoint) { Note("derived"); }
+    void OnMouseMove(UINT, CPoint) { Note("derived"); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Derived, Recorder)
-    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 }
 
@@ -100,8 +101,8 @@ TEST(MessageMap, BringsEachMessageToItsHandlerWithItsArguments)
     } cases[] = {
         {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(300, 0xFFFE), "size 2 300 -2", 0},
         {WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(0xFFFD, 0x8000), "down 1 -3 -32768", 0},
-        {WM_LBUTTONUP, 0, 0, "derived", 0},
-        {WM_MOUSELEAVE, 0, 0, "leave", 0},
+        {WM_MOUSEMOVE, 0, 0, "derived", 0},
+        {WM_CLOSE, 0, 0, "close", 0},
         {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, static_cast<WORD>(-120)), MAKELPARAM(9, 0xFFFF),
          "wheel 4 -120 9 -1", 1},
         {WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor 1 1 512", 1},

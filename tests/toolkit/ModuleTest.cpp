@@ -1,3 +1,4 @@
+// The chain of extension modules.
 #include "TestWnd.h"
 
 #include <gtest/gtest.h>
@@ -5,7 +6,7 @@
 TEST(Modules, ExtensionModulesJoinAndLeaveTheChain)
 {
     AFX_MODULE_STATE& state = *AfxGetModuleState();
-    const std::size_t before = state.m_libraries.size();
+    const std::size_t before = state.m_vLibraries.size();
     const auto module = reinterpret_cast<HMODULE>(&state); // only a name here: it holds no resources
     AFX_EXTENSION_MODULE first;
     AFX_EXTENSION_MODULE second;
@@ -13,12 +14,12 @@ TEST(Modules, ExtensionModulesJoinAndLeaveTheChain)
     ASSERT_TRUE(AfxInitExtensionModule(second, GetModuleHandleA(nullptr)));
     new CDynLinkLibrary(first);
     auto* latest = new CDynLinkLibrary(second);
-    ASSERT_EQ(state.m_libraries.size(), before + 2);
-    EXPECT_EQ(state.m_libraries.front(), latest) << "the latest is asked first";
+    ASSERT_EQ(state.m_vLibraries.size(), before + 2);
+    EXPECT_EQ(state.m_vLibraries.front(), latest) << "the latest is asked first";
 
     AfxTermExtensionModule(first);
-    EXPECT_EQ(state.m_libraries.size(), before + 1);
+    EXPECT_EQ(state.m_vLibraries.size(), before + 1);
     AfxTermExtensionModule(first); // once is enough
     AfxTermExtensionModule(second);
-    EXPECT_EQ(state.m_libraries.size(), before);
+    EXPECT_EQ(state.m_vLibraries.size(), before);
 }

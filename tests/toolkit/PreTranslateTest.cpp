@@ -1,3 +1,4 @@
+// Messages that are offered to windows before they are dispatched, in the loops of the toolkit and of others.
 #include "TestWnd.h"
 
 #include <gmock/gmock.h>
@@ -5,7 +6,7 @@
 using testing::ElementsAre;
 
 namespace {
-/// Writes down which messages are offered to it and which reach it, by its name.
+// Writes down which messages are offered to it and which reach it, by its name.
 class Stop : public CWnd
 {
 public:
@@ -73,7 +74,7 @@ protected:
     Stop m_leaf{m_log, "leaf"};
 };
 
-/// Ends its loop with an exit code, and says when it is idle.
+// Ends its loop with an exit code, and says when it is idle.
 class LoopApp : public CWinApp
 {
 public:

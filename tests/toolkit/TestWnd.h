@@ -9,7 +9,7 @@
 
 using Log = std::vector<std::string>;
 
-/// A plain top-level window, not shown unless asked for.
+// A plain top-level window, not shown unless asked for.
 class TestFrame : public CWnd
 {
 public:
@@ -19,7 +19,7 @@ public:
     }
 };
 
-/// Creates a window of the object in the parent, at (10, 10) and 50 by 30 in size.
+// Creates a window of the object in the parent, at (10, 10) and 50 by 30 in size.
 template <class Window>
 bool CreateChild(Window& window, CWnd& parent, UINT id)
 {

@@ -17,7 +17,7 @@ protected:
         m_window.EnableToolTips(TRUE);
     }
 
-    /// Moves the pointer for the window that gets the message there.
+    // Moves the pointer for the window that gets the message there.
     static void Move(CWnd& window, CPoint point = {15, 15})
     {
         MSG message{};

@@ -1,34 +1,41 @@
+// The system's dialogs for a colour, a file, and a printer.
 #include <afxdlgs.h>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CColorDialog, CWnd)
 IMPLEMENT_DYNAMIC(CFileDialog, CWnd)
+IMPLEMENT_DYNAMIC(CPrintDialog, CWnd)
 
-static HWND OwnerOf(const CWnd* parent)
+namespace {
+
+HWND OwnerOf(const CWnd* pParent)
 {
-    return parent ? parent->m_hWnd : ::GetActiveWindow();
+    return pParent ? pParent->m_hWnd : ::GetActiveWindow();
 }
 
-// ---- CColorDialog ----
-
-static COLORREF* CustomColors()
+COLORREF* GetCustomColors()
 {
-    static auto colors = [] {
+    static auto s_colors = [] {
         std::array<COLORREF, 16> white;
         white.fill(RGB(255, 255, 255));
         return white;
     }();
-    return colors.data();
+    return s_colors.data();
 }
+
+}
+
+// ---- CColorDialog ----
 
 CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
 {
     m_cc.lStructSize = static_cast<DWORD>(sizeof m_cc);
     m_cc.hwndOwner = OwnerOf(pParentWnd);
     m_cc.rgbResult = clrInit;
-    m_cc.lpCustColors = CustomColors();
+    m_cc.lpCustColors = GetCustomColors();
     m_cc.Flags = dwFlags | CC_RGBINIT;
 }
 
@@ -41,9 +48,9 @@ INT_PTR CColorDialog::DoModal()
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName, DWORD dwFlags,
                          LPCTSTR lpszFilter, CWnd* pParentWnd)
-    : m_bOpenFileDialog(bOpenFileDialog), m_strDefExt(lpszDefExt), m_filter(lpszFilter ? lpszFilter : "")
+    : m_bOpenFileDialog(bOpenFileDialog), m_strDefExt(lpszDefExt), m_strFilter(lpszFilter ? lpszFilter : "")
 {
-    std::replace(m_filter.begin(), m_filter.end(), '|', '\0');
+    std::replace(m_strFilter.begin(), m_strFilter.end(), '|', '\0');
     if (lpszFileName)
         ::lstrcpynA(m_szPath, lpszFileName, static_cast<int>(sizeof m_szPath));
     m_ofn.lStructSize = static_cast<DWORD>(sizeof m_ofn);
@@ -51,12 +58,49 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     m_ofn.lpstrFile = m_szPath;
     m_ofn.nMaxFile = static_cast<DWORD>(sizeof m_szPath);
     m_ofn.lpstrDefExt = m_strDefExt.IsEmpty() ? nullptr : static_cast<LPCTSTR>(m_strDefExt);
-    m_ofn.lpstrFilter = m_filter.empty() ? nullptr : m_filter.c_str();
+    m_ofn.lpstrFilter = m_strFilter.empty() ? nullptr : m_strFilter.c_str();
     m_ofn.Flags = dwFlags | OFN_EXPLORER;
 }
 
 INT_PTR CFileDialog::DoModal()
 {
-    const BOOL chosen = m_bOpenFileDialog ? ::GetOpenFileNameA(&m_ofn) : ::GetSaveFileNameA(&m_ofn);
-    return chosen ? IDOK : IDCANCEL;
+    const BOOL bChosen = m_bOpenFileDialog ? ::GetOpenFileNameA(&m_ofn) : ::GetSaveFileNameA(&m_ofn);
+    return bChosen ? IDOK : IDCANCEL;
+}
+
+// ---- CPrintDialog ----
+
+CPrintDialog::CPrintDialog()
+{
+    m_pd.lStructSize = static_cast<DWORD>(sizeof m_pd);
+    m_pd.Flags =
+        PD_RETURNDC | PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS | PD_HIDEPRINTTOFILE | PD_NOSELECTION;
+    m_pd.nMinPage = 1;
+    m_pd.nMaxPage = 0xFFFF;
+}
+
+CPrintDialog::~CPrintDialog()
+{
+    FreeBlocks();
+}
+
+INT_PTR CPrintDialog::DoModal()
+{
+    return ::PrintDlgA(&m_pd) ? IDOK : IDCANCEL;
+}
+
+BOOL CPrintDialog::GetDefaults()
+{
+    FreeBlocks(); // the call below refuses to be given any
+    m_pd.Flags |= PD_RETURNDEFAULT;
+    const BOOL bResult = ::PrintDlgA(&m_pd);
+    m_pd.Flags &= ~static_cast<DWORD>(PD_RETURNDEFAULT);
+    return bResult;
+}
+
+void CPrintDialog::FreeBlocks()
+{
+    for (HGLOBAL* pBlock : {&m_pd.hDevMode, &m_pd.hDevNames})
+        if (const HGLOBAL hMemory = std::exchange(*pBlock, nullptr))
+            ::GlobalFree(hMemory);
 }

@@ -1,31 +1,48 @@
-#include <afxwin.h>
+// Buttons, labels, text fields, lists and combo boxes, on the window classes of the system.
+#include <afxctrl_.h>
 
+IMPLEMENT_DYNAMIC(CButton, CWnd)
+IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
+
+// ---- CButton ----
+
+BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CreateChild("BUTTON", lpszCaption, dwStyle, rect, pParentWnd, nID);
+}
+
+void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
+
+BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    if (message != WM_DRAWITEM)
+        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+// ---- CStatic ----
+
+BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CreateChild("STATIC", lpszText, dwStyle, rect, pParentWnd, nID);
+}
 
 // ---- CEdit ----
 
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create("EDIT", nullptr, dwStyle, rect, pParentWnd, nID);
+    return CreateChild("EDIT", nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 // ---- CListBox ----
 
 BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create("LISTBOX", nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-void CListBox::GetText(int nIndex, CString& rString) const
-{
-    rString.Empty();
-    const int length = GetTextLen(nIndex);
-    if (length <= 0) // LB_ERR is one of these
-        return;
-    Ask(LB_GETTEXT, nIndex, reinterpret_cast<LPARAM>(rString.GetBuffer(length)));
-    rString.ReleaseBuffer();
+    return CreateChild("LISTBOX", nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
@@ -50,14 +67,5 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-// ---- The message box ----
-
-int AfxMessageBox(LPCTSTR lpszText, UINT nType)
-{
-    CWinApp* app = AfxGetApp();
-    const UINT icon = nType & MB_ICONMASK ? 0 : static_cast<UINT>(MB_ICONEXCLAMATION);
-    return ::MessageBoxA(::GetActiveWindow(), lpszText, app ? app->m_strAppName : nullptr, nType | icon);
+    return CreateChild("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
 }

@@ -1,4 +1,5 @@
-#include "threadstate.h"
+// Device contexts, and the objects selected in them.
+#include "ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
@@ -6,17 +7,14 @@ IMPLEMENT_DYNAMIC(CClientDC, CDC)
 
 CDC* CDC::FromHandle(HDC hDC)
 {
-    CDC* context = ThreadState::Current().contexts.FromHandle(hDC);
-    if (context && !context->m_hAttribDC)
-        context->m_hAttribDC = hDC;
-    return context;
+    return ThreadState::Current().contexts.FromHandle(hDC);
 }
 
 BOOL CDC::Attach(HDC hDC)
 {
     if (!hDC || m_hDC)
         return FALSE;
-    m_hDC = m_hAttribDC = hDC;
+    m_hDC = hDC;
     ThreadState::Current().contexts.Attach(hDC, this);
     return TRUE;
 }
@@ -24,7 +22,6 @@ BOOL CDC::Attach(HDC hDC)
 HDC CDC::Detach()
 {
     const HDC hDC = std::exchange(m_hDC, nullptr);
-    m_hAttribDC = nullptr;
     if (hDC)
         ThreadState::Current().contexts.Detach(hDC, this);
     return hDC;
@@ -41,12 +38,7 @@ BOOL CDC::DeleteDC()
     return hDC && ::DeleteDC(hDC);
 }
 
-CWnd* CDC::GetWindow() const
-{
-    return CWnd::FromHandle(::WindowFromDC(m_hDC));
-}
-
-// ---- Objects selected in ----
+// ---- Selecting objects ----
 
 CPen* CDC::SelectObject(CPen* pPen)
 {
@@ -73,20 +65,20 @@ HGDIOBJ CDC::SelectHandle(const CGdiObject* pObject)
     return pObject ? ::SelectObject(m_hDC, pObject->m_hObject) : nullptr;
 }
 
-// ---- Calls with more to them than the call ----
+// ---- Calls that need more than the arguments passed on ----
 
 CPoint CDC::SetWindowOrg(int x, int y)
 {
-    CPoint old;
-    ::SetWindowOrgEx(m_hDC, x, y, &old);
-    return old;
+    CPoint ptOld;
+    ::SetWindowOrgEx(m_hDC, x, y, &ptOld);
+    return ptOld;
 }
 
 CPoint CDC::MoveTo(int x, int y)
 {
-    CPoint old;
-    ::MoveToEx(m_hDC, x, y, &old);
-    return old;
+    CPoint ptOld;
+    ::MoveToEx(m_hDC, x, y, &ptOld);
+    return ptOld;
 }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr)
@@ -98,13 +90,6 @@ void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr)
 BOOL CDC::BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop)
 {
     return ::BitBlt(m_hDC, x, y, nWidth, nHeight, pSrcDC ? pSrcDC->m_hDC : nullptr, xSrc, ySrc, dwRop);
-}
-
-CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const
-{
-    CSize size;
-    ::GetTextExtentPoint32A(m_hDC, lpszString, nCount, &size);
-    return size;
 }
 
 // ---- Contexts of windows ----

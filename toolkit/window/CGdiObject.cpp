@@ -1,29 +1,28 @@
-#include "threadstate.h"
+// Pens, brushes, fonts and bitmaps, and the objects of their handles.
+#include "ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CGdiObject, CObject)
 IMPLEMENT_DYNAMIC(CPen, CGdiObject)
 IMPLEMENT_DYNAMIC(CBrush, CGdiObject)
 IMPLEMENT_DYNAMIC(CFont, CGdiObject)
 IMPLEMENT_DYNAMIC(CBitmap, CGdiObject)
-IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
 
-static GdiMap<CGdiObject>& PermanentObjects()
+namespace {
+
+GdiMap<CGdiObject>& GetPermanentObjects()
 {
     return std::get<GdiMap<CGdiObject>>(ThreadState::Current().drawingObjects);
 }
 
-// The permanent objects of all classes stand in one map, the temporary ones in a map for each class.
+// The permanent objects of all classes are in one map; the temporary ones are in a map for each class.
 template <class Object>
-static Object* ObjectFromHandle(HGDIOBJ handle)
+Object* ObjectFromHandle(HGDIOBJ hObject)
 {
-    if (auto* object = dynamic_cast<Object*>(PermanentObjects().Permanent(handle)))
-        return object;
-    return std::get<GdiMap<Object>>(ThreadState::Current().drawingObjects).FromHandle(handle);
+    if (auto* pObject = dynamic_cast<Object*>(GetPermanentObjects().Permanent(hObject)))
+        return pObject;
+    return std::get<GdiMap<Object>>(ThreadState::Current().drawingObjects).FromHandle(hObject);
 }
 
-CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject)
-{
-    return ObjectFromHandle<CGdiObject>(hObject);
 }
 
 CPen* CPen::FromHandle(HPEN hPen)
@@ -46,17 +45,12 @@ CBitmap* CBitmap::FromHandle(HBITMAP hBitmap)
     return ObjectFromHandle<CBitmap>(hBitmap);
 }
 
-CRgn* CRgn::FromHandle(HRGN hRgn)
-{
-    return ObjectFromHandle<CRgn>(hRgn);
-}
-
 BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
     if (!hObject || m_hObject)
         return FALSE;
     m_hObject = hObject;
-    PermanentObjects().Attach(hObject, this);
+    GetPermanentObjects().Attach(hObject, this);
     return TRUE;
 }
 
@@ -64,7 +58,7 @@ HGDIOBJ CGdiObject::Detach()
 {
     const HGDIOBJ hObject = std::exchange(m_hObject, nullptr);
     if (hObject)
-        PermanentObjects().Detach(hObject, this);
+        GetPermanentObjects().Detach(hObject, this);
     return hObject;
 }
 

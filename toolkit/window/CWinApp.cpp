@@ -1,4 +1,5 @@
-#include "wndproc.h"
+// The message loop, the filter that stands in for it in other loops, and the application.
+#include "WndProc.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
@@ -7,13 +8,13 @@ IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 int CWinThread::Run()
 {
-    LONG idleCount = 0;
+    LONG lIdleCount = 0;
     for (;;) {
-        while (!::PeekMessageA(&m_msgCur, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(idleCount))
-            ++idleCount;
+        while (!::PeekMessageA(&m_msgCur, nullptr, 0, 0, PM_NOREMOVE) && OnIdle(lIdleCount))
+            ++lIdleCount;
         if (!PumpMessage())
-            return ExitInstance();
-        idleCount = 0;
+            return m_msgCur.message == WM_QUIT ? static_cast<int>(m_msgCur.wParam) : 0;
+        lIdleCount = 0;
     }
 }
 
@@ -40,11 +41,6 @@ BOOL CWinThread::OnIdle(LONG lCount)
     return FALSE;
 }
 
-int CWinThread::ExitInstance()
-{
-    return m_msgCur.message == WM_QUIT ? static_cast<int>(m_msgCur.wParam) : 0;
-}
-
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
 {
     return EndHandlerException(e, *pMsg);
@@ -52,23 +48,27 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg)
 
 BOOL AfxPreTranslateMessage(MSG* pMsg)
 {
-    CWinApp* app = AfxGetApp();
-    return app ? app->PreTranslateMessage(pMsg) : CWnd::WalkPreTranslateTree(nullptr, pMsg);
+    CWinApp* pApp = AfxGetApp();
+    return pApp ? pApp->PreTranslateMessage(pMsg) : CWnd::WalkPreTranslateTree(nullptr, pMsg);
 }
 
-// Stands in for PumpMessage where the loop is another one's: a dialog's, or that of a host that offers its
-// messages.
-static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam) noexcept
+namespace {
+
+// Does the work of PumpMessage where the loop is not CWinThread's: in a dialog's loop, or in that of a host
+// that hands its messages to CallMsgFilter.
+LRESULT CALLBACK FilterMessage(int nCode, WPARAM wParam, LPARAM lParam) noexcept
 {
     ThreadState& state = ThreadState::Current();
-    auto* message = reinterpret_cast<MSG*>(lParam);
-    if ((code == MSGF_USER || code == MSGF_DIALOGBOX) && !MessageOffer::IsAtHand(*message)) {
-        if (GuardFromExceptions(*message, [=] { return AfxPreTranslateMessage(message); }))
+    auto* pMsg = reinterpret_cast<MSG*>(lParam);
+    if ((nCode == MSGF_USER || nCode == MSGF_DIALOGBOX) && !MessageOffer::IsAtHand(*pMsg)) {
+        if (GuardFromExceptions(*pMsg, [=] { return AfxPreTranslateMessage(pMsg); }))
             return TRUE;
-        if (code == MSGF_USER && state.depth == 0)
+        if (nCode == MSGF_USER && state.nDepth == 0)
             state.DeleteTemporary();
     }
-    return ::CallNextHookEx(state.messageFilter, code, wParam, lParam);
+    return ::CallNextHookEx(state.hMessageFilter, nCode, wParam, lParam);
+}
+
 }
 
 // ---- The application ----
@@ -76,7 +76,6 @@ static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam) no
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName)
 {
     AfxGetModuleState()->m_pCurrentWinApp = this;
-    m_hInstance = AfxGetInstanceHandle();
 }
 
 CWinApp::~CWinApp()
@@ -86,24 +85,19 @@ CWinApp::~CWinApp()
         module.m_pCurrentWinApp = nullptr;
 }
 
-BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPCTSTR lpCmdLine, int nCmdShow)
+BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPCTSTR, int)
 {
     AFX_MODULE_STATE& module = *AfxGetModuleState();
     if (hInstance)
         module.m_hCurrentInstanceHandle = module.m_hCurrentResourceHandle = hInstance;
-    if (CWinApp* app = module.m_pCurrentWinApp) {
-        app->m_hInstance = module.m_hCurrentInstanceHandle;
-        app->m_lpCmdLine = lpCmdLine;
-        app->m_nCmdShow = nCmdShow;
-    }
 
     const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_WIN95_CLASSES};
     ::InitCommonControlsEx(&controls);
 
-    HHOOK& filter = ThreadState::Current().messageFilter;
-    if (!filter)
-        filter = ::SetWindowsHookExA(WH_MSGFILTER, &FilterMessage, nullptr, ::GetCurrentThreadId());
-    return filter != nullptr;
+    HHOOK& hFilter = ThreadState::Current().hMessageFilter;
+    if (!hFilter)
+        hFilter = ::SetWindowsHookExA(WH_MSGFILTER, &FilterMessage, nullptr, ::GetCurrentThreadId());
+    return hFilter != nullptr;
 }
 
 CWinApp* AfxGetApp()
@@ -111,8 +105,9 @@ CWinApp* AfxGetApp()
     return AfxGetModuleState()->m_pCurrentWinApp;
 }
 
-CWnd* AfxGetMainWnd()
+int AfxMessageBox(LPCTSTR lpszText, UINT nType)
 {
-    CWinApp* app = AfxGetApp();
-    return app ? app->GetMainWnd() : nullptr;
+    CWinApp* pApp = AfxGetApp();
+    const UINT nIcon = nType & MB_ICONMASK ? 0 : static_cast<UINT>(MB_ICONEXCLAMATION);
+    return ::MessageBoxA(::GetActiveWindow(), lpszText, pApp ? pApp->m_strAppName : nullptr, nType | nIcon);
 }

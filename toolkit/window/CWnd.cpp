@@ -1,5 +1,5 @@
-#include "threadstate.h"
-#include "wndproc.h"
+// The life of a window and its object, and the way of messages to their handlers.
+#include "WndProc.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
@@ -9,6 +9,20 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
+namespace {
+
+// Finds out whether an update handler disables a command.
+class EnabledProbe : public CCmdUI
+{
+public:
+    explicit EnabledProbe(UINT nID) { m_nID = nID; }
+    void Enable(BOOL bOn) override { m_bEnabled = bOn; }
+
+    BOOL m_bEnabled = TRUE;
+};
+
+}
+
 // ---- Handle and object ----
 
 CWnd::~CWnd()
@@ -16,7 +30,7 @@ CWnd::~CWnd()
     if (!m_hWnd)
         return;
     ::DestroyWindow(m_hWnd);
-    Detach(); // a window that was attached and not subclassed told nothing of its end
+    Detach(); // a window that is attached and not subclassed sends this object no message of its end
 }
 
 CWnd* CWnd::FromHandle(HWND hWnd)
@@ -42,7 +56,7 @@ HWND CWnd::Detach()
 {
     if (!m_hWnd)
         return nullptr;
-    EnableToolTips(FALSE); // while the tip's tool can still be told by the handle
+    EnableToolTips(FALSE); // needs the handle to find the tool
     ThreadState::Current().windows.Detach(m_hWnd, this);
     return std::exchange(m_hWnd, nullptr);
 }
@@ -51,7 +65,6 @@ BOOL CWnd::SubclassWindow(HWND hWnd)
 {
     if (!Attach(hWnd))
         return FALSE;
-    PreSubclassWindow();
     m_pfnSuper = SetWindowProcedure(hWnd, &CWnd::Procedure);
     return TRUE;
 }
@@ -64,27 +77,17 @@ HWND CWnd::UnsubclassWindow()
 
 void CWnd::RestoreProcedure()
 {
-    const WNDPROC super = std::exchange(m_pfnSuper, nullptr);
-    if (super && GetWindowProcedure(m_hWnd) == &CWnd::Procedure)
-        SetWindowProcedure(m_hWnd, super);
+    const WNDPROC pfnSuper = std::exchange(m_pfnSuper, nullptr);
+    if (pfnSuper && GetWindowProcedure(m_hWnd) == &CWnd::Procedure)
+        SetWindowProcedure(m_hWnd, pfnSuper);
 }
 
 // ---- Creation and end ----
 
-void CWnd::PreSubclassWindow() {}
-
-BOOL CWnd::PreCreateWindow(CREATESTRUCTA& cs)
+BOOL CWnd::CreateChild(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                       CWnd* pParentWnd, UINT nID)
 {
-    if (!cs.lpszClass)
-        cs.lpszClass =
-            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorA(nullptr, IDC_ARROW));
-    return TRUE;
-}
-
-BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID, CCreateContext* pContext)
-{
-    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID, pContext);
+    return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
@@ -101,29 +104,13 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     if (m_hWnd)
         return FALSE;
 
-    CREATESTRUCTA cs{};
-    cs.dwExStyle = dwExStyle;
-    cs.lpszClass = lpszClassName;
-    cs.lpszName = lpszWindowName;
-    cs.style = static_cast<LONG>(dwStyle);
-    cs.x = x;
-    cs.y = y;
-    cs.cx = nWidth;
-    cs.cy = nHeight;
-    cs.hwndParent = hWndParent;
-    cs.hMenu = nIDorHMenu;
-    cs.hInstance = AfxGetInstanceHandle();
-    cs.lpCreateParams = lpParam;
-    if (!PreCreateWindow(cs)) {
-        PostNcDestroy();
-        return FALSE;
-    }
-
-    CreationHook hook(this, cs.lpszClass);
-    const HWND hWnd =
-        ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x, cs.y,
-                          cs.cx, cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
-    // A window that came and went again has called this itself, and the object may be gone.
+    if (!lpszClassName)
+        lpszClassName =
+            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorA(nullptr, IDC_ARROW));
+    CreationHook hook(this, lpszClassName);
+    const HWND hWnd = ::CreateWindowExA(dwExStyle, lpszClassName, lpszWindowName, dwStyle, x, y, nWidth,
+                                        nHeight, hWndParent, nIDorHMenu, AfxGetInstanceHandle(), lpParam);
+    // A window that came and went again has called PostNcDestroy itself, and the object may be gone.
     if (!hook.HasCaught())
         PostNcDestroy();
     return hWnd != nullptr;
@@ -134,11 +121,11 @@ BOOL CWnd::DestroyWindow()
     if (!m_hWnd)
         return FALSE;
     const HWND hWnd = m_hWnd;
-    const bool subclassed = m_pfnSuper != nullptr;
-    const BOOL result = ::DestroyWindow(hWnd);
-    if (result && !subclassed)
+    const bool bSubclassed = m_pfnSuper != nullptr;
+    const BOOL bResult = ::DestroyWindow(hWnd);
+    if (bResult && !bSubclassed)
         Detach();
-    return result;
+    return bResult;
 }
 
 void CWnd::OnNcDestroy()
@@ -154,8 +141,8 @@ void CWnd::PostNcDestroy() {}
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    LRESULT result = 0;
-    return OnWndMsg(message, wParam, lParam, &result) ? result : DefWindowProc(message, wParam, lParam);
+    LRESULT lResult = 0;
+    return OnWndMsg(message, wParam, lParam, &lResult) ? lResult : DefWindowProc(message, wParam, lParam);
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
@@ -165,29 +152,15 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     if (message == WM_NOTIFY)
         return OnNotify(wParam, lParam, pResult);
 
-    const AFX_MSGMAP_ENTRY* entry = FindEntry(message, 0, 0);
-    if (!entry)
+    const AFX_MSGMAP_ENTRY* pEntry = FindEntry(message, 0, 0);
+    if (!pEntry)
         return FALSE;
     AFX_EVENT event;
     event.wParam = wParam;
     event.lParam = lParam;
-    const bool handled = entry->pfnHandler(this, event);
+    const bool bHandled = pEntry->pfnHandler(this, event);
     *pResult = event.lResult;
-    return handled;
-}
-
-namespace {
-/// Finds out whether an update handler disables a command.
-class EnabledProbe : public CCmdUI
-{
-public:
-    explicit EnabledProbe(UINT nID) { m_nID = nID; }
-    void Enable(BOOL bOn) override { m_bEnabled = bOn; }
-    void SetCheck(int) override {}
-    void SetText(LPCTSTR) override {}
-
-    BOOL m_bEnabled = TRUE;
-};
+    return bHandled;
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
@@ -195,57 +168,59 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     const UINT nID = LOWORD(wParam);
     const auto hWndCtrl = reinterpret_cast<HWND>(lParam);
     if (hWndCtrl) {
-        LRESULT result = 0;
-        return ReflectToChild(hWndCtrl, WM_COMMAND, wParam, lParam, &result) ||
-               OnCmdMsg(nID, HIWORD(wParam), nullptr, nullptr);
+        LRESULT lResult = 0;
+        return ReflectToChild(hWndCtrl, WM_COMMAND, wParam, lParam, &lResult) ||
+               OnCmdMsg(nID, HIWORD(wParam), nullptr);
     }
 
-    // From a menu or an accelerator, which doesn't look at the state of the item.
+    // The command comes from a menu or an accelerator, and the accelerator does not know whether the item is
+    // disabled.
     EnabledProbe probe(nID);
-    OnCmdMsg(nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, nullptr);
-    return !probe.m_bEnabled || OnCmdMsg(nID, CN_COMMAND, nullptr, nullptr);
+    OnCmdMsg(nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe);
+    return !probe.m_bEnabled || OnCmdMsg(nID, CN_COMMAND, nullptr);
 }
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    auto* header = reinterpret_cast<NMHDR*>(lParam);
-    if (!header)
+    auto* pHeader = reinterpret_cast<NMHDR*>(lParam);
+    if (!pHeader)
         return FALSE;
-    if (ReflectToChild(header->hwndFrom, WM_NOTIFY, wParam, lParam, pResult))
+    if (ReflectToChild(pHeader->hwndFrom, WM_NOTIFY, wParam, lParam, pResult))
         return TRUE;
 
-    // The parameter of the message may be a window's handle, as in the tool tip's; the id is the control's
-    // own.
-    const UINT nID = LOWORD(::GetDlgCtrlID(header->hwndFrom));
-    AFX_NOTIFY notify = {pResult, header};
-    return OnCmdMsg(nID, static_cast<int>(MAKELONG(header->code, WM_NOTIFY)), &notify, nullptr);
+    // The id in the message may be the handle of a window, as in those of the tool tip, so the control is
+    // asked for its id.
+    const UINT nID = LOWORD(::GetDlgCtrlID(pHeader->hwndFrom));
+    AFX_NOTIFY notify = {pResult, pHeader};
+    return OnCmdMsg(nID, static_cast<int>(MAKELONG(pHeader->code, WM_NOTIFY)), &notify);
 }
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     const MSG& message = *GetCurrentMessage();
-    LRESULT result = 0;
+    LRESULT lResult = 0;
     if (lpDrawItemStruct->CtlType != ODT_MENU &&
-        ReflectToChild(lpDrawItemStruct->hwndItem, WM_DRAWITEM, message.wParam, message.lParam, &result))
+        ReflectToChild(lpDrawItemStruct->hwndItem, WM_DRAWITEM, message.wParam, message.lParam, &lResult))
         return;
     Default();
 }
 
-// Comes while the control is being created, when only its id is told.
+// The message comes while the control is being created, and tells only its id.
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
 {
     const MSG& message = *GetCurrentMessage();
-    LRESULT result = 0;
+    LRESULT lResult = 0;
     if (lpMeasureItemStruct->CtlType != ODT_MENU &&
-        ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM, message.wParam, message.lParam, &result))
+        ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM, message.wParam, message.lParam,
+                       &lResult))
         return;
     Default();
 }
 
 BOOL CWnd::ReflectToChild(HWND hWndChild, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    CWnd* child = FromHandlePermanent(hWndChild);
-    return child && child->OnChildNotify(message, wParam, lParam, pResult);
+    CWnd* pChild = FromHandlePermanent(hWndChild);
+    return pChild && pChild->OnChildNotify(message, wParam, lParam, pResult);
 }
 
 BOOL CWnd::OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*)
@@ -262,7 +237,7 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT CWnd::Default()
 {
     const MSG& message = *GetCurrentMessage();
-    // A handler called by hand, from the handler of another window's message, has no default to run.
+    // In a handler that was called by hand the message at hand may be another window's.
     return message.hwnd == m_hWnd ? DefWindowProc(message.message, message.wParam, message.lParam) : 0;
 }
 
@@ -275,8 +250,8 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 {
     const MessageOffer offer(*pMsg);
     for (HWND hWnd = pMsg->hwnd; hWnd; hWnd = ::GetParent(hWnd)) {
-        CWnd* window = FromHandlePermanent(hWnd);
-        if (window && window->PreTranslateMessage(pMsg))
+        CWnd* pWnd = FromHandlePermanent(hWnd);
+        if (pWnd && pWnd->PreTranslateMessage(pMsg))
             return TRUE;
         if (hWnd == hWndStop)
             break;
@@ -284,22 +259,12 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
     return FALSE;
 }
 
-// ---- Calls with more to them than the call ----
-
-void CWnd::ScreenToClient(LPRECT lpRect) const
-{
-    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
-}
-
-void CWnd::ClientToScreen(LPRECT lpRect) const
-{
-    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(lpRect), 2);
-}
+// ---- Calls that need more than the arguments passed on ----
 
 void CWnd::GetWindowText(CString& rString) const
 {
-    const int length = ::GetWindowTextLengthA(m_hWnd);
-    ::GetWindowTextA(m_hWnd, rString.GetBuffer(length), length + 1);
+    const int nLength = ::GetWindowTextLengthA(m_hWnd);
+    ::GetWindowTextA(m_hWnd, rString.GetBuffer(nLength), nLength + 1);
     rString.ReleaseBuffer();
 }
 
@@ -307,9 +272,4 @@ void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
     ::SendMessageA(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont ? pFont->m_hObject : nullptr),
                    MAKELPARAM(bRedraw, 0));
-}
-
-BOOL CWnd::RedrawWindow(LPCRECT lpRect, CRgn* pRgn, UINT flags)
-{
-    return ::RedrawWindow(m_hWnd, lpRect, pRgn ? static_cast<HRGN>(*pRgn) : nullptr, flags);
 }

@@ -1,18 +1,43 @@
 // The tool tip that the toolkit shows for the children of a window.
-#include "threadstate.h"
+#include "ThreadState.h"
+
+namespace {
+
+void DeleteSharedTool(SharedToolTip& shared)
+{
+    if (shared.tool.hwnd && shared.control.m_hWnd)
+        shared.control.SendMessage(TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&shared.tool));
+    shared.tool = {};
+}
+
+bool HoldsPoint(HWND hWndChild, POINT ptScreen)
+{
+    RECT rect;
+    return (::GetWindowLongA(hWndChild, GWL_STYLE) & WS_VISIBLE) && ::GetWindowRect(hWndChild, &rect) &&
+           ::PtInRect(&rect, ptScreen);
+}
+
+// Turns a message of the pointer into one to the window of the tool. The message is addressed to the parent
+// if that window is disabled.
+MSG AddressToTool(const MSG& message, const TOOLINFOA& tool)
+{
+    if (!(tool.uFlags & TTF_IDISHWND))
+        return message;
+    MSG addressed = message;
+    addressed.hwnd = reinterpret_cast<HWND>(tool.uId);
+    CPoint point(message.lParam);
+    ::MapWindowPoints(message.hwnd, addressed.hwnd, &point, 1);
+    addressed.lParam = MAKELPARAM(point.x, point.y);
+    return addressed;
+}
+
+}
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg)
 {
     if (m_bToolTips && pMsg)
         FilterToolTipMessage(pMsg);
     return FALSE;
-}
-
-static void DeleteSharedTool(SharedToolTip& shared)
-{
-    if (shared.tool.hwnd && shared.control.m_hWnd)
-        shared.control.SendMessage(TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&shared.tool));
-    shared.tool = {};
 }
 
 BOOL CWnd::EnableToolTips(BOOL bEnable)
@@ -24,41 +49,21 @@ BOOL CWnd::EnableToolTips(BOOL bEnable)
     return TRUE;
 }
 
-static bool HoldsPoint(HWND hWndChild, POINT screenPoint)
-{
-    RECT rect;
-    return (::GetWindowLongA(hWndChild, GWL_STYLE) & WS_VISIBLE) && ::GetWindowRect(hWndChild, &rect) &&
-           ::PtInRect(&rect, screenPoint);
-}
-
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFOA* pTI) const
 {
-    ClientToScreen(&point);
-    HWND child = ::GetWindow(m_hWnd, GW_CHILD);
-    while (child && !HoldsPoint(child, point))
-        child = ::GetWindow(child, GW_HWNDNEXT);
-    if (!child)
+    ::ClientToScreen(m_hWnd, &point);
+    HWND hChild = ::GetWindow(m_hWnd, GW_CHILD);
+    while (hChild && !HoldsPoint(hChild, point))
+        hChild = ::GetWindow(hChild, GW_HWNDNEXT);
+    if (!hChild)
         return -1;
     if (pTI) {
         pTI->hwnd = m_hWnd;
         pTI->uFlags = TTF_IDISHWND;
-        pTI->uId = reinterpret_cast<UINT_PTR>(child);
+        pTI->uId = reinterpret_cast<UINT_PTR>(hChild);
         pTI->lpszText = LPSTR_TEXTCALLBACK;
     }
-    return ::GetDlgCtrlID(child);
-}
-
-// The tool's window gets the pointer's messages, except a disabled one, whose parent gets them.
-static MSG AddressToTool(const MSG& message, const TOOLINFOA& tool)
-{
-    if (!(tool.uFlags & TTF_IDISHWND))
-        return message;
-    MSG addressed = message;
-    addressed.hwnd = reinterpret_cast<HWND>(tool.uId);
-    CPoint point(message.lParam);
-    ::MapWindowPoints(message.hwnd, addressed.hwnd, &point, 1);
-    addressed.lParam = MAKELPARAM(point.x, point.y);
-    return addressed;
+    return ::GetDlgCtrlID(hChild);
 }
 
 void CWnd::FilterToolTipMessage(MSG* pMsg)
@@ -80,7 +85,7 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
         DeleteSharedTool(shared);
         return;
     }
-    // The control goes with the top-level window that owns it.
+    // The tip is destroyed together with the top-level window that owns it, and is then made anew.
     if (!shared.control.m_hWnd && !shared.control.Create(this, TTS_ALWAYSTIP))
         return;
     if (tool.hwnd != shared.tool.hwnd || tool.uId != shared.tool.uId) {

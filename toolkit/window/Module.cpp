@@ -1,4 +1,7 @@
-#include <afxwin.h>
+// The modules of the process, the search for resources in them, and the window classes that the toolkit
+// registers.
+#include <afxapp_.h>
+#include <afxdll_.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -9,19 +12,32 @@
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
-static AFX_MODULE_STATE* MakeModuleState()
+namespace {
+
+AFX_MODULE_STATE* MakeModuleState()
 {
-    auto state = std::make_unique<AFX_MODULE_STATE>();
-    state->m_hCurrentInstanceHandle = state->m_hCurrentResourceHandle = ::GetModuleHandleA(nullptr);
-    return state.release();
+    auto pState = std::make_unique<AFX_MODULE_STATE>();
+    pState->m_hCurrentInstanceHandle = pState->m_hCurrentResourceHandle = ::GetModuleHandleA(nullptr);
+    return pState.release();
 }
 
-// Modules come before the static objects and go after them, so that the state stays to the end of the
-// process.
+std::string MakeWndClassName(const WNDCLASSA& attributes)
+{
+    char szName[128];
+    std::snprintf(szName, sizeof szName, "AfxWnd:%p:%x:%p:%p:%p", static_cast<void*>(attributes.hInstance),
+                  attributes.style, static_cast<void*>(attributes.hCursor),
+                  static_cast<void*>(attributes.hbrBackground), static_cast<void*>(attributes.hIcon));
+    return szName;
+}
+
+}
+
+// Modules are attached before the static objects are made and detached after these are deleted, so the state
+// stays to the end of the process.
 AFX_MODULE_STATE* AfxGetModuleState()
 {
-    static AFX_MODULE_STATE* const state = MakeModuleState();
-    return state;
+    static AFX_MODULE_STATE* const s_pState = MakeModuleState();
+    return s_pState;
 }
 
 HINSTANCE AfxGetInstanceHandle()
@@ -34,9 +50,9 @@ HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType)
     const AFX_MODULE_STATE& state = *AfxGetModuleState();
     if (::FindResourceA(state.m_hCurrentResourceHandle, lpszName, lpszType))
         return state.m_hCurrentResourceHandle;
-    for (const CDynLinkLibrary* library : state.m_libraries)
-        if (library->m_hResource && ::FindResourceA(library->m_hResource, lpszName, lpszType))
-            return library->m_hResource;
+    for (const CDynLinkLibrary* pLibrary : state.m_vLibraries)
+        if (pLibrary->m_hResource && ::FindResourceA(pLibrary->m_hResource, lpszName, lpszType))
+            return pLibrary->m_hResource;
     return state.m_hCurrentResourceHandle;
 }
 
@@ -54,41 +70,34 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL)
 {
     if (!state.bInitialized)
         return;
-    const std::vector<CDynLinkLibrary*> libraries = AfxGetModuleState()->m_libraries;
-    for (CDynLinkLibrary* library : libraries)
-        if (library->m_hModule == state.hModule)
-            delete library;
+    const std::vector<CDynLinkLibrary*> vLibraries =
+        AfxGetModuleState()->m_vLibraries; // a copy: the end of each changes it
+    for (CDynLinkLibrary* pLibrary : vLibraries)
+        if (pLibrary->m_hModule == state.hModule)
+            delete pLibrary;
     state = {};
 }
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL)
     : m_hModule(state.hModule), m_hResource(state.hResource)
 {
-    auto& libraries = AfxGetModuleState()->m_libraries;
-    libraries.insert(libraries.begin(), this);
+    auto& vLibraries = AfxGetModuleState()->m_vLibraries;
+    vLibraries.insert(vLibraries.begin(), this);
 }
 
 CDynLinkLibrary::~CDynLinkLibrary()
 {
-    std::erase(AfxGetModuleState()->m_libraries, this);
+    std::erase(AfxGetModuleState()->m_vLibraries, this);
 }
 
 // ---- Window classes ----
 
-static std::string NameWndClass(const WNDCLASSA& attributes)
-{
-    char name[128];
-    std::snprintf(name, sizeof name, "AfxWnd:%p:%x:%p:%p:%p", static_cast<void*>(attributes.hInstance),
-                  attributes.style, static_cast<void*>(attributes.hCursor),
-                  static_cast<void*>(attributes.hbrBackground), static_cast<void*>(attributes.hIcon));
-    return name;
-}
-
 LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon)
 {
-    static std::mutex mutex;
-    static std::set<std::string>& names = *new std::set<std::string>; // the names outlive the static objects
-    const std::lock_guard lock(mutex);
+    static std::mutex s_mutex;
+    static std::set<std::string>& s_names =
+        *new std::set<std::string>; // never deleted: the names must stay valid
+    const std::lock_guard lock(s_mutex);
 
     WNDCLASSA wndClass{};
     wndClass.style = nClassStyle;
@@ -98,10 +107,10 @@ LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackgro
     wndClass.hCursor = hCursor;
     wndClass.hbrBackground = hbrBackground;
 
-    const auto [name, isNew] = names.insert(NameWndClass(wndClass));
+    const auto [name, bNew] = s_names.insert(MakeWndClassName(wndClass));
     wndClass.lpszClassName = name->c_str();
-    if (isNew && !::RegisterClassA(&wndClass)) {
-        names.erase(name);
+    if (bNew && !::RegisterClassA(&wndClass)) {
+        s_names.erase(name);
         AfxThrowResourceException();
     }
     return name->c_str();

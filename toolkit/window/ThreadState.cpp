@@ -1,39 +1,42 @@
-#include "threadstate.h"
+// The state of each thread, from its first use to the end of the thread.
+#include "ThreadState.h"
 
 namespace {
-thread_local ThreadState* t_current = nullptr;
+
+thread_local ThreadState* t_pCurrent = nullptr;
 
 struct EndOfThread
 {
     ~EndOfThread()
     {
-        delete t_current;
-        t_current = nullptr;
+        delete t_pCurrent;
+        t_pCurrent = nullptr;
     }
 };
+
 }
 
-// Objects that outlive the thread's own (static ones, as a rule) find a new and empty state, which stays.
+// An object that is deleted after the state, as static objects are, makes a new and empty state, which is
+// never deleted.
 ThreadState& ThreadState::Current()
 {
-    if (!t_current) {
-        t_current = new ThreadState;
+    if (!t_pCurrent) {
+        t_pCurrent = new ThreadState;
         thread_local EndOfThread end;
         static_cast<void>(end);
     }
-    return *t_current;
+    return *t_pCurrent;
 }
 
 ThreadState::~ThreadState()
 {
-    if (messageFilter)
-        ::UnhookWindowsHookEx(messageFilter);
+    if (hMessageFilter)
+        ::UnhookWindowsHookEx(hMessageFilter);
 }
 
 void ThreadState::DeleteTemporary()
 {
     windows.DeleteTemporary();
-    menus.DeleteTemporary();
     contexts.DeleteTemporary();
     std::apply([](auto&... maps) { (maps.DeleteTemporary(), ...); }, drawingObjects);
 }

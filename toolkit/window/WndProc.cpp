@@ -1,18 +1,20 @@
-#include "wndproc.h"
+// The window procedure of all windows that have an object, and the hook that gives a new window its object.
+#include "WndProc.h"
 
 namespace {
-/// The message at hand, for as long as its window procedure is at work.
+
+// Makes a message the one at hand, for as long as its window procedure is at work.
 class CurrentMessage
 {
 public:
     explicit CurrentMessage(const MSG& message)
         : m_state(ThreadState::Current()), m_outer(std::exchange(m_state.message, message))
     {
-        ++m_state.depth;
+        ++m_state.nDepth;
     }
     ~CurrentMessage()
     {
-        --m_state.depth;
+        --m_state.nDepth;
         m_state.message = m_outer;
     }
     CurrentMessage(const CurrentMessage&) = delete;
@@ -20,22 +22,33 @@ public:
 
 private:
     ThreadState& m_state;
-    MSG m_outer;
+    MSG m_outer; // the message that was at hand before
 };
+
+// The system may create windows of other classes on the way to the one that was asked for.
+bool IsOfClass(HWND hWnd, LPCSTR lpszClassName)
+{
+    if (reinterpret_cast<UINT_PTR>(lpszClassName) <= 0xFFFF) // an atom
+        return true;
+    char szName[256];
+    ::GetClassNameA(hWnd, szName, static_cast<int>(sizeof szName));
+    return CString(szName).CompareNoCase(lpszClassName) == 0;
+}
+
 }
 
 bool MessageOffer::IsAtHand(const MSG& message)
 {
-    const MSG* const offered = ThreadState::Current().offered;
-    return offered && offered->hwnd == message.hwnd && offered->message == message.message &&
-           offered->wParam == message.wParam && offered->lParam == message.lParam &&
-           offered->time == message.time;
+    const MSG* const pOffered = ThreadState::Current().pOffered;
+    return pOffered && pOffered->hwnd == message.hwnd && pOffered->message == message.message &&
+           pOffered->wParam == message.wParam && pOffered->lParam == message.lParam &&
+           pOffered->time == message.time;
 }
 
 LRESULT CALLBACK CWnd::Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
-    CWnd* window = FromHandlePermanent(hWnd);
-    if (!window)
+    CWnd* pWnd = FromHandlePermanent(hWnd);
+    if (!pWnd)
         return ::DefWindowProcA(hWnd, message, wParam, lParam);
 
     MSG current{};
@@ -47,50 +60,40 @@ LRESULT CALLBACK CWnd::Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM 
     current.pt = CPoint(static_cast<LPARAM>(::GetMessagePos()));
 
     const CurrentMessage scope(current);
-    return GuardFromExceptions(current, [&] { return window->WindowProc(message, wParam, lParam); });
+    return GuardFromExceptions(current, [&] { return pWnd->WindowProc(message, wParam, lParam); });
 }
 
-LRESULT EndHandlerException(CException* exception, const MSG& message)
+LRESULT EndHandlerException(CException* pException, const MSG& message)
 {
-    exception->Delete();
+    pException->Delete();
     if (message.message == WM_PAINT)
-        ::ValidateRect(message.hwnd, nullptr); // else the message would come again at once, for ever
+        ::ValidateRect(message.hwnd, nullptr); // otherwise the message would come again at once, for ever
     return message.message == WM_CREATE ? -1 : 0;
 }
 
-CreationHook::CreationHook(CWnd* window, LPCSTR className)
+CreationHook::CreationHook(CWnd* pWnd, LPCSTR lpszClassName)
 {
-    m_state.creating = window;
-    m_state.creatingClass = className;
-    m_hook = ::SetWindowsHookExA(WH_CBT, &CreationHook::Catch, nullptr, ::GetCurrentThreadId());
+    m_state.pCreating = pWnd;
+    m_state.lpszCreatingClass = lpszClassName;
+    m_hHook = ::SetWindowsHookExA(WH_CBT, &CreationHook::Catch, nullptr, ::GetCurrentThreadId());
 }
 
 CreationHook::~CreationHook()
 {
-    m_state.creating = nullptr;
-    ::UnhookWindowsHookEx(m_hook);
+    m_state.pCreating = nullptr;
+    ::UnhookWindowsHookEx(m_hHook);
 }
 
 bool CreationHook::HasCaught() const
 {
-    return !m_state.creating;
+    return !m_state.pCreating;
 }
 
-// The system may create windows of its own on the way to the one that was asked for.
-static bool IsOfClass(HWND hWnd, LPCSTR className)
-{
-    if (reinterpret_cast<UINT_PTR>(className) <= 0xFFFF) // an atom
-        return true;
-    char name[256];
-    ::GetClassNameA(hWnd, name, static_cast<int>(sizeof name));
-    return CString(name).CompareNoCase(className) == 0;
-}
-
-LRESULT CALLBACK CreationHook::Catch(int code, WPARAM wParam, LPARAM lParam)
+LRESULT CALLBACK CreationHook::Catch(int nCode, WPARAM wParam, LPARAM lParam)
 {
     ThreadState& state = ThreadState::Current();
     const auto hWnd = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && state.creating && IsOfClass(hWnd, state.creatingClass))
-        std::exchange(state.creating, nullptr)->SubclassWindow(hWnd);
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    if (nCode == HCBT_CREATEWND && state.pCreating && IsOfClass(hWnd, state.lpszCreatingClass))
+        std::exchange(state.pCreating, nullptr)->SubclassWindow(hWnd);
+    return ::CallNextHookEx(nullptr, nCode, wParam, lParam);
 }

@@ -1,28 +1,25 @@
 // The system's dialogs.
 #pragma once
 
-#include <afxwin.h>
+#include <afxwnd_.h>
 #include <commdlg.h>
 
 #include <string>
 
-/// The dialog that asks for a printer and the pages to print. Owns the memory blocks that the dialog gives.
+// The dialog that asks for a printer and the pages to print. Owns the memory blocks that the dialog gives.
 class ZEB17_EXPORT CPrintDialog : public CWnd
 {
     DECLARE_DYNAMIC(CPrintDialog)
 public:
-    /// dwFlags: PD_ flags. With bPrintSetupOnly the dialog only sets the printer up.
-    explicit CPrintDialog(BOOL bPrintSetupOnly,
-                          DWORD dwFlags = PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS |
-                                          PD_HIDEPRINTTOFILE | PD_NOSELECTION,
-                          CWnd* pParentWnd = nullptr);
+    // All pages; the choice of pages and of a file is not offered.
+    CPrintDialog();
     ~CPrintDialog() override;
 
-    /// Shows the dialog: IDOK, or IDCANCEL for cancelled or failed.
+    // Shows the dialog, and gives IDOK, or IDCANCEL if it was cancelled or failed.
     virtual INT_PTR DoModal();
-    /// Fills in the standard printer without showing a dialog. False if there is none.
+    // Fills in the default printer without showing a dialog. False if there is none.
     BOOL GetDefaults();
-    /// The context that the dialog made; null without PD_RETURNDC. Whoever calls this deletes it.
+    // The context of the chosen printer. Who calls this deletes the context.
     HDC GetPrinterDC() const { return m_pd.hDC; }
 
     PRINTDLGA m_pd{};
@@ -31,37 +28,38 @@ private:
     void FreeBlocks();
 };
 
-/// The dialog that asks for a colour. The user's own colours last as long as the process.
+// The dialog that asks for a colour. The colours that the user mixes are remembered until the process ends.
 class ZEB17_EXPORT CColorDialog : public CWnd
 {
     DECLARE_DYNAMIC(CColorDialog)
 public:
-    /// clrInit: what is shown first. dwFlags: CC_ flags.
+    // clrInit: the colour that is shown first. dwFlags: CC_ flags.
     explicit CColorDialog(COLORREF clrInit = 0, DWORD dwFlags = 0, CWnd* pParentWnd = nullptr);
 
-    /// Shows the dialog: IDOK, or IDCANCEL for cancelled or failed.
+    // Shows the dialog, and gives IDOK, or IDCANCEL if it was cancelled or failed.
     virtual INT_PTR DoModal();
-    /// The colour chosen.
+    // The colour chosen.
     COLORREF GetColor() const { return m_cc.rgbResult; }
 
     CHOOSECOLORA m_cc{};
 };
 
-/// The dialog that asks for a file to open or to save to.
+// The dialog that asks for a file to open or to save to.
 class ZEB17_EXPORT CFileDialog : public CWnd
 {
     DECLARE_DYNAMIC(CFileDialog)
 public:
-    /// bOpenFileDialog: FALSE to save. lpszDefExt: for a name without an extension, without the dot.
-    /// lpszFileName: what is shown first. dwFlags: OFN_ flags. lpszFilter: descriptions and patterns in turn,
-    /// each ended by a bar, and one more bar at the end, as in "Texts (*.txt)|*.txt|All files|*.*||".
+    // bOpenFileDialog: TRUE to open a file, FALSE to save one. lpszDefExt: the extension that a name without
+    // one gets, without the dot. lpszFileName: the name that is shown first. dwFlags: OFN_ flags. lpszFilter:
+    // descriptions and patterns in turn, each ended by a bar, and one more bar at the end: "Texts
+    // (*.txt)|*.txt|All files|*.*||".
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr, LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCTSTR lpszFilter = nullptr,
                          CWnd* pParentWnd = nullptr);
 
-    /// Shows the dialog: IDOK, or IDCANCEL for cancelled or failed.
+    // Shows the dialog, and gives IDOK, or IDCANCEL if it was cancelled or failed.
     virtual INT_PTR DoModal();
-    /// The path chosen.
+    // The path chosen.
     CString GetPathName() const { return m_szPath; }
 
     OPENFILENAMEA m_ofn{};
@@ -69,6 +67,6 @@ public:
 private:
     BOOL m_bOpenFileDialog;
     CString m_strDefExt;
-    std::string m_filter; // with zero bytes within
+    std::string m_strFilter; // with a zero byte for each bar
     char m_szPath[1024] = {};
 };

@@ -1,22 +1,23 @@
-// Modules: what the process is made of, and where its resources are looked for.
+// The modules that a process is made of, and the search for resources in them. Included by afxwin.h.
 #pragma once
 
-#include <afxwin.h>
+#include <afxwnd_.h>
 
 #include <vector>
 
 class CDynLinkLibrary;
+class CWinApp;
 
-/// The state of the process's modules.
+// The state of the process's modules.
 struct AFX_MODULE_STATE
 {
     CWinApp* m_pCurrentWinApp = nullptr;
     HINSTANCE m_hCurrentInstanceHandle = nullptr;
-    HINSTANCE m_hCurrentResourceHandle = nullptr; ///< where resources are looked for first
-    std::vector<CDynLinkLibrary*> m_libraries;    ///< extension modules, the latest first
+    HINSTANCE m_hCurrentResourceHandle = nullptr; // where resources are looked for first
+    std::vector<CDynLinkLibrary*> m_vLibraries;   // the extension modules, the latest first
 };
 
-/// An extension module's own state, one static object in each.
+// What an extension module knows of itself: one static object in each module.
 struct AFX_EXTENSION_MODULE
 {
     BOOL bInitialized = FALSE;
@@ -24,13 +25,13 @@ struct AFX_EXTENSION_MODULE
     HMODULE hResource = nullptr;
 };
 
-/// Fills the state in. Called while the module is attached.
+// Fills the state in. To be called while the module is attached.
 ZEB17_EXPORT BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
-/// Deletes the CDynLinkLibrary of the module. Called while the module is detached.
+// Deletes the CDynLinkLibrary of the module. To be called while the module is detached.
 ZEB17_EXPORT void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
-/// Stands for an extension module in the chain of resources. Made by `new` while the module is attached, and
-/// deleted by AfxTermExtensionModule.
+// Makes the resources of an extension module known to AfxFindResourceHandle. To be made by `new` while the
+// module is attached; AfxTermExtensionModule deletes it.
 class ZEB17_EXPORT CDynLinkLibrary : public CCmdTarget
 {
     DECLARE_DYNAMIC(CDynLinkLibrary)
@@ -44,6 +45,6 @@ public:
 
 ZEB17_EXPORT AFX_MODULE_STATE* AfxGetModuleState();
 ZEB17_EXPORT HINSTANCE AfxGetInstanceHandle();
-/// The module that holds the resource: the current one, else the first extension module that has it, else the
-/// current one again.
+// The module that holds the resource: the current one if it does, or else the first extension module that
+// does; the current one if none does.
 ZEB17_EXPORT HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);

@@ -1,8 +1,8 @@
-// Drawing: the objects that a device context draws with, and device contexts.
+// Drawing: the objects that a device context draws with, and device contexts. Included by afxwin.h.
 //
-// An object owns the handle that it has created or that was attached to it, and releases it at its end. What
-// FromHandle gives owns nothing: it is the object that has the handle, or a temporary one that lives until
-// the message loop is idle.
+// An object owns the handle that it has created or that was attached to it, and releases the handle at its
+// end. FromHandle gives the object that owns the handle, or else a temporary object, which does not own the
+// handle and lives until the message loop is idle.
 #pragma once
 
 #include <afx.h>
@@ -13,7 +13,7 @@
 class CDC;
 class CWnd;
 
-/// A pen, brush, font, bitmap or region.
+// A pen, brush, font or bitmap.
 class ZEB17_EXPORT CGdiObject : public CObject
 {
     DECLARE_DYNAMIC(CGdiObject)
@@ -21,16 +21,14 @@ public:
     CGdiObject() = default;
     ~CGdiObject() override { DeleteObject(); }
 
-    static CGdiObject* FromHandle(HGDIOBJ hObject);
-    /// Takes the handle over. False if it is null or this object has one already.
+    // Takes the handle over. False if it is null or this object has one already.
     BOOL Attach(HGDIOBJ hObject);
-    /// Gives the handle away.
+    // Gives the handle away.
     HGDIOBJ Detach();
-    /// Releases the handle. False if there is none.
+    // Releases the handle. False if there is none.
     BOOL DeleteObject();
 
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
-    operator HGDIOBJ() const { return m_hObject; }
 
     HGDIOBJ m_hObject = nullptr;
 };
@@ -40,11 +38,11 @@ class ZEB17_EXPORT CPen : public CGdiObject
     DECLARE_DYNAMIC(CPen)
 public:
     CPen() = default;
-    /// Throws a CResourceException if the pen can't be made.
+    // Throws a CResourceException if the pen can't be made.
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
 
     static CPen* FromHandle(HPEN hPen);
-    /// Width in pixels; 0 is 1 pixel in every mapping.
+    // Width in pixels; 0 is 1 pixel in every mapping.
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
     {
         return Attach(::CreatePen(nPenStyle, nWidth, crColor));
@@ -57,7 +55,7 @@ class ZEB17_EXPORT CBrush : public CGdiObject
     DECLARE_DYNAMIC(CBrush)
 public:
     CBrush() = default;
-    /// Throws a CResourceException if the brush can't be made.
+    // Throws a CResourceException if the brush can't be made.
     explicit CBrush(COLORREF crColor);
 
     static CBrush* FromHandle(HBRUSH hBrush);
@@ -73,11 +71,6 @@ public:
 
     static CFont* FromHandle(HFONT hFont);
     BOOL CreateFontIndirect(const LOGFONTA* lpLogFont) { return Attach(::CreateFontIndirectA(lpLogFont)); }
-    /// Fills in the description of the font. False if there is no font.
-    BOOL GetLogFont(LOGFONTA* pLogFont) const
-    {
-        return ::GetObjectA(m_hObject, static_cast<int>(sizeof(LOGFONTA)), pLogFont) != 0;
-    }
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 };
 
@@ -92,84 +85,60 @@ public:
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 };
 
-class ZEB17_EXPORT CRgn : public CGdiObject
-{
-    DECLARE_DYNAMIC(CRgn)
-public:
-    CRgn() = default;
-
-    static CRgn* FromHandle(HRGN hRgn);
-    operator HRGN() const { return static_cast<HRGN>(m_hObject); }
-};
-
-/// A device context. Each call is the system's call of that name on the context's handle.
+// A device context. Each call is the system's call of that name on the context's handle.
 class ZEB17_EXPORT CDC : public CObject
 {
     DECLARE_DYNAMIC(CDC)
 public:
     CDC() = default;
-    /// Deletes the context, if there is one.
+    // Deletes the context, if there is one.
     ~CDC() override { DeleteDC(); }
 
     static CDC* FromHandle(HDC hDC);
-    /// Takes the handle over. False if it is null or this object has one already.
+    // Takes the handle over. False if it is null or this object has one already.
     BOOL Attach(HDC hDC);
-    /// Gives the handle away.
+    // Gives the handle away.
     HDC Detach();
     BOOL CreateCompatibleDC(CDC* pDC);
     BOOL DeleteDC();
     HDC GetSafeHdc() const { return m_hDC; }
     operator HDC() const { return m_hDC; }
-    CWnd* GetWindow() const;
-    BOOL IsPrinting() const { return m_bPrinting; }
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hDC, nIndex); }
 
-    /// Selects an object in and gives the one that was there, null on failure.
+    // Selects an object, and gives the one that was selected before; null on failure.
     CPen* SelectObject(CPen* pPen);
     CBrush* SelectObject(CBrush* pBrush);
     CFont* SelectObject(CFont* pFont);
     CBitmap* SelectObject(CBitmap* pBitmap);
 
     COLORREF SetBkColor(COLORREF crColor) { return ::SetBkColor(m_hDC, crColor); }
-    COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
     int SetBkMode(int nBkMode) { return ::SetBkMode(m_hDC, nBkMode); }
     COLORREF SetTextColor(COLORREF crColor) { return ::SetTextColor(m_hDC, crColor); }
     CPoint SetWindowOrg(int x, int y);
-    CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
 
-    /// Gives the place that was the current one.
+    // Gives the place from which the next line would have been drawn.
     CPoint MoveTo(int x, int y);
-    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
-    /// Draws up to the place, which itself stays undrawn.
+    // Draws up to the place, but not its own pixel.
     BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
-    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
     BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
-    BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
-    BOOL Rectangle(LPCRECT rc) { return Rectangle(rc->left, rc->top, rc->right, rc->bottom); }
-    int FillRect(LPCRECT lpRect, CBrush* pBrush) { return ::FillRect(m_hDC, lpRect, *pBrush); }
+    BOOL Rectangle(LPCRECT lpRect)
+    {
+        return ::Rectangle(m_hDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
     int FrameRect(LPCRECT lpRect, CBrush* pBrush) { return ::FrameRect(m_hDC, lpRect, *pBrush); }
     BOOL DrawFocusRect(LPCRECT lpRect) { return ::DrawFocusRect(m_hDC, lpRect); }
-    /// Fills the rectangle and leaves the colour as the context's background colour.
+    // Fills the rectangle. The background colour of the context is that colour afterwards.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr)
     {
         FillSolidRect(CRect(CPoint(x, y), CSize(cx, cy)), clr);
     }
-    COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
-    COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
-    COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
     BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
 
-    int DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
-    {
-        return ::DrawTextA(m_hDC, lpszString, nCount, lpRect, nFormat);
-    }
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat)
     {
-        return DrawText(str, str.GetLength(), lpRect, nFormat);
+        return ::DrawTextA(m_hDC, str, str.GetLength(), lpRect, nFormat);
     }
-    CSize GetTextExtent(LPCTSTR lpszString, int nCount) const;
-    CSize GetTextExtent(const CString& str) const { return GetTextExtent(str, str.GetLength()); }
     BOOL GetTextMetrics(TEXTMETRICA* lpMetrics) const { return ::GetTextMetricsA(m_hDC, lpMetrics); }
 
     int StartDoc(const DOCINFOA* lpDocInfo) { return ::StartDocA(m_hDC, lpDocInfo); }
@@ -179,19 +148,17 @@ public:
     int AbortDoc() { return ::AbortDoc(m_hDC); }
 
     HDC m_hDC = nullptr;
-    HDC m_hAttribDC = nullptr; ///< answers questions about attributes; the same as m_hDC
-    BOOL m_bPrinting = FALSE;  ///< set by whoever runs a print job
 
 private:
     HGDIOBJ SelectHandle(const CGdiObject* pObject);
 };
 
-/// The context of a WM_PAINT message, from BeginPaint to EndPaint.
+// The context of a WM_PAINT message, from BeginPaint to EndPaint.
 class ZEB17_EXPORT CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)
 public:
-    /// Throws a CResourceException if there is no context.
+    // Throws a CResourceException if there is no context.
     explicit CPaintDC(CWnd* pWnd);
     ~CPaintDC() override;
 
@@ -201,12 +168,12 @@ protected:
     HWND m_hWnd;
 };
 
-/// The context of a window's client area at any time.
+// The context of a window's client area at any time.
 class ZEB17_EXPORT CClientDC : public CDC
 {
     DECLARE_DYNAMIC(CClientDC)
 public:
-    /// A null window stands for the screen. Throws a CResourceException if there is no context.
+    // A null window stands for the screen. Throws a CResourceException if there is no context.
     explicit CClientDC(CWnd* pWnd);
     ~CClientDC() override;
 

@@ -1,4 +1,5 @@
 // Message maps: the tables that lead from a window message or a command to the member that handles it.
+// Included by afxwin.h.
 //
 //     class CMyWnd : public CWnd
 //     {
@@ -12,7 +13,7 @@
 //         ON_COMMAND(ID_FILE_OPEN, &CMyWnd::OnFileOpen)
 //     END_MESSAGE_MAP()
 //
-// A handler whose signature doesn't fit its macro doesn't compile.
+// A handler whose arguments or result do not fit its macro does not compile.
 #pragma once
 
 #include <type_traits>
@@ -29,22 +30,23 @@ class CWnd;
 
 #define afx_msg
 
-/// What a handler is called with, and what it answers.
+// The call of a handler: what it may need, and what it answers.
 struct AFX_EVENT
 {
     WPARAM wParam = 0;
     LPARAM lParam = 0;
-    UINT nID = 0;               ///< of a command or a notification
-    CCmdUI* pCmdUI = nullptr;   ///< of an update
-    NMHDR* pNMHDR = nullptr;    ///< of a notification
-    LRESULT* pResult = nullptr; ///< where a notification's handler writes its answer
-    LRESULT lResult = 0;        ///< the answer of a message's handler
+    UINT nID = 0;               // the id of a command or of the control of a notification
+    CCmdUI* pCmdUI = nullptr;   // the item that an update handler sets
+    NMHDR* pNMHDR = nullptr;    // what a notification tells
+    LRESULT* pResult = nullptr; // where the handler of a notification writes its answer
+    LRESULT lResult = 0;        // the answer of the handler of a message
 };
 
-/// Calls a handler of the target. Gives false when the handler passes the event on.
+// Calls a handler of the target. Gives false if the handler passes the event on.
 using AFX_HANDLER = bool (*)(CCmdTarget* pTarget, AFX_EVENT& event);
 
-/// A line of a message map. Commands and notifications match by message, code and id; all others by message.
+// A line of a message map. A command or a notification fits a line by message, code and id, any other message
+// by its number.
 struct AFX_MSGMAP_ENTRY
 {
     UINT nMessage;
@@ -54,14 +56,15 @@ struct AFX_MSGMAP_ENTRY
     AFX_HANDLER pfnHandler;
 };
 
-/// The lines of one class, ended by one without a handler, and the way to its base class's map.
+// The lines of one class, the last of which has no handler, and the function that gives the map of the base
+// class.
 struct AFX_MSGMAP
 {
     const AFX_MSGMAP* (*pfnGetBaseMap)();
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
-/// How the arguments of a handler come out of an event.
+// Each of these takes one argument of a handler out of an event.
 namespace AfxArg {
 inline UINT WParam(const AFX_EVENT& e)
 {
@@ -141,12 +144,12 @@ inline LRESULT* Result(const AFX_EVENT& e)
 }
 }
 
-/// Result of a handler whose BOOL says whether it has handled the event.
+// Stands for the result of a handler whose BOOL says whether it has handled the event.
 struct AfxHandled
 {
 };
 
-/// The signature of a handler: what it returns, and where each argument comes from.
+// The signature of a handler: what it returns, and where each argument comes from.
 template <class Result, auto... Arguments>
 struct AfxSignature
 {
@@ -161,7 +164,7 @@ struct AfxSignature
             (pTarget->*pfn)(Arguments(event)...);
             return true;
         } else {
-            event.lResult = (LRESULT)(pTarget->*pfn)(Arguments(event)...); // a number or a handle
+            event.lResult = static_cast<LRESULT>((pTarget->*pfn)(Arguments(event)...));
             return !std::is_same_v<Result, AfxHandled> || event.lResult != 0;
         }
     }
@@ -177,7 +180,6 @@ using Cursor = AfxSignature<BOOL, WParamWnd, LParamLow, LParamHigh>;
 using Focus = AfxSignature<void, WParamWnd>;
 using Activate = AfxSignature<void, WParamLow, LParamWnd, WParamHighBool>;
 using Key = AfxSignature<void, WParam, LParamLow, LParamHigh>;
-using Create = AfxSignature<int, LParamStruct<CREATESTRUCTA>>;
 using Erase = AfxSignature<BOOL, WParamDC>;
 using Timer = AfxSignature<void, TimerId>;
 using DrawItem = AfxSignature<void, ControlId, LParamStruct<DRAWITEMSTRUCT>>;
@@ -223,7 +225,7 @@ protected:                                                                      
                                         event);                                                              \
      }},
 
-// Commands: of menus (code 0), of controls, and the updates of the items that give them.
+// Commands of menus (code 0) and of controls, and the updates of menu items.
 #define CN_COMMAND 0
 #define CN_UPDATE_COMMAND_UI 0xFFFFU
 
@@ -236,7 +238,7 @@ protected:                                                                      
     AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, CommandRange, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 
-// Notifications. The codes are compared as 16-bit words.
+// Notifications. Only the low 16 bits of their codes are compared.
 #define ON_NOTIFY_EX_RANGE(wNotifyCode, id, idLast, memberFxn)                                               \
     AFX_MAP_ENTRY(WM_NOTIFY, wNotifyCode, id, idLast, NotifyEx, memberFxn)
 
@@ -249,7 +251,6 @@ protected:                                                                      
 
 #define ON_WM_ACTIVATE() AFX_MAP_WM(WM_ACTIVATE, Activate, OnActivate)
 #define ON_WM_CLOSE() AFX_MAP_WM(WM_CLOSE, Plain, OnClose)
-#define ON_WM_CREATE() AFX_MAP_WM(WM_CREATE, Create, OnCreate)
 #define ON_WM_DESTROY() AFX_MAP_WM(WM_DESTROY, Plain, OnDestroy)
 #define ON_WM_DRAWITEM() AFX_MAP_WM(WM_DRAWITEM, DrawItem, OnDrawItem)
 #define ON_WM_ERASEBKGND() AFX_MAP_WM(WM_ERASEBKGND, Erase, OnEraseBkgnd)
@@ -257,9 +258,7 @@ protected:                                                                      
 #define ON_WM_KILLFOCUS() AFX_MAP_WM(WM_KILLFOCUS, Focus, OnKillFocus)
 #define ON_WM_LBUTTONDBLCLK() AFX_MAP_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_LBUTTONDOWN() AFX_MAP_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
-#define ON_WM_LBUTTONUP() AFX_MAP_WM(WM_LBUTTONUP, Mouse, OnLButtonUp)
 #define ON_WM_MEASUREITEM() AFX_MAP_WM(WM_MEASUREITEM, MeasureItem, OnMeasureItem)
-#define ON_WM_MOUSELEAVE() AFX_MAP_WM(WM_MOUSELEAVE, Plain, OnMouseLeave)
 #define ON_WM_MOUSEMOVE() AFX_MAP_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() AFX_MAP_WM(WM_MOUSEWHEEL, Wheel, OnMouseWheel)
 #define ON_WM_NCDESTROY() AFX_MAP_WM(WM_NCDESTROY, Plain, OnNcDestroy)

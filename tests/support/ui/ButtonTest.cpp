@@ -39,10 +39,11 @@ public:
     std::vector<WPARAM> m_commands;
 
 protected:
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        m_commands.push_back(wParam);
-        return CWnd::OnCommand(wParam, lParam);
+        if (message == WM_COMMAND)
+            m_commands.push_back(wParam);
+        return CWnd::WindowProc(message, wParam, lParam);
     }
 };
 
@@ -138,7 +139,9 @@ TEST_F(ButtonTest, CaptionIsCentredAndMovesWhenPressed)
     const CRect rcNormal = FindContent(0);
     EXPECT_NEAR(rcNormal.CenterPoint().x, kWidth / 2, 1);
     EXPECT_NEAR(rcNormal.CenterPoint().y, kHeight / 2, 2);
-    EXPECT_EQ(FindContent(ODS_SELECTED), rcNormal + CPoint(1, 1));
+    CRect rcMoved(rcNormal);
+    rcMoved.OffsetRect(1, 1);
+    EXPECT_EQ(FindContent(ODS_SELECTED), rcMoved);
 
     button.SetWindowText("nnn");
     const CRect rcPlain = FindContent(0);
@@ -225,7 +228,7 @@ TEST_F(ButtonTest, StaysOwnerDrawnAndKnowsItsFocus)
     EXPECT_FALSE(button.GetHaveFocus());
     Create("");
     button.SetButtonStyle(BS_DEFPUSHBUTTON);
-    EXPECT_EQ(button.GetButtonStyle() & BS_TYPEMASK, static_cast<UINT>(BS_OWNERDRAW));
+    EXPECT_EQ(::GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK, BS_OWNERDRAW);
     EXPECT_FALSE(button.IsChecked());
     ::SetActiveWindow(frame.m_hWnd);
     button.SetFocus();

@@ -72,6 +72,12 @@ protected:
         CImageMenu loader;
         return std::unique_ptr<CImageMenu>(loader.LoadFilteredPopupMenu(nResource, &target));
     }
+    static std::string TextOf(HMENU hMenu, int nIndex)
+    {
+        char szText[100] = "";
+        ::GetMenuStringA(hMenu, static_cast<UINT>(nIndex), szText, sizeof szText, MF_BYPOSITION);
+        return szText;
+    }
 
     MenuTarget target;
 };
@@ -80,22 +86,19 @@ TEST_F(ImageMenuTest, HoldsTheItemsInTheirOrder)
 {
     const auto pMenu = Load(133);
     ASSERT_TRUE(pMenu);
-    ASSERT_EQ(pMenu->GetMenuItemCount(), std::size(kItems));
+    const HMENU hMenu = pMenu->m_hMenu;
+    ASSERT_EQ(::GetMenuItemCount(hMenu), static_cast<int>(std::size(kItems)));
     for (int i = 0; i < static_cast<int>(std::size(kItems)); ++i) {
         const auto& [nId, pszText] = kItems[i];
-        CString strText;
-        pMenu->GetMenuString(static_cast<UINT>(i), strText, MF_BYPOSITION);
-        EXPECT_EQ(pMenu->GetMenuItemID(i), nId);
-        EXPECT_STREQ(strText, pszText);
-        const UINT nState = pMenu->GetMenuState(static_cast<UINT>(i), MF_BYPOSITION);
+        EXPECT_EQ(::GetMenuItemID(hMenu, i), nId);
+        EXPECT_EQ(TextOf(hMenu, i), pszText);
+        const UINT nState = ::GetMenuState(hMenu, static_cast<UINT>(i), MF_BYPOSITION);
         EXPECT_EQ((nState & MF_SEPARATOR) != 0, nId == kSeparator);
     }
     CMenu bar;
     ASSERT_TRUE(bar.LoadMenu(133));
-    EXPECT_EQ(bar.GetMenuItemCount(), 1u);
-    CString strTitle;
-    bar.GetMenuString(0, strTitle, MF_BYPOSITION);
-    EXPECT_STREQ(strTitle, "_OPTIONS_");
+    EXPECT_EQ(::GetMenuItemCount(bar.m_hMenu), 1);
+    EXPECT_EQ(TextOf(bar.m_hMenu, 0), "_OPTIONS_");
 }
 
 TEST_F(ImageMenuTest, TargetSetsEachItemThatItHasAHandlerFor)
@@ -103,11 +106,13 @@ TEST_F(ImageMenuTest, TargetSetsEachItemThatItHasAHandlerFor)
     auto pMenu = Load(IDR_OPTIONS_MENU);
     ASSERT_TRUE(pMenu);
     EXPECT_EQ(target.m_nAsked, 2);
-    const auto IsGrey = [&](UINT nId) { return (pMenu->GetMenuState(nId, MF_BYCOMMAND) & MF_GRAYED) != 0; };
+    const auto IsGrey = [&](UINT nId) {
+        return (::GetMenuState(pMenu->m_hMenu, nId, MF_BYCOMMAND) & MF_GRAYED) != 0;
+    };
     EXPECT_TRUE(IsGrey(ID_OPTIONS_COPYDATELONGFORM));
     EXPECT_FALSE(IsGrey(ID_OPTIONS_COPYDATESHORTFORM));
     EXPECT_FALSE(IsGrey(ID_OPTIONS_PRINT));
-    const HMENU hMenu = pMenu->GetSafeHmenu();
+    const HMENU hMenu = pMenu->m_hMenu;
     pMenu.reset();
     EXPECT_FALSE(::IsMenu(hMenu));
 }

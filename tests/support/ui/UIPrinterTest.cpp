@@ -63,7 +63,7 @@ protected:
         const CDC& dc = *GetPrintDC();
         m_crText = crText;
         m_rcContent = GetPrintInfo()->m_rectDraw;
-        m_sizeLine = dc.GetTextExtent("30");
+        ::GetTextExtentPoint32A(dc, "30", 2, &m_sizeLine);
         m_sizePaper.cx = dc.GetDeviceCaps(PHYSICALWIDTH) * 1000 / dc.GetDeviceCaps(LOGPIXELSX);
         m_sizePaper.cy = dc.GetDeviceCaps(PHYSICALHEIGHT) * 1000 / dc.GetDeviceCaps(LOGPIXELSY);
     }
@@ -71,8 +71,7 @@ protected:
 
 TEST(UIPrinterTest, PageHasItsMarginsAndTextThatSuitsIt)
 {
-    CPrintDialog dialog(FALSE);
-    if (!dialog.GetDefaults())
+    if (!CPrintDialog().GetDefaults())
         GTEST_SKIP() << "no printer on this machine";
 
     const std::filesystem::path path = std::filesystem::temp_directory_path() / "zeb17_page_test.prn";
