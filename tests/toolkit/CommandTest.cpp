@@ -73,7 +73,7 @@ TEST_F(Commands, ReachTheHandlerOfTheirIdAndCode)
     Send(100); // its update handler disables the item
     EXPECT_THAT(m_target.m_log, ElementsAre("plain", "update 100"));
     m_target.m_log.clear();
-    for (const UINT code : {BN_CLICKED, BN_SETFOCUS})
+    for (const UINT code : {UINT(BN_CLICKED), UINT(BN_SETFOCUS)})
         Send(100, code, m_control);
     EXPECT_THAT(m_target.m_log, ElementsAre("plain", "control"));
 }
