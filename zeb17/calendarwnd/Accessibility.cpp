@@ -1,5 +1,5 @@
-// What a screen reader says of the control. Its items are the 42 days; the buttons speak for themselves.
-
+// What screen readers are told of the control. Its items are the 42 days shown; each button has an object of
+// its own.
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
@@ -25,7 +25,7 @@ constexpr int CellOfItem(LONG nItem)
 
 CString FormatDay(const DateTime& date)
 {
-    if (!date.IsValid()) // beyond the first or the last date there is
+    if (!date.IsValid()) // the cell lies beyond the range of dates
         return "";
     return LocaleUtils::FormatDate(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetDayOfWeek(),
                                    false);
@@ -85,7 +85,7 @@ private:
 
     CString GetAction(LONG nItem) const override
     {
-        return nItem != CHILDID_SELF ? StringUtils::DecryptText(CalendarTexts::SelectDay) : CString();
+        return nItem != CHILDID_SELF ? StringUtils::DecryptText(CalendarTexts::kSelectDay) : CString();
     }
 
     void DoAction(LONG nItem) override
@@ -103,15 +103,12 @@ LRESULT CCalendarWnd::OnGetObject(WPARAM wParam, LPARAM lParam)
                                                 : Default();
 }
 
-// The date in full, whether it is today, and what is special about it.
+// Joins the date in full, the word for today if it is today, and what is special about the day.
 CString CCalendarWnd::GetDayName(int nCell) const
 {
-    DateTime date = m_date;
-    date.SetDay(1);
-    date.AddDays(nCell + 1 - MonthBlock::FirstColumn(date.GetDayOfWeek(), LocaleUtils::GetFirstDayOfWeek()));
-    CString strName = FormatDay(date);
+    CString strName = FormatDay(MonthBlock::DateOfCell(m_date, nCell));
     if (nCell == m_nTodayCell) {
-        CString strToday = StringUtils::DecryptText(CalendarTexts::Today);
+        CString strToday = StringUtils::DecryptText(CalendarTexts::kToday);
         strToday.Replace("&", "");
         strName += ", " + strToday;
     }
@@ -136,7 +133,8 @@ void CCalendarWnd::AnnounceSelection() const
     ::NotifyWinEvent(EVENT_OBJECT_SELECTION, m_hWnd, OBJID_CLIENT, nItem);
 }
 
-// With the days the names of the control and of its step buttons are others.
+// Another month is shown: the items stand for other days, and the title and the tips of the step buttons,
+// which are the names of the control and of these buttons, have changed.
 void CCalendarWnd::AnnounceMonth() const
 {
     ::NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);

@@ -1,8 +1,8 @@
 // A month calendar as a child window: seven columns and six weeks, special dates as coloured dots.
 //
-// The control holds one date, and tells its parent of every change by registered messages, which it sends,
-// not posts: the parent's handler runs inside the operation that causes the message and may call GetDate
-// there. `wParam` of each is the control's id.
+// The control holds one date, and tells its parent of every change by registered messages. It sends them and
+// does not post them: the parent's handler runs inside the operation that causes the message, and may call
+// GetDate there. `wParam` of each is the control's id.
 //
 // A control belongs to the thread that creates it. The host starts GDI+ before the control first paints.
 #pragma once
@@ -66,7 +66,7 @@ public:
     bool Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CWnd* pParent, bool bAllowNoDate,
                 bool bShowOptions, bool bAllowWebPage, bool bAllowDateRanges);
 
-    // The date whose month is shown. It stays readable while no date is selected.
+    // The date whose month is shown, also while no date is selected.
     const DateTime& GetDate() const { return m_date; }
 
     // Selects a date, shows its month and sends CALWND_ONSELCHANGE. An invalid date selects none, shows
@@ -84,7 +84,7 @@ public:
     // is no valid date or the file could not be written.
     bool SaveCalendarWebPage(const CString& strPath) const;
 
-    // Puts the to-do list to use, for all calendars of the process and for good.
+    // Puts the to-do list into use, for all calendars of the process and until its end.
     static void EnableToDoList();
 
 protected:
@@ -119,8 +119,8 @@ protected:
         Weeks
     };
 
-    // Handles the keys of the control and its buttons, and shows its tips the messages. TRUE for a Tab that
-    // moved the focus.
+    // Handles the keys of the control and its buttons, and passes the messages on to the tool tips. TRUE for
+    // a Tab that moved the focus.
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // Creation.
@@ -130,7 +130,7 @@ protected:
     void CreateButtons();
     void CreateGridFont();
 
-    // Layout of the client area, and the tables of what lies on the 42 days of the block.
+    // Layout of the client area, and the tables of what is special about the 42 days of the block.
     void CalculateDayLocations();
     void DetermineSpecialDays();
     void LookUpDay(const DateTime& date, std::size_t nCell);
@@ -172,7 +172,7 @@ protected:
     void SelectNeighbourDay(int nOffset, int nDays);
     void InvalidateSelection();
 
-    // What a tip of a step button says, in which month and year a press leads.
+    // The tip of a step button: the month and year that a press leads to.
     CString GetStepTip(int nButtonId) const;
 
     // What screen readers are told. An item is a cell, counted from 1; 0 stands for the control.
@@ -185,7 +185,7 @@ protected:
     void FilterOptionsMenu(HMENU hMenu) const;
     void ShowDateRange(RangeBase base, RangeUnit unit, int nCount);
     static DateTime GetRangeStart(DateTime date, RangeUnit unit, int nCount);
-    static DateTime GetRangeEnd(DateTime start, RangeUnit unit); // of all units but weeks
+    static DateTime GetRangeEnd(DateTime start, RangeUnit unit); // for all units but weeks
 
     // The handlers of the messages that they are named for; points and sizes in pixels of the client area.
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -196,7 +196,8 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
-    BOOL OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt); // no message leads here
+    BOOL OnMouseHWheel(UINT nFlags, short zDelta,
+                       CPoint pt); // for derived classes; the message map does not lead here
     afx_msg BOOL OnToolTipNotify(UINT id, NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 
@@ -243,9 +244,9 @@ protected:
     bool m_bUseSpecialDates = false; // this and the next four as Create was told
     bool m_bAllowNoDate = true;      // Clear is offered
     bool m_bShowOptions = true;      // the menu is offered
-    bool m_bAllowWebPage = true;     // so is the web page in it
-    bool m_bAllowDateRanges = false; // and the date ranges
-    int m_nFirstDayColumn = -1;      // column of day 1, 1 to 7, as last painted; -1 before that
+    bool m_bAllowWebPage = true;     // the menu offers the web page
+    bool m_bAllowDateRanges = false; // the menu offers the date ranges
+    int m_nFirstDayColumn = -1;      // column of day 1, 1 to 7, as last painted; -1 before the first paint
     int m_nTodayCell = -1;           // cell of today, 0 to 41; -1 if today is outside the block
     unsigned int m_nNextToolId = 0;  // id that the next tool of m_toolTip gets
     DateTime m_date;                 // its month is shown; it is the selected date if m_bHaveDate
@@ -262,13 +263,13 @@ protected:
     CZEBButton* m_pClearButton;
     CDownArrowButton* m_pOptionsButton;
 
-    CFont m_fontGrid;                   // of names and numbers
+    CFont m_fontGrid;                   // the font of names and numbers
     CRect m_rcGrid;                     // in client coordinates, as all rectangles here
     CRect m_rcSelection;                // text rectangle of the cell of m_date; empty if not known
     CRect m_rcToday;                    // today's highlight, as last painted
     CToolTipCtrl m_toolTip;             // one tool for each special cell
-    std::vector<int> m_vRowEdges;       // empty, or 8 positions
-    std::vector<int> m_vColumnEdges;    // likewise
-    std::vector<COLORREF> m_vDayColors; // one entry for each of the 42 cells
-    std::vector<CString> m_vDayDescs;   // likewise; empty where nothing is special
+    std::vector<int> m_vRowEdges;       // 8 positions; empty before the first layout
+    std::vector<int> m_vColumnEdges;    // 8 positions; empty before the first layout
+    std::vector<COLORREF> m_vDayColors; // the colour of the dot in each of the 42 cells
+    std::vector<CString> m_vDayDescs;   // what is special about each of the 42 days; empty for nothing
 };

@@ -1,3 +1,4 @@
+// Making the window, its buttons, its tool tip and its font.
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
@@ -14,16 +15,16 @@ namespace {
 
 constexpr DWORD kChildStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
-// No CS_DBLCLKS: a double click arrives as two presses.
+// Without CS_DBLCLKS a double click arrives as two presses.
 constexpr UINT kClassStyle = CS_VREDRAW | CS_HREDRAW | CS_CLASSDC | CS_SAVEBITS;
 
 struct ButtonFont
 {
-    long nHeight; // 0 keeps the font that the button has
+    long nHeight; // 0: the button keeps its own font
     long nWeight;
 };
 
-constexpr ButtonFont kOwnFont{0, 0};
+constexpr ButtonFont kNoFont{0, 0};
 constexpr ButtonFont kMonthFont{12, FW_LIGHT};
 constexpr ButtonFont kYearFont{11, FW_LIGHT};
 constexpr ButtonFont kTitleFont{16, FW_BOLD};
@@ -42,14 +43,13 @@ struct ButtonSetUp
 void CreateButton(const ButtonSetUp& setUp, CWnd* pParent)
 {
     CZEBButton& button = *setUp.pButton;
-    const CString strCaption =
-        setUp.pCaption != nullptr ? StringUtils::DecryptText(*setUp.pCaption) : CString();
+    const CString strCaption = setUp.pCaption ? StringUtils::DecryptText(*setUp.pCaption) : CString();
     if (!button.Create(strCaption, kChildStyle, CRect(0, 0, 10, 10), pParent, setUp.nID)) {
         LogLine(setUp.pFailureMark);
         return;
     }
     if (setUp.font.nHeight != 0)
-        button.SetFont(StringUtils::DecryptText(CalendarTexts::Face), setUp.font.nHeight, setUp.font.nWeight,
+        button.SetFont(StringUtils::DecryptText(CalendarTexts::kFace), setUp.font.nHeight, setUp.font.nWeight,
                        0, 0);
     if (setUp.eIcon != ZEBIcon::IconNone) {
         button.SetIcon(setUp.eIcon, BS_LEFT, BS_VCENTER, false);
@@ -67,8 +67,7 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
                           bool bAllowNoDate, bool bShowOptions, bool bAllowWebPage, bool bAllowDateRanges)
 {
     constexpr const char* kNoWindowMark = "{9C02F331-DDE6-430B-BCCF-80503618AC46}";
-    if (GetSafeHwnd() != nullptr) // the control that exists stays as it is
-    {
+    if (GetSafeHwnd()) { // the window that exists stays as it is
         LogLine(kNoWindowMark);
         return false;
     }
@@ -92,7 +91,7 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
         LogLine("{D110EEBF-8B1E-462E-9AE9-2E70E72F2BDC}");
         return false;
     }
-    EnableToolTips(TRUE); // for the step buttons; the days have m_toolTip
+    EnableToolTips(TRUE); // the toolkit's own tip serves the step buttons, m_toolTip the days
     if (m_bUseSpecialDates)
         CreateToolTip();
     CreateButtons();
@@ -112,21 +111,21 @@ std::array<CZEBButton*, 8> CCalendarWnd::GetButtons() const
 
 bool CCalendarWnd::HasAllButtons() const
 {
-    return std::ranges::none_of(GetButtons(), [](const CZEBButton* pButton) { return pButton == nullptr; });
+    return std::ranges::none_of(GetButtons(), [](const CZEBButton* pButton) { return !pButton; });
 }
 
 void CCalendarWnd::CreateToolTip()
 {
-    m_toolTip.DestroyWindow(); // the top-level window owns it, so it may be left from an earlier creation
+    m_toolTip.DestroyWindow(); // one that an earlier window of this object has left behind
     if (!m_toolTip.Create(this, 0))
         LogLine("{9E65460D-A45F-46D5-B417-DFAAC0F156CA}");
 }
 
 void CCalendarWnd::CreateButtons()
 {
-    // A slot of the footer that is not wanted is filled by a disabled button without a caption.
+    // The place of a button that is not offered is filled by a disabled button without a caption.
     const auto blank = [](CZEBButton* pButton, const char* pFailureMark) {
-        return ButtonSetUp{pButton, ClearButtonId, nullptr, kOwnFont, ZEBIcon::IconNone, false, pFailureMark};
+        return ButtonSetUp{pButton, ClearButtonId, nullptr, kNoFont, ZEBIcon::IconNone, false, pFailureMark};
     };
     const ButtonSetUp setUps[] = {
         {m_pPrevMonthButton, PrevMonthButtonId, nullptr, kMonthFont, ZEBIcon::IconPreviousMonth, true,
@@ -137,12 +136,12 @@ void CCalendarWnd::CreateButtons()
          "{00AB4C70-44C8-4D43-AA36-D5C877FE0C2E}"},
         {m_pNextYearButton, NextYearButtonId, nullptr, kYearFont, ZEBIcon::IconNextYear, true,
          "{2EDBD217-3019-42E1-A166-826798479116}"},
-        {m_pTodayButton, TodayButtonId, &CalendarTexts::Today, kOwnFont, ZEBIcon::IconNone, true,
+        {m_pTodayButton, TodayButtonId, &CalendarTexts::kToday, kNoFont, ZEBIcon::IconNone, true,
          "{80061BF2-11FA-47A3-9D22-FF36F1371BD9}"},
-        m_bShowOptions ? ButtonSetUp{m_pOptionsButton, OptionsButtonId, &CalendarTexts::Options, kOwnFont,
+        m_bShowOptions ? ButtonSetUp{m_pOptionsButton, OptionsButtonId, &CalendarTexts::kOptions, kNoFont,
                                      ZEBIcon::IconNone, true, "{709907EF-F870-43E9-B85F-0B708B12AF01}"}
                        : blank(m_pOptionsButton, "{ECC5886C-D1BD-4C83-98FA-8A938D421FA5}"),
-        m_bAllowNoDate ? ButtonSetUp{m_pClearButton, ClearButtonId, &CalendarTexts::Clear, kOwnFont,
+        m_bAllowNoDate ? ButtonSetUp{m_pClearButton, ClearButtonId, &CalendarTexts::kClear, kNoFont,
                                      ZEBIcon::IconNone, true, "{360450D8-23CD-4A6E-AA1F-40921D061B79}"}
                        : blank(m_pClearButton, "{839A35AF-62E0-4FD3-8CB0-9EB85D62FF60}"),
         {m_pMonthYearButton, MonthYearButtonId, nullptr, kTitleFont, ZEBIcon::IconNone, false,
@@ -164,11 +163,11 @@ void CCalendarWnd::ApplyBkgShading()
 {
     const BkgStyle* const pStyle = BkgStyle::GetInstance();
     ShadeProps* pProps = nullptr;
-    if (pStyle != nullptr)
+    if (pStyle)
         pStyle->Get(BkgStyle::UIPushButton, pProps);
-    if (pProps == nullptr)
+    if (!pProps)
         return;
     for (CZEBButton* const pButton : GetButtons())
-        if (pButton != nullptr && ::IsWindow(pButton->GetSafeHwnd()))
+        if (pButton && ::IsWindow(pButton->GetSafeHwnd()))
             pButton->SetShadeProps(*pProps);
 }

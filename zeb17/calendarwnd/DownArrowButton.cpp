@@ -1,3 +1,4 @@
+// Drawing the arrow, and keeping its place free of the caption.
 #include "DownArrowButton.h"
 
 IMPLEMENT_DYNAMIC(CDownArrowButton, CZEBButton)

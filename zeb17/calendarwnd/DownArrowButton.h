@@ -1,4 +1,4 @@
-// The button that drops a menu down: a combo box's arrow at its right edge says so.
+// A button that opens a menu, with a down arrow at its right edge.
 #pragma once
 
 #include <ZEBButton.h>

@@ -1,5 +1,4 @@
-// Mouse, keys and focus.
-
+// What the mouse, the keys and the focus do.
 #include "CalendarWnd.h"
 
 #include "DownArrowButton.h"
@@ -15,12 +14,12 @@ struct FocusStop
 {
     CWnd* pWnd;
     bool bPresent;
-    bool bRedrawsFrame; // moving away from here redraws the selection frame
+    bool bRedrawsFrame; // the selection frame is drawn anew when the focus leaves this stop
 };
 
 bool IsLive(const CWnd* pWnd)
 {
-    return pWnd != nullptr && ::IsWindow(pWnd->GetSafeHwnd());
+    return pWnd && ::IsWindow(pWnd->GetSafeHwnd());
 }
 
 }
@@ -53,24 +52,23 @@ void CCalendarWnd::SelectShownDay(int nDay, const MonthBlock::Place& place)
     AnnounceSelection();
 }
 
-// `nOffset` counts from day 1 of the month shown, which has `nDays` days.
+// nOffset is the number of days from day 1 of the month shown, which has nDays days.
 void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
 {
     m_bHaveDate = true;
-    const int nAnchor = nOffset < 0 ? 1 : nDays;
-    const int nAway = nOffset < 0 ? nOffset : nOffset + 1 - nDays;
+    const int nStartDay = nOffset < 0 ? 1 : nDays;
     DateTime date;
-    date.Set(m_date.GetYear(), m_date.GetMonth(), nAnchor, 0, 0, 0);
-    date.AddDays(nAway);
+    date.Set(m_date.GetYear(), m_date.GetMonth(), nStartDay, 0, 0, 0);
+    date.AddDays(nOffset + 1 - nStartDay);
     ShowDate(date);
     AnnounceSelection();
     NotifyParentWnd(CALWND_ONSELCHANGE, false);
 }
 
-// Sees the keys of the control and of its buttons before they do. Only a Tab that moved the focus ends here.
+// Sees the keys before the control and its buttons see them. Only a Tab that moved the focus goes no further.
 BOOL CCalendarWnd::PreTranslateMessage(MSG* pMsg)
 {
-    if (pMsg != nullptr && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
+    if (pMsg && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
         return TRUE;
     if (m_bUseSpecialDates)
         m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(pMsg));
@@ -116,8 +114,8 @@ bool CCalendarWnd::HandleKey(WPARAM nKey)
     return false;
 }
 
-// The focus goes round the control and its buttons and out to the parent at both ends. Buttons that only fill
-// a slot are passed over.
+// Moves the focus to the next stop, or to the one before. The parent is the stop before the first and behind
+// the last one. Buttons that only fill a place are passed over.
 bool CCalendarWnd::MoveFocus(bool bBackward)
 {
     CWnd* const pParent = GetParent();
@@ -148,7 +146,8 @@ bool CCalendarWnd::MoveFocus(bool bBackward)
         pStop += bBackward ? -1 : 1;
     while (!pStop->bPresent);
     pStop->pWnd->SetFocus();
-    if (bRedrawsFrame && m_bHaveDate) // as it is after the host has heard of the focus
+    if (bRedrawsFrame &&
+        m_bHaveDate) // asked now, since the host may have changed the date when it got the focus
         MoveSelectionRect(CRect());
     return true;
 }
@@ -162,7 +161,7 @@ void CCalendarWnd::SelectInMonth(void (DateTime::*pSet)())
     AnnounceSelection();
 }
 
-// A step out of the range of dates leaves the date where it is.
+// A step that leads out of the range of dates leaves the date as it is.
 void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
 {
     m_bHaveDate = true;
@@ -186,7 +185,8 @@ void CCalendarWnd::OnKeyDown(UINT nChar, UINT, UINT)
         NotifyParentWnd(CALWND_ESCKEY, false);
 }
 
-// One month a message, however far the wheel was turned; away from the user is back in time.
+// Each message is one month, however far the wheel was turned. Turning it away from the user goes back in
+// time.
 BOOL CCalendarWnd::OnMouseWheel(UINT, short zDelta, CPoint)
 {
     StepDate(&DateTime::AddMonths, zDelta > 0 ? -1 : 1);

@@ -1,5 +1,5 @@
-// Where things stand in the client area, and what lies on the days shown.
-
+// The places of the buttons, of the grid and of its days in the client area, and what is special about the
+// days shown.
 #include "CalendarWnd.h"
 
 #include "DownArrowButton.h"
@@ -41,7 +41,7 @@ void CCalendarWnd::OnSize(UINT, int cx, int cy)
         LogLine("{EE857672-D8CE-45B9-828B-F0930F6AB2EA}");
         return;
     }
-    if (!::IsWindow(m_pMonthYearButton->GetSafeHwnd())) // the window is only just being created
+    if (!::IsWindow(m_pMonthYearButton->GetSafeHwnd())) // the window is being created, and has no buttons yet
         return;
 
     constexpr int w = kStepButtonWidth;
@@ -93,9 +93,7 @@ void CCalendarWnd::DetermineSpecialDays()
 
     DateTime today;
     today.SetToCurrent();
-    DateTime date = m_date;
-    date.SetDay(1);
-    date.AddDays(1 - MonthBlock::FirstColumn(date.GetDayOfWeek(), LocaleUtils::GetFirstDayOfWeek()));
+    DateTime date = MonthBlock::DateOfCell(m_date, 0);
     for (std::size_t i = 0; i < MonthBlock::kCells; ++i, date.AddDays(1)) {
         if (m_bUseSpecialDates)
             LookUpDay(date, i);

@@ -1,10 +1,10 @@
-// One line for the log of the process, if it keeps one.
+// Adds one line to the log of the process, if the host has set a logger.
 #pragma once
 
 #include <AppLogger.h>
 
 inline void LogLine(const CString& strLine)
 {
-    if (AppLogger::m_pInstance != nullptr)
+    if (AppLogger::m_pInstance)
         AppLogger::m_pInstance->AddLine(strLine);
 }

@@ -1,7 +1,8 @@
 // The block of 7 rows by 7 columns in which a month is shown: on the screen, on paper and as a web page.
 //
 // Rows and columns are numbered from 1; row 1 holds the names of the weekdays. The 42 cells of rows 2 to 7
-// are numbered from 0, row by row. An edge table holds 8 positions: row r lies between entries r - 1 and r.
+// are numbered from 0, row by row. An edge table holds 8 positions, the edges of 7 rows or columns: row r
+// lies between entries r - 1 and r.
 #pragma once
 
 #include <windows.h>
@@ -27,7 +28,8 @@ struct Place
     constexpr bool operator==(const Place&) const = default;
 };
 
-// What places the days of one month: the column of day 1, and how many days it and the month before have.
+// All that the places of the days of a month depend on: the column of day 1, and how many days the month and
+// the month before it have.
 struct Shape
 {
     int nFirstColumn;
@@ -92,14 +94,14 @@ constexpr Cell CellAt(const Shape& shape, int nCell)
     return {Month::Shown, nDay};
 }
 
-// The day at a place, counted from day 1 of the month: 0 for day 1, negative before it.
+// How many days the day at a place comes after day 1 of the month; negative for a day before it.
 constexpr int OffsetOfPlace(int nFirstColumn, Place place)
 {
     return (place.nRow - 2) * kColumns + place.nColumn - nFirstColumn;
 }
 
-// The place that a point presses on, by the edge tables; none for the names of the weekdays and outside of
-// the days. An edge and the pixel behind it belong to the cell before them.
+// The place of the day at a point, by the edge tables; none in the row of the weekday names and outside of
+// the block. An edge and the pixel behind it belong to the cell before them.
 constexpr std::optional<Place> PlaceAt(std::span<const int> rowEdges, std::span<const int> columnEdges, int x,
                                        int y)
 {
@@ -118,8 +120,9 @@ constexpr std::optional<Place> PlaceAt(std::span<const int> rowEdges, std::span<
     return std::nullopt;
 }
 
-// Splits the way from `nBegin` to `nEnd` into equal whole steps, one fewer than there are edges. The last
-// one takes up what is left over, and gives up 1 or 2 units where that would be 5 or more.
+// Sets the edges from nBegin to nEnd at equal whole distances. Only the last distance differs: it is longer
+// by what is left over, up to 4; where 5 or 6 would be left over, all others are longer by 1, and it is
+// shorter.
 constexpr void Split(std::span<int> edges, int nBegin, int nEnd)
 {
     const int nSteps = static_cast<int>(edges.size()) - 1;
@@ -139,19 +142,34 @@ constexpr RECT TextRect(std::span<const int> rowEdges, std::span<const int> colu
     return {columnEdges[c - 1] + (c == 1 ? 3 : 4), rowEdges[r - 1] + 2, columnEdges[c] - 1, rowEdges[r] - 1};
 }
 
-// The shape of the month of `date` for the user's first day of the week; nothing for no date.
+// The column of day 1 in the month of a valid date, for the user's first day of the week.
+inline int FirstColumnOf(DateTime date)
+{
+    date.SetDay(1);
+    return FirstColumn(date.GetDayOfWeek(), LocaleUtils::GetFirstDayOfWeek());
+}
+
+// The date of a cell, 0 to 41, where the block shows the month of a valid date. No date if the cell lies
+// beyond the range of dates.
+inline DateTime DateOfCell(DateTime date, int nCell)
+{
+    const int nFirstColumn = FirstColumnOf(date);
+    date.SetDay(1);
+    date.AddDays(nCell + 1 - nFirstColumn);
+    return date;
+}
+
+// The shape of the month of a date, for the user's first day of the week; nothing for no date.
 inline std::optional<Shape> ShapeOf(const DateTime& date)
 {
-    constexpr int kDaysOfDecember = 31; // the month before the very first one, which has no date of its own
-    DateTime first = date;
-    first.SetDay(1);
-    const int nDayOfWeek = first.GetDayOfWeek();
-    if (!date.IsValid() || nDayOfWeek < 1)
+    constexpr int kDaysOfDecember =
+        31; // the month before January of year 1 has no dates that could be counted
+    if (!date.IsValid())
         return std::nullopt;
-    DateTime before = first;
+    DateTime before = date;
+    before.SetDay(1);
     before.AddDays(-1);
-    return Shape{FirstColumn(nDayOfWeek, LocaleUtils::GetFirstDayOfWeek()),
-                 DateTime::GetDaysInMonth(date.GetYear(), date.GetMonth()),
+    return Shape{FirstColumnOf(date), DateTime::GetDaysInMonth(date.GetYear(), date.GetMonth()),
                  before.IsValid() ? DateTime::GetDaysInMonth(before.GetYear(), before.GetMonth())
                                   : kDaysOfDecember};
 }

@@ -1,5 +1,4 @@
-// The date, and what goes to the parent when it changes.
-
+// The date, the operations and buttons that change it, and the messages to the parent.
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
@@ -26,7 +25,7 @@ struct YearAndMonth
     int nMonth = 0;
 };
 
-// What a text like "March, 2026" names; year 0 for any other text.
+// The year and month that a text such as "March, 2026" names; year 0 for any other text.
 YearAndMonth ParseMonth(const CString& strText)
 {
     const int nComma = strText.Find(',');
@@ -72,7 +71,7 @@ void CCalendarWnd::ShowDate(const DateTime& date)
 
 void CCalendarWnd::SetValidDate()
 {
-    if (m_pMonthYearButton == nullptr || !::IsWindow(m_pMonthYearButton->GetSafeHwnd()))
+    if (!m_pMonthYearButton || !::IsWindow(m_pMonthYearButton->GetSafeHwnd()))
         return;
     CString strTitle;
     m_pMonthYearButton->GetWindowText(strTitle);
@@ -111,7 +110,7 @@ void CCalendarWnd::OnNextMonthButton()
     StepDate(&DateTime::AddMonths, 1);
 }
 
-// The parent hears of the new date while title and special days still show the old month.
+// The parent is told of the new date while the title and the special days are still those of the old month.
 void CCalendarWnd::NotifyAndRefresh()
 {
     if (m_bHaveDate)
@@ -131,7 +130,7 @@ void CCalendarWnd::OnTodayButton()
     NotifyParentWnd(CALWND_ONSELCHANGE, true);
 }
 
-// Takes the frame off the window without a repaint. The date itself stays.
+// Draws over the frame instead of painting anew. The date itself stays.
 void CCalendarWnd::OnClearButton()
 {
     if (!m_bAllowNoDate)
@@ -169,10 +168,10 @@ void CCalendarWnd::RefreshMonth()
 
 void CCalendarWnd::UpdateMonthYearText()
 {
-    if (m_pMonthYearButton == nullptr)
+    if (!m_pMonthYearButton)
         return;
     if (!m_date.IsValid()) {
-        m_pMonthYearButton->SetWindowText(StringUtils::DecryptText(CalendarTexts::NoDate));
+        m_pMonthYearButton->SetWindowText(StringUtils::DecryptText(CalendarTexts::kNoDate));
         return;
     }
     int nYear = 0, nMonth = 0, nDay = 0;
@@ -198,7 +197,7 @@ void CCalendarWnd::NotifyParentWndDateRange(const DateTime& dtEnd) const
 
 void CCalendarWnd::SendToParent(UINT nMessage, LPARAM lParam) const
 {
-    if (m_pParent == nullptr || !::IsWindow(m_pParent->GetSafeHwnd()))
+    if (!m_pParent || !::IsWindow(m_pParent->GetSafeHwnd()))
         return;
     ::SendMessageA(m_pParent->GetSafeHwnd(), nMessage, static_cast<WPARAM>(GetDlgCtrlID()), lParam);
 }

@@ -1,5 +1,4 @@
 // The options menu, and the commands that show a range of dates.
-
 #include "CalendarWnd.h"
 
 #include "DownArrowButton.h"
@@ -14,7 +13,7 @@
 
 namespace {
 
-// Points the toolkit at the library's own resources for as long as it lives.
+// Makes the toolkit look for resources in the library first, for as long as the object lives.
 class LibraryResources
 {
 public:
@@ -22,14 +21,14 @@ public:
     {
         HMODULE hLibrary = nullptr;
         ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT, "zeb17.dll", &hLibrary);
-        if (hLibrary == nullptr)
+        if (!hLibrary)
             return;
         m_hSaved = AfxGetModuleState()->m_hCurrentResourceHandle;
         AfxGetModuleState()->m_hCurrentResourceHandle = hLibrary;
     }
     ~LibraryResources()
     {
-        if (m_hSaved != nullptr)
+        if (m_hSaved)
             AfxGetModuleState()->m_hCurrentResourceHandle = m_hSaved;
     }
     LibraryResources(const LibraryResources&) = delete;
@@ -45,7 +44,8 @@ std::unique_ptr<CImageMenu> LoadOptionsMenu(CImageMenu& menu, CWnd* pTarget)
     return std::unique_ptr<CImageMenu>(menu.LoadFilteredPopupMenu(IDR_OPTIONS_MENU, pTarget));
 }
 
-// The state of a popup has a count where that of an item has the separator's bit.
+// A submenu is never a separator, though its state may have the same bit set: that bit is then part of a
+// count of items.
 bool IsSeparator(HMENU hMenu, int nPosition)
 {
     const UINT nState = ::GetMenuState(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
@@ -57,7 +57,7 @@ void RemoveItem(HMENU hMenu, int nPosition)
     ::RemoveMenu(hMenu, static_cast<UINT>(nPosition), MF_BYPOSITION);
 }
 
-// Leaves no separator at the ends, and one where several would follow each other.
+// Removes the separators at both ends, and all but one where several follow each other.
 void TidySeparators(HMENU hMenu)
 {
     UINT nRemembered = MF_SEPARATOR;
@@ -74,7 +74,7 @@ void TidySeparators(HMENU hMenu)
         RemoveItem(hMenu, nLast);
 }
 
-// Goes to some day of this month (0), the month before (-1) or the month after (1).
+// Moves the date to some day of the same month (nCount 0), the month before (-1) or the month after (1).
 void StepToMonth(DateTime& date, int nCount)
 {
     if (nCount < 0)
@@ -84,7 +84,8 @@ void StepToMonth(DateTime& date, int nCount)
     date.AddDays(nCount);
 }
 
-// The first month of the quarter that lies `nCount` quarters after that of the month, in the same year.
+// The first month of the quarter that comes nCount quarters, -1 to 1, after the quarter of nMonth. Quarters
+// are counted within one year: after the last one comes the first.
 int FirstMonthOfQuarter(int nMonth, int nCount)
 {
     return ((nMonth - 1) / 3 + nCount + 4) % 4 * 3 + 1;
@@ -94,7 +95,7 @@ int FirstMonthOfQuarter(int nMonth, int nCount)
 
 void CCalendarWnd::OnOptionsButton()
 {
-    if (!m_bShowOptions || m_pOptionsButton == nullptr)
+    if (!m_bShowOptions || !m_pOptionsButton)
         return;
     CImageMenu menu;
     const std::unique_ptr<CImageMenu> pPopup = LoadOptionsMenu(menu, this);
@@ -120,7 +121,7 @@ void CCalendarWnd::FilterOptionsMenu(HMENU hMenu) const
 
 void CCalendarWnd::OnUpdateOptionsCopydatelongform(CCmdUI* pCmdUI)
 {
-    if (pCmdUI != nullptr)
+    if (pCmdUI)
         pCmdUI->Enable(m_date.IsValid());
 }
 
@@ -139,7 +140,7 @@ void CCalendarWnd::OnOptionsCopydateshortform()
     ClipboardUtils::CopyTextToClipboard(DateTime::ConvertDateToText(m_date, false, false, false, true));
 }
 
-// Selects the first day of the range and hands its last day to the parent.
+// Selects the first day of the range, and tells the parent the last one.
 void CCalendarWnd::ShowDateRange(RangeBase base, RangeUnit unit, int nCount)
 {
     DateTime date = base == RangeBase::Shown ? m_date : DateTime();
@@ -152,7 +153,8 @@ void CCalendarWnd::ShowDateRange(RangeBase base, RangeUnit unit, int nCount)
     NotifyParentWndDateRange(unit == RangeUnit::Weeks ? date : GetRangeEnd(start, unit));
 }
 
-// The month may lack the day of the date for a moment, until the day is set.
+// A month that lacks the day of the date does no harm here: SetMonth and SetYear then give its last day, and
+// the day is set to 1 in the end.
 DateTime CCalendarWnd::GetRangeStart(DateTime date, RangeUnit unit, int nCount)
 {
     switch (unit) {

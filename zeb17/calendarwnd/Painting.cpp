@@ -1,3 +1,4 @@
+// Drawing the grid, its days and the selection frame.
 #include "CalendarWnd.h"
 
 #include "MonthBlock.h"
@@ -35,7 +36,7 @@ Gdiplus::ARGB OpaqueArgb(COLORREF cr)
            static_cast<Gdiplus::ARGB>(GetGValue(cr)) << 8 | GetBValue(cr);
 }
 
-// Without GDI+, or when a call fails, there is no dot.
+// There is no dot if the host has not started GDI+, or if a call fails.
 void FillDot(CDC* pDC, int x, int y, COLORREF cr)
 {
     using namespace Gdiplus;
@@ -60,14 +61,15 @@ void CCalendarWnd::OnPaint()
         return;
     m_rcSelection.SetRectEmpty();
     memDC.FillSolidRect(&m_rcGrid, kGridColor);
-    if (m_vRowEdges.empty()) // never laid out, for want of a title button
+    if (m_vRowEdges.empty()) // the title button could not be made, so nothing was laid out
         return;
     DrawGrid(&memDC);
     if (m_date.IsValid())
         DrawMonth(&memDC);
 }
 
-// The lines, and the band for the names of the weekdays. There are no lines at the left and the right.
+// Draws the lines and the band behind the names of the weekdays. There are no lines at the left and right
+// edges.
 void CCalendarWnd::DrawGrid(CDC* pDC)
 {
     const CRect& rc = m_rcGrid;
@@ -134,31 +136,32 @@ void CCalendarWnd::DrawDay(CDC* pDC, int nCell, const MonthBlock::Cell& cell)
         pDC->SetBkColor(kGridColor);
 }
 
-// Leaves its colour as the background of the number that follows.
+// The colour of the highlight stays the background colour of the context, for the number that is drawn on it
+// next.
 void CCalendarWnd::DrawTodayBkg(CDC* pDC, const CRect& rcCell)
 {
     m_rcToday = rcCell;
     m_rcToday.left -= 2;
     m_rcToday.InflateRect(1, 1);
-    if (pDC != nullptr)
+    if (pDC)
         pDC->FillSolidRect(&m_rcToday, kTodayColor);
 }
 
 void CCalendarWnd::DrawSpecialDay(CDC* pDC, int nCell, CRect rcCell)
 {
-    if (pDC == nullptr)
+    if (!pDC)
         return;
     const auto i = static_cast<std::size_t>(nCell);
     CString strTip = m_vDayDescs[i];
     if (strTip.IsEmpty())
         return;
     StringUtils::EscapeAmpersand(strTip);
-    strTip.Replace("\r\n", " && "); // not escaped again: it shows as a single ampersand
+    strTip.Replace("\r\n", " && "); // doubled already: it shows as a single ampersand
     m_toolTip.AddTool(this, strTip, &rcCell, m_nNextToolId++);
     FillDot(pDC, rcCell.right - kDotSize - 2, rcCell.top + 2, m_vDayColors[i]);
 }
 
-// The frame has the outline of today's highlight.
+// The frame runs around the cell where the edge of today's highlight would be.
 void CCalendarWnd::DrawSelectionFrame(CDC* pDC, COLORREF crFrame)
 {
     CRect rcFrame = m_rcSelection;

@@ -1,5 +1,4 @@
-// The tips of the four step buttons. Those of the days are tools that the painting adds.
-
+// The tips of the four step buttons. The tips of the days are made when the days are painted.
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
@@ -10,7 +9,7 @@
 
 namespace {
 
-constexpr int kTipSize = 80; // characters in the buffer of a notification, with the terminator
+constexpr int kTipSize = 80; // characters in the buffer of a notification, with the null
 
 // The step button that a notification asks for, or 0.
 template <class ToolTipText>
@@ -38,9 +37,9 @@ void Write(TOOLTIPTEXTW& text, const CString& strTip)
 
 BOOL CCalendarWnd::OnToolTipNotify(UINT, NMHDR* pNMHDR, LRESULT* pResult)
 {
-    if (pResult != nullptr)
+    if (pResult)
         *pResult = 0;
-    if (pNMHDR == nullptr)
+    if (!pNMHDR)
         return FALSE;
     const auto answer = [this](auto& text) -> BOOL {
         const int nButton = GetStepButton(text, PrevYearButtonId, NextMonthButtonId);
@@ -59,7 +58,8 @@ BOOL CCalendarWnd::OnToolTipNotify(UINT, NMHDR* pNMHDR, LRESULT* pResult)
     }
 }
 
-// Year tips count on the number alone, and may so name a year that no date has.
+// The tips of the year buttons only add to the number of the year, so they may name a year beyond the range
+// of dates.
 CString CCalendarWnd::GetStepTip(int nButtonId) const
 {
     DateTime date = m_date;
@@ -67,14 +67,14 @@ CString CCalendarWnd::GetStepTip(int nButtonId) const
         date.AddMonths(-1);
     else if (nButtonId == NextMonthButtonId)
         date.AddMonths(1);
-    if (!date.IsValid()) // there was none, or the month is beyond the last
-        return StringUtils::DecryptText(CalendarTexts::NoDate);
+    if (!date.IsValid()) // there is no date, or the month lies beyond the range of dates
+        return StringUtils::DecryptText(CalendarTexts::kNoDate);
     int nYear = 0, nMonth = 0, nDay = 0;
     date.GetDate(nYear, nMonth, nDay);
     if (nButtonId == PrevYearButtonId)
         --nYear;
     else if (nButtonId == NextYearButtonId)
         ++nYear;
-    return StringUtils::DecryptText(CalendarTexts::TipPrefix) + LocaleUtils::GetMonthName(nMonth, false) +
+    return StringUtils::DecryptText(CalendarTexts::kTipPrefix) + LocaleUtils::GetMonthName(nMonth, false) +
            ", " + NumberTextConv::NumberToString(nYear, false, 0, "");
 }

@@ -1,16 +1,21 @@
+// Drawing the month on the page.
 #include "CalendarWndPrinter.h"
+
 #include <afxext.h>
 #include <LocaleUtils.h>
 #include <MonthBlock.h>
 #include <NumberTextConv.h>
+
 #include <array>
 
 namespace {
-constexpr COLORREF LINE_COLOR = RGB(0, 0, 0);
-constexpr COLORREF OTHER_MONTH_COLOR = RGB(0xC4, 0xC4, 0xC4);
-constexpr UINT NAME_FORMAT = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-constexpr UINT NUMBER_FORMAT = DT_VCENTER | DT_SINGLELINE;
 
+constexpr COLORREF kLineColor = RGB(0, 0, 0);
+constexpr COLORREF kOtherMonthColor = RGB(0xC4, 0xC4, 0xC4);
+constexpr UINT kNameFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+constexpr UINT kNumberFormat = DT_VCENTER | DT_SINGLELINE;
+
+// The edges of the rows and columns on the page.
 struct Grid
 {
     explicit Grid(const CRect& rect) : m_rect(rect)
@@ -46,7 +51,7 @@ void DrawDayNames(CDC& dc, const Grid& grid)
     int nWeekday = LocaleUtils::GetFirstDayOfWeek();
     for (int nColumn = 1; nColumn <= MonthBlock::kColumns; ++nColumn) {
         CRect rcText = grid.GetTextRect({1, nColumn});
-        dc.DrawText(LocaleUtils::GetDayName(nWeekday, true), &rcText, NAME_FORMAT);
+        dc.DrawText(LocaleUtils::GetDayName(nWeekday, true), &rcText, kNameFormat);
         nWeekday = MonthBlock::NextWeekday(nWeekday);
     }
 }
@@ -57,11 +62,12 @@ void DrawDays(CDC& dc, const Grid& grid, const MonthBlock::Shape& shape, COLORRE
         const MonthBlock::Cell cell = MonthBlock::CellAt(shape, nCell);
         CRect rcText = grid.GetTextRect(MonthBlock::PlaceOfCell(nCell));
         const COLORREF crOld =
-            dc.SetTextColor(cell.month == MonthBlock::Month::Shown ? crText : OTHER_MONTH_COLOR);
-        dc.DrawText(NumberTextConv::NumberToString(cell.nDay, false, 0, ""), &rcText, NUMBER_FORMAT);
+            dc.SetTextColor(cell.month == MonthBlock::Month::Shown ? crText : kOtherMonthColor);
+        dc.DrawText(NumberTextConv::NumberToString(cell.nDay, false, 0, ""), &rcText, kNumberFormat);
         dc.SetTextColor(crOld);
     }
 }
+
 }
 
 CCalendarWndPrinter::CCalendarWndPrinter(const DateTime& date) : m_date(date) {}
@@ -76,7 +82,7 @@ void CCalendarWndPrinter::PrintPageContent(COLORREF crText)
         return;
 
     CPen pen;
-    CPen* pOldPen = pen.CreatePen(PS_SOLID, 1, LINE_COLOR) ? pDC->SelectObject(&pen) : nullptr;
+    CPen* pOldPen = pen.CreatePen(PS_SOLID, 1, kLineColor) ? pDC->SelectObject(&pen) : nullptr;
     PrintMonth(*pDC, pInfo->m_rectDraw, crText);
     if (pOldPen)
         pDC->SelectObject(pOldPen);

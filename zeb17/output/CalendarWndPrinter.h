@@ -1,4 +1,4 @@
-// Prints one month on one page: the block of the window, without special dates, today and selection.
+// Prints one month on one page, as the window shows it but without special dates, today and selection.
 #pragma once
 
 #include <DateTime.h>
@@ -7,7 +7,7 @@
 class CCalendarWndPrinter : public UIPrinter
 {
 public:
-    // `date` gives the month; one that is invalid gives a grid without text.
+    // The month is that of the date. Without a valid date the grid has no text.
     explicit CCalendarWndPrinter(const DateTime& date);
     ~CCalendarWndPrinter() override;
 

@@ -1,4 +1,4 @@
-// The stored texts of the web page. What stands before the cells lays them out and gives them their colours.
+// The stored texts of the web page: its head with the style sheet, its body, and the parts of a cell.
 #pragma once
 
 #include <StoredText.h>
@@ -75,7 +75,8 @@ inline const std::vector<int> kGridEnd = StoredText<10>("    </div>");
 inline const std::vector<int> kBodyEnd = StoredText<7>("</body>");
 inline const std::vector<int> kHtmlEnd = StoredText<7>("</html>");
 
-// The cells. Letters for the last row and column, and the end of the tag, follow all but the last one.
+// The beginnings of the cells. The marks for the last row and column and the end of the tag follow each but
+// the last.
 inline const std::vector<int> kNameCell = StoredText<15>(R"(<div class="wd )");
 inline const std::vector<int> kDayCell = StoredText<16>(R"(<div class="day )");
 inline const std::vector<int> kNextCell = StoredText<17>(R"(<div class="next )");

@@ -1,5 +1,8 @@
+// The command that prints the month shown.
 #include "CalendarWnd.h"
+
 #include "CalendarWndPrinter.h"
+
 #include <CalendarTexts.h>
 #include <LocaleUtils.h>
 #include <LogLine.h>
@@ -7,7 +10,9 @@
 #include <StringUtils.h>
 
 namespace {
-constexpr int MARGIN = 500; // half an inch
+
+constexpr int kMargin = 500; // half an inch, in thousandths
+
 }
 
 void CCalendarWnd::OnOptionsPrint()
@@ -20,9 +25,9 @@ void CCalendarWnd::OnOptionsPrint()
     strTitle.Format("%s %d", LocaleUtils::GetMonthName(nMonth, false).GetString(), nYear);
 
     PrintInfo info;
-    info.SetPageTitleText(m_date.IsValid() ? strTitle : StringUtils::DecryptText(CalendarTexts::NoDate));
+    info.SetPageTitleText(m_date.IsValid() ? strTitle : StringUtils::DecryptText(CalendarTexts::kNoDate));
     info.m_bPrintFlag = false;
-    info.m_rcPageMargins.SetRect(MARGIN, MARGIN, MARGIN, MARGIN);
+    info.m_rcPageMargins.SetRect(kMargin, kMargin, kMargin, kMargin);
     info.m_pCtrlWnd = this;
 
     CCalendarWndPrinter printer(m_date);

@@ -1,5 +1,8 @@
+// Writing the month shown as a web page, and the command that asks the parent for its path.
 #include "CalendarWnd.h"
+
 #include "WebPageTexts.h"
+
 #include <FileUtils.h>
 #include <LocaleUtils.h>
 #include <MonthBlock.h>
@@ -9,29 +12,30 @@
 #include <ZEBButton.h>
 
 namespace {
-constexpr char ROW_INDENT[] = "        ";
-constexpr char TAG_END[] = "\">";
+
+constexpr char kRowIndent[] = "        ";
+constexpr char kTagEnd[] = "\">";
 
 using Text = std::vector<int>;
 
-const Text* const LINES_BEFORE_TITLE[] = {&WebPageTexts::kDoctype, &WebPageTexts::kHtml, &WebPageTexts::kHead,
-                                          &WebPageTexts::kMeta};
+const Text* const kLinesBeforeTitle[] = {&WebPageTexts::kDoctype, &WebPageTexts::kHtml, &WebPageTexts::kHead,
+                                         &WebPageTexts::kMeta};
 
-const Text* const LINES_BEFORE_HEADING[] = {&WebPageTexts::kStyle,       &WebPageTexts::kSheetBegin,
-                                            &WebPageTexts::kBodyRule,    &WebPageTexts::kHeadingRule,
-                                            &WebPageTexts::kSheetEnd,    &WebPageTexts::kSheetBegin,
-                                            &WebPageTexts::kLightColors, &WebPageTexts::kDarkColors,
-                                            &WebPageTexts::kPageRule,    &WebPageTexts::kGridRule,
-                                            &WebPageTexts::kCellRule,    &WebPageTexts::kNameRule,
-                                            &WebPageTexts::kNumberRule,  &WebPageTexts::kOtherMonthRule,
-                                            &WebPageTexts::kLastRowRule, &WebPageTexts::kLastColumnRule,
-                                            &WebPageTexts::kNarrowRule,  &WebPageTexts::kPrintColors,
-                                            &WebPageTexts::kPaperRule,   &WebPageTexts::kSheetEnd,
-                                            &WebPageTexts::kStyleEnd,    &WebPageTexts::kHeadEnd,
-                                            &WebPageTexts::kBody};
+const Text* const kLinesBeforeHeading[] = {&WebPageTexts::kStyle,       &WebPageTexts::kSheetBegin,
+                                           &WebPageTexts::kBodyRule,    &WebPageTexts::kHeadingRule,
+                                           &WebPageTexts::kSheetEnd,    &WebPageTexts::kSheetBegin,
+                                           &WebPageTexts::kLightColors, &WebPageTexts::kDarkColors,
+                                           &WebPageTexts::kPageRule,    &WebPageTexts::kGridRule,
+                                           &WebPageTexts::kCellRule,    &WebPageTexts::kNameRule,
+                                           &WebPageTexts::kNumberRule,  &WebPageTexts::kOtherMonthRule,
+                                           &WebPageTexts::kLastRowRule, &WebPageTexts::kLastColumnRule,
+                                           &WebPageTexts::kNarrowRule,  &WebPageTexts::kPrintColors,
+                                           &WebPageTexts::kPaperRule,   &WebPageTexts::kSheetEnd,
+                                           &WebPageTexts::kStyleEnd,    &WebPageTexts::kHeadEnd,
+                                           &WebPageTexts::kBody};
 
-const Text* const LINES_AFTER_GRID[] = {&WebPageTexts::kGridEnd, &WebPageTexts::kBodyEnd,
-                                        &WebPageTexts::kHtmlEnd};
+const Text* const kLinesAfterGrid[] = {&WebPageTexts::kGridEnd, &WebPageTexts::kBodyEnd,
+                                       &WebPageTexts::kHtmlEnd};
 
 void AddLines(TextArray& lines, std::span<const Text* const> texts)
 {
@@ -39,10 +43,10 @@ void AddLines(TextArray& lines, std::span<const Text* const> texts)
         lines.Add(StringUtils::DecryptText(*pText));
 }
 
-// Text from outside as HTML shows it unchanged.
+// Makes HTML show a text as it is.
 CString EscapeHtml(CString strText)
 {
-    strText.Replace("&", "&amp;"); // first, since the others bring ampersands in
+    strText.Replace("&", "&amp;"); // first, since the texts below have ampersands of their own
     strText.Replace("<", "&lt;");
     strText.Replace(">", "&gt;");
     strText.Replace("\"", "&quot;");
@@ -59,7 +63,7 @@ CString CloseCell(const CString& strOpening, const CString& strContent)
     return strOpening + strContent + StringUtils::DecryptText(WebPageTexts::kCellEnd);
 }
 
-// A cell that is marked when it stands in the last row or the last column.
+// A cell with a mark if it is in the last row, and one if it is in the last column.
 CString MakeMarkedCell(const Text& opening, MonthBlock::Place place, const CString& strContent)
 {
     CString strOpening = StringUtils::DecryptText(opening);
@@ -67,7 +71,7 @@ CString MakeMarkedCell(const Text& opening, MonthBlock::Place place, const CStri
         strOpening += 'b';
     if (place.nColumn == MonthBlock::kColumns)
         strOpening += 'r';
-    return CloseCell(strOpening + TAG_END, strContent);
+    return CloseCell(strOpening + kTagEnd, strContent);
 }
 
 CString MakeDayCell(MonthBlock::Cell cell, MonthBlock::Place place)
@@ -81,7 +85,7 @@ CString MakeDayCell(MonthBlock::Cell cell, MonthBlock::Place place)
 
 CString MakeNamesRow()
 {
-    CString strRow = ROW_INDENT;
+    CString strRow = kRowIndent;
     int nWeekday = LocaleUtils::GetFirstDayOfWeek();
     for (int nColumn = 1; nColumn <= MonthBlock::kColumns; ++nColumn) {
         strRow += MakeMarkedCell(WebPageTexts::kNameCell, {1, nColumn},
@@ -97,12 +101,13 @@ void AddDayRows(TextArray& lines, const MonthBlock::Shape& shape)
     for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
         const MonthBlock::Place place = MonthBlock::PlaceOfCell(nCell);
         if (place.nColumn == 1)
-            strRow = ROW_INDENT;
+            strRow = kRowIndent;
         strRow += MakeDayCell(MonthBlock::CellAt(shape, nCell), place);
         if (place.nColumn == MonthBlock::kColumns)
             lines.Add(strRow);
     }
 }
+
 }
 
 void CCalendarWnd::OnUpdateOptionsGeneratewebpage(CCmdUI* pCmdUI)
@@ -113,9 +118,7 @@ void CCalendarWnd::OnUpdateOptionsGeneratewebpage(CCmdUI* pCmdUI)
 
 void CCalendarWnd::OnOptionsGeneratewebpage()
 {
-    if (!m_pParent || !::IsWindow(m_pParent->m_hWnd))
-        return;
-    ::SendMessageA(m_pParent->m_hWnd, CALWND_PROMPT_SAVEWEBPAGE, static_cast<WPARAM>(GetDlgCtrlID()), 0);
+    NotifyParentWnd(CALWND_PROMPT_SAVEWEBPAGE, false);
 }
 
 bool CCalendarWnd::SaveCalendarWebPage(const CString& strPath) const
@@ -130,13 +133,13 @@ bool CCalendarWnd::SaveCalendarWebPage(const CString& strPath) const
     strTitle = EscapeHtml(strTitle);
 
     TextArray lines;
-    AddLines(lines, LINES_BEFORE_TITLE);
+    AddLines(lines, kLinesBeforeTitle);
     lines.Add(MakeTitleLine(WebPageTexts::kTitleBegin, strTitle, WebPageTexts::kTitleEnd));
-    AddLines(lines, LINES_BEFORE_HEADING);
+    AddLines(lines, kLinesBeforeHeading);
     lines.Add(MakeTitleLine(WebPageTexts::kHeadingBegin, strTitle, WebPageTexts::kHeadingEnd));
     lines.Add(StringUtils::DecryptText(WebPageTexts::kGrid));
     lines.Add(MakeNamesRow());
     AddDayRows(lines, *shape);
-    AddLines(lines, LINES_AFTER_GRID);
+    AddLines(lines, kLinesAfterGrid);
     return FileUtils::WriteFileContent(strPath, lines, false, 0);
 }
