@@ -163,7 +163,8 @@ void CalendarTest::Show(const DateTime& date, bool bHaveDate)
 
 void CalendarTest::Repaint()
 {
-    ::RedrawWindow(*calendar, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    calendar->Invalidate();
+    calendar->UpdateWindow();
 }
 
 CRect CalendarTest::GetInvalid()

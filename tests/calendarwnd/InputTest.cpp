@@ -173,6 +173,6 @@ TEST_F(InputTest, CursorIsTheArrow)
 {
     Start();
     ::SetCursor(nullptr);
-    EXPECT_EQ(calendar->SendMessage(WM_SETCURSOR, 0, MAKELPARAM(HTNOWHERE, 0)), 1);
+    EXPECT_EQ(calendar->SendMessage(WM_SETCURSOR), 1);
     EXPECT_EQ(::SetCursor(nullptr), ::LoadCursorA(nullptr, IDC_ARROW));
 }

@@ -32,7 +32,7 @@ protected:
         ::SetCursorPos(point.x, point.y);
     }
 
-    // The text of the tip that is up, as its tool has it; empty if none is.
+    // The text of the tip that is up; empty if none is.
     static std::string GetShownTip()
     {
         const auto take = [](HWND hWnd, LPARAM lParam) -> BOOL {
@@ -40,11 +40,7 @@ protected:
             ::GetClassNameA(hWnd, szText, sizeof szText);
             if (std::string(szText) != TOOLTIPS_CLASSA || !::IsWindowVisible(hWnd))
                 return TRUE;
-            TOOLINFOA tool{};
-            tool.cbSize = TTTOOLINFOA_V1_SIZE;
-            ::SendMessageA(hWnd, TTM_GETCURRENTTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
-            tool.lpszText = szText;
-            ::SendMessageA(hWnd, TTM_GETTEXTA, sizeof szText, reinterpret_cast<LPARAM>(&tool));
+            ::GetWindowTextA(hWnd, szText, sizeof szText);
             *reinterpret_cast<std::string*>(lParam) = szText;
             return FALSE;
         };

@@ -18,7 +18,7 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override
     {
-        if (pMsg->message != WM_APP)
+        if (pMsg->message != WM_USER)
             return CWnd::PreTranslateMessage(pMsg);
         if (m_throw)
             AfxThrowResourceException();
@@ -39,7 +39,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Stop, CWnd)
-    ON_MESSAGE(WM_APP, &Stop::OnApp)
+    ON_MESSAGE(WM_USER, &Stop::OnApp)
 END_MESSAGE_MAP()
 
 class PreTranslate : public testing::Test
@@ -61,7 +61,7 @@ protected:
     {
         MSG message{};
         message.hwnd = m_leaf.m_hWnd;
-        message.message = WM_APP;
+        message.message = WM_USER;
         return message;
     }
 
@@ -109,12 +109,12 @@ TEST_F(PreTranslate, TheLoopOffersBeforeItDispatchesAndEndsWithTheExitCode)
 {
     LoopApp app(m_log);
     app.m_pMainWnd = &m_top;
-    m_leaf.PostMessage(WM_APP);
+    m_leaf.PostMessage(WM_USER);
     EXPECT_EQ(app.Run(), 5);
     EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top", "leaf got it", "idle 0", "idle 1"));
 
     m_middle.m_keep = true;
-    m_leaf.PostMessage(WM_APP);
+    m_leaf.PostMessage(WM_USER);
     EXPECT_EQ(app.Run(), 5);
     EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "idle 0", "idle 1"));
 }
@@ -129,7 +129,7 @@ TEST_F(PreTranslate, ALoopOfTheHostsOwnOffersItsMessagesThroughTheFilter)
     m_middle.m_keep = true;
     EXPECT_TRUE(CallMsgFilterA(&message, MSGF_USER));
     EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle"));
-    EXPECT_FALSE(CallMsgFilterA(&message, MSGF_MENU)) << "a menu's keys are the menu's";
+    EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER + 1)) << "another filter's";
     EXPECT_THAT(TakeLog(), ElementsAre());
     m_leaf.m_throw = true;
     EXPECT_FALSE(CallMsgFilterA(&message, MSGF_USER)) << "no exception crosses the filter";

@@ -151,7 +151,7 @@ public:
 protected:
     LRESULT OnSetText(WPARAM, LPARAM)
     {
-        SendMessage(WM_APP);
+        SendMessage(WM_USER);
         return Default();
     }
     void OnClose() { m_other->Default(); } // by hand
@@ -184,7 +184,7 @@ namespace {
 class Throwing : public CWnd
 {
 public:
-    UINT m_throwOn = WM_APP;
+    UINT m_throwOn = WM_USER;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -202,7 +202,7 @@ public:
     {
         const bool isResource = e->IsKindOf(RUNTIME_CLASS(CResourceException));
         e->Delete();
-        return isResource && message->message == WM_APP ? 42 : 1;
+        return isResource && message->message == WM_USER ? 42 : 1;
     }
 };
 }
@@ -211,10 +211,10 @@ TEST_F(WindowLife, AnExceptionOfAHandlerEndsAtTheWindowProcedure)
 {
     Throwing window;
     ASSERT_TRUE(CreateChild(window, m_frame, 8));
-    EXPECT_EQ(window.SendMessage(WM_APP), 0);
+    EXPECT_EQ(window.SendMessage(WM_USER), 0);
     {
         const CatchingApp app;
-        EXPECT_EQ(window.SendMessage(WM_APP), 42);
+        EXPECT_EQ(window.SendMessage(WM_USER), 42);
     }
 
     Throwing unborn;

@@ -1,4 +1,5 @@
-// Events of Qt as its platform plugins make them, sent to the widget that the pointer or the keyboard is on.
+// The input of a user as Qt's platform plugins give it: events for the widget that has the pointer or the
+// keyboard.
 #include "Hands.h"
 
 #include <zeb17_qt.h>
@@ -22,16 +23,7 @@ QPointer<QWidget> grabber; // Qt keeps a press with the widget that got it
 
 QWidget* widgetUnderPointer()
 {
-    if (grabber)
-        return grabber;
-    const QPoint place = QCursor::pos();
-    for (HWND window = GetTopWindow(nullptr); window; window = GetWindow(window, GW_HWNDNEXT)) {
-        RECT rect{};
-        GetWindowRect(window, &rect);
-        if (IsWindowVisible(window) && PtInRect(&rect, {place.x(), place.y()}))
-            return QWidgetFromWindow(window);
-    }
-    return nullptr;
+    return grabber ? grabber.data() : QApplication::topLevelAt(QCursor::pos());
 }
 
 void sendMouse(QEvent::Type type)
@@ -47,15 +39,15 @@ void sendMouse(QEvent::Type type)
 
 int keyOf(int virtualKey)
 {
-    const struct
+    constexpr struct
     {
         int virtualKey;
         int qt;
-    } keys[] = {{VK_SHIFT, Qt::Key_Shift},   {VK_CONTROL, Qt::Key_Control}, {VK_RETURN, Qt::Key_Return},
-                {VK_ESCAPE, Qt::Key_Escape}, {VK_PRIOR, Qt::Key_PageUp},    {VK_DELETE, Qt::Key_Delete}};
-    const auto found = std::find_if(std::begin(keys), std::end(keys),
+    } kKeys[] = {{VK_SHIFT, Qt::Key_Shift},   {VK_CONTROL, Qt::Key_Control}, {VK_RETURN, Qt::Key_Return},
+                 {VK_ESCAPE, Qt::Key_Escape}, {VK_PRIOR, Qt::Key_PageUp},    {VK_DELETE, Qt::Key_Delete}};
+    const auto found = std::find_if(std::begin(kKeys), std::end(kKeys),
                                     [&](const auto& key) { return key.virtualKey == virtualKey; });
-    return found == std::end(keys) ? virtualKey : found->qt;
+    return found == std::end(kKeys) ? virtualKey : found->qt;
 }
 
 QString textOf(int virtualKey)

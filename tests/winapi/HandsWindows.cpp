@@ -1,3 +1,4 @@
+// The input of a user as Windows lets programs make it.
 #include "Hands.h"
 
 void movePointer(int x, int y)

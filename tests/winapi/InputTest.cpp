@@ -60,23 +60,9 @@ TEST_F(Input, ActivationGoesWithTheFocus)
     EXPECT_EQ(recorder.take(),
               "o.NCACTIVATE o.ACTIVATE(0) t.NCACTIVATE t.ACTIVATE(1) o.KILLFOCUS(t) t.SETFOCUS(o) "
               "t.KILLFOCUS(c) c.SETFOCUS(t)");
-    EXPECT_EQ(SetActiveWindow(other), top);
+    EXPECT_EQ(SetFocus(other), child);
     EXPECT_EQ(recorder.take(),
               "t.NCACTIVATE t.ACTIVATE(0) o.NCACTIVATE o.ACTIVATE(1) c.KILLFOCUS(o) o.SETFOCUS(c)");
-}
-
-TEST_F(Input, Capture)
-{
-    const HWND second = recorder.create("d", WS_CHILD | WS_VISIBLE, top, 6);
-    recorder.clear();
-    EXPECT_EQ(SetCapture(child), nullptr);
-    EXPECT_EQ(SetCapture(second), child);
-    EXPECT_EQ(recorder.take(), "c.CAPTURECHANGED");
-    EnableWindow(second, FALSE);
-    EXPECT_EQ(recorder.take(), "d.CANCELMODE d.CAPTURECHANGED d.ENABLE(0)");
-    EXPECT_EQ(GetCapture(), nullptr);
-    ReleaseCapture();
-    EXPECT_EQ(recorder.take(), "");
 }
 
 TEST_F(Input, MouseMessagesAndWhatComesBeforeThem)
@@ -100,23 +86,32 @@ TEST_F(Input, ADisabledChildLetsTheMouseThroughToItsParent)
     EXPECT_EQ(recorder.served(), "t.SETCURSOR t.LBUTTONDOWN(20,30)");
     releaseButton();
     serveMessages();
-    EXPECT_EQ(WindowFromPoint({120, 130}), top);
     EXPECT_EQ(ChildWindowFromPoint(top, {20, 30}), child);
 }
 
-TEST_F(Input, TheCaptureGetsTheMouseFromEverywhere)
+// A button that is held down has the capture.
+TEST_F(Input, TheCaptureGetsTheMouseFromEverywhereUntilItsWindowIsDisabled)
 {
-    movePointer(120, 130);
-    serveMessages();
-    pressButton();
-    serveMessages();
-    SetCapture(child);
-    recorder.clear();
+    const HWND button = CreateWindowExA(0, "BUTTON", "", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, 150, 20, 100,
+                                        80, top, nullptr, nullptr, nullptr);
+    recorder.subclass(button, "b");
+    recorder.only({"MOUSEMOVE", "LBUTTON", "CANCELMODE", "CAPTURECHANGED", "ENABLE"});
+    const auto hold = [this](int x) {
+        movePointer(x, 130);
+        serveMessages();
+        pressButton();
+        serveMessages();
+        recorder.clear();
+    };
+    hold(260);
     movePointer(105, 290);
-    EXPECT_EQ(recorder.served(), "c.MOUSEMOVE(-5,170)");
+    EXPECT_EQ(recorder.served(), "b.MOUSEMOVE(-145,170)");
     releaseButton();
-    EXPECT_EQ(recorder.served(), "c.LBUTTONUP(-5,170)");
-    ReleaseCapture();
+    EXPECT_EQ(recorder.served(), "b.LBUTTONUP(-145,170) b.CAPTURECHANGED");
+    hold(270); // elsewhere, so that it is no double click
+    EnableWindow(button, FALSE);
+    EXPECT_EQ(recorder.take(), "b.CANCELMODE b.CAPTURECHANGED b.ENABLE(0)");
+    releaseButton();
     serveMessages();
 }
 
@@ -129,25 +124,32 @@ TEST_F(Input, TheWheelGoesToTheWindowUnderThePointerAndUpFromThere)
     EXPECT_EQ(recorder.served(), "c.WHEEL t.WHEEL");
 }
 
-TEST_F(Input, HoverAndLeave)
+TEST_F(Input, AWindowHearsOnceThatThePointerHasLeft)
 {
-    constexpr DWORD hoverTime = 400; // Wine looks at this rate, which lets serveMessages come to an end
     const auto awaited = [this] {
-        constexpr int enough = 20;
+        constexpr int kEnough = 20; // Wine looks for the pointer now and then only
+        constexpr DWORD kPause = 100;
         std::string heard;
-        for (int i = 0; heard.empty() && i < enough; ++i) {
-            Sleep(hoverTime / 4);
+        for (int i = 0; heard.empty() && i < kEnough; ++i) {
+            Sleep(kPause);
             heard = recorder.served();
         }
         return heard;
     };
     movePointer(120, 130);
     serveMessages();
-    recorder.only({"MOUSELEAVE", "MOUSEHOVER"});
-    TRACKMOUSEEVENT track{sizeof track, TME_HOVER | TME_LEAVE, child, hoverTime};
+    recorder.only({"MOUSELEAVE"});
+    TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, child, 0};
     ASSERT_TRUE(TrackMouseEvent(&track));
-    EXPECT_EQ(awaited(), "c.MOUSEHOVER");
+    movePointer(121, 131);
+    EXPECT_EQ(recorder.served(), "");
     movePointer(350, 280);
+    EXPECT_EQ(awaited(), "c.MOUSELEAVE");
+    movePointer(120, 130);
+    serveMessages();
+    movePointer(350, 280);
+    EXPECT_EQ(recorder.served(), "");
+    ASSERT_TRUE(TrackMouseEvent(&track)) << "while the pointer is elsewhere";
     EXPECT_EQ(awaited(), "c.MOUSELEAVE");
 }
 

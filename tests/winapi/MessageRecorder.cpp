@@ -1,3 +1,4 @@
+// Windows that note each message they get, in words.
 #include "MessageRecorder.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ constexpr struct
     UINT message;
     const char* name;
     Detail detail;
-} known[] = {
+} kKnown[] = {
     {WM_NCCREATE, "NCCREATE", Detail::None},
     {WM_NCCALCSIZE, "NCCALCSIZE", Detail::None},
     {WM_CREATE, "CREATE", Detail::None},
@@ -33,7 +34,6 @@ constexpr struct
     {WM_SHOWWINDOW, "SHOWWINDOW", Detail::WParam},
     {WM_WINDOWPOSCHANGING, "POSCHANGING", Detail::None},
     {WM_WINDOWPOSCHANGED, "POSCHANGED", Detail::None},
-    {WM_CHILDACTIVATE, "CHILDACTIVATE", Detail::None},
     {WM_DESTROY, "DESTROY", Detail::None},
     {WM_NCDESTROY, "NCDESTROY", Detail::None},
     {WM_CLOSE, "CLOSE", Detail::None},
@@ -53,7 +53,6 @@ constexpr struct
     {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", Detail::Point},
     {WM_MOUSEWHEEL, "WHEEL", Detail::None},
     {WM_MOUSELEAVE, "MOUSELEAVE", Detail::None},
-    {WM_MOUSEHOVER, "MOUSEHOVER", Detail::None},
     {WM_KEYDOWN, "KEYDOWN", Detail::WParam},
     {WM_KEYUP, "KEYUP", Detail::WParam},
     {WM_SYSKEYDOWN, "SYSKEYDOWN", Detail::WParam},
@@ -73,15 +72,15 @@ constexpr struct
 {
     int code;
     const char* name;
-} notifications[] = {{BN_CLICKED, "CLICKED"}, {LBN_SELCHANGE, "SELECTED"}, {LBN_DBLCLK, "TWICE"},
-                     {EN_CHANGE, "CHANGED"},  {EN_SETFOCUS, "FOCUSED"},    {BN_DOUBLECLICKED, "TWICE"},
-                     {EN_MAXTEXT, "FULL"},    {EN_KILLFOCUS, "LEFT"}};
+} kNotifications[] = {{BN_CLICKED, "CLICKED"}, {LBN_SELCHANGE, "SELECTED"}, {LBN_DBLCLK, "TWICE"},
+                      {EN_CHANGE, "CHANGED"},  {EN_SETFOCUS, "FOCUSED"},    {BN_DOUBLECLICKED, "TWICE"},
+                      {EN_MAXTEXT, "FULL"},    {EN_KILLFOCUS, "LEFT"}};
 
 const char* notificationOf(WPARAM command)
 {
     const auto found =
-        std::ranges::find(notifications, HIWORD(command), [](const auto& one) { return one.code; });
-    return found == std::end(notifications) ? nullptr : found->name;
+        std::ranges::find(kNotifications, HIWORD(command), [](const auto& one) { return one.code; });
+    return found == std::end(kNotifications) ? nullptr : found->name;
 }
 
 // Sent at times of its own on each platform; tests that want it ask for it.
@@ -139,14 +138,11 @@ HWND MessageRecorder::create(const char* name, DWORD style, HWND parent, int id,
 {
     const std::string className = "Recorder" + std::to_string(classStyle);
     WNDCLASSA windowClass{};
-    if (!GetClassInfoA(nullptr, className.c_str(), &windowClass)) {
-        windowClass = {};
-        windowClass.style = classStyle;
-        windowClass.lpfnWndProc = procedure;
-        windowClass.lpszClassName = className.c_str();
-        windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
-        RegisterClassA(&windowClass);
-    }
+    windowClass.style = classStyle;
+    windowClass.lpfnWndProc = procedure;
+    windowClass.lpszClassName = className.c_str();
+    windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+    RegisterClassA(&windowClass); // fails when the class is there already
     m_creating = name;
     const bool child = style & WS_CHILD;
     const HWND window = CreateWindowExA(0, className.c_str(), name, style, child ? 10 : 100, child ? 20 : 100,
@@ -194,10 +190,10 @@ const MessageRecorder::Named* MessageRecorder::find(HWND window) const
 
 void MessageRecorder::note(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const auto entry = std::ranges::find(known, message, [](const auto& one) { return one.message; });
-    const char* const name = entry == std::end(known) ? nullptr
-                             : message == WM_COMMAND  ? notificationOf(wParam)
-                                                      : entry->name;
+    const auto entry = std::ranges::find(kKnown, message, [](const auto& one) { return one.message; });
+    const char* const name = entry == std::end(kKnown) ? nullptr
+                             : message == WM_COMMAND   ? notificationOf(wParam)
+                                                       : entry->name;
     if (!name)
         return;
     const auto asked = [&](const std::string& one) { return std::string(entry->name).starts_with(one); };
@@ -223,15 +219,15 @@ LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wP
 
 void serveMessages()
 {
-    constexpr int rounds = 4;
-    constexpr DWORD pause = 5;
-    for (int quiet = 0; quiet < rounds; ++quiet) {
+    constexpr int kRounds = 4;
+    constexpr DWORD kPause = 5; // milliseconds
+    for (int quiet = 0; quiet < kRounds; ++quiet) {
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
             TranslateMessage(&message);
             DispatchMessageA(&message);
             quiet = 0;
         }
-        Sleep(pause);
+        Sleep(kPause);
     }
 }

@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF red = RGB(255, 0, 0);
-constexpr COLORREF blue = RGB(0, 0, 255);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
 
 void fill(HWND window, COLORREF color)
 {
@@ -90,16 +90,16 @@ TEST_F(Painting, BeginPaintTellsTheRegionAndErasesOnceWhenAsked)
 
 TEST_F(Painting, ErasingUsesTheBrushOfTheClass)
 {
-    fill(top, red);
-    EXPECT_EQ(pixel(top, 5, 5), red) << "drawing outside of a paint shows at once";
+    fill(top, kRed);
+    EXPECT_EQ(pixel(top, 5, 5), kRed) << "drawing outside of a paint shows at once";
     InvalidateRect(top, nullptr, FALSE);
     UpdateWindow(top);
-    EXPECT_EQ(pixel(top, 5, 5), red);
+    EXPECT_EQ(pixel(top, 5, 5), kRed);
     const RECT part{0, 0, 10, 10};
     InvalidateRect(top, &part, TRUE);
     UpdateWindow(top);
-    EXPECT_EQ(pixel(top, 5, 5), white);
-    EXPECT_EQ(pixel(top, 15, 5), red);
+    EXPECT_EQ(pixel(top, 5, 5), kWhite);
+    EXPECT_EQ(pixel(top, 15, 5), kRed);
 }
 
 TEST_F(Painting, InvalidatingAParentReachesItsChildrenByStyle)
@@ -116,27 +116,27 @@ TEST_F(Painting, InvalidatingAParentReachesItsChildrenByStyle)
 TEST_F(Painting, AContextEndsWithItsWindow)
 {
     const HWND child = addChild("c");
-    fill(child, blue);
-    EXPECT_EQ(pixel(child, 0, 0), blue);
-    EXPECT_EQ(pixel(top, 9, 20), white);
-    EXPECT_EQ(pixel(top, 10, 20), blue);
-    fill(top, red);
-    EXPECT_EQ(pixel(top, 10, 20), red) << "over the child, unless it is clipped out";
-    fill(child, blue);
+    fill(child, kBlue);
+    EXPECT_EQ(pixel(child, 0, 0), kBlue);
+    EXPECT_EQ(pixel(top, 9, 20), kWhite);
+    EXPECT_EQ(pixel(top, 10, 20), kBlue);
+    fill(top, kRed);
+    EXPECT_EQ(pixel(top, 10, 20), kRed) << "over the child, unless it is clipped out";
+    fill(child, kBlue);
     SetWindowLongPtrA(top, GWL_STYLE, GetWindowLongPtrA(top, GWL_STYLE) | WS_CLIPCHILDREN);
-    fill(top, white);
-    EXPECT_EQ(pixel(child, 5, 5), blue);
+    fill(top, kWhite);
+    EXPECT_EQ(pixel(child, 5, 5), kBlue);
 }
 
 TEST_F(Painting, MovingKeepsThePixelsAndUncoversTheParent)
 {
     const HWND child = addChild("c");
-    fill(child, blue);
+    fill(child, kBlue);
     MoveWindow(child, 60, 70, 100, 80, TRUE);
     EXPECT_EQ(recorder.served(), "t.PAINT t.ERASEBKGND");
-    EXPECT_EQ(pixel(top, 11, 21), white);
-    EXPECT_EQ(pixel(top, 61, 71), blue);
-    EXPECT_EQ(pixel(top, 159, 149), blue);
+    EXPECT_EQ(pixel(top, 11, 21), kWhite);
+    EXPECT_EQ(pixel(top, 61, 71), kBlue);
+    EXPECT_EQ(pixel(top, 159, 149), kBlue);
 }
 
 TEST_F(Painting, SizingInvalidatesWhatIsNewOrAll)
@@ -149,11 +149,11 @@ TEST_F(Painting, SizingInvalidatesWhatIsNewOrAll)
     } cases[] = {{"k", 0, true}, {"r", CS_HREDRAW | CS_VREDRAW, false}};
     for (const auto& [name, classStyle, keeps] : cases) {
         const HWND child = addChild(name, classStyle);
-        fill(child, blue);
+        fill(child, kBlue);
         MoveWindow(child, 10, 20, 120, 80, TRUE);
         EXPECT_EQ(recorder.served(), std::string(name) + ".PAINT " + name + ".ERASEBKGND");
-        EXPECT_EQ(pixel(child, 5, 5), keeps ? blue : white);
-        EXPECT_EQ(pixel(child, 115, 5), white);
+        EXPECT_EQ(pixel(child, 5, 5), keeps ? kBlue : kWhite);
+        EXPECT_EQ(pixel(child, 115, 5), kWhite);
         DestroyWindow(child);
         serveMessages();
     }
@@ -162,20 +162,20 @@ TEST_F(Painting, SizingInvalidatesWhatIsNewOrAll)
 TEST_F(Painting, WhatHidingAndDestroyingUncoverIsPainted)
 {
     const HWND child = addChild("c");
-    fill(child, blue);
+    fill(child, kBlue);
     ShowWindow(child, SW_HIDE);
     serveMessages();
-    EXPECT_EQ(pixel(top, 30, 30), white);
+    EXPECT_EQ(pixel(top, 30, 30), kWhite);
     recorder.clear();
     InvalidateRect(child, nullptr, TRUE);
     EXPECT_EQ(recorder.served(), "") << "hidden windows are not painted";
     ShowWindow(child, SW_SHOW);
     serveMessages();
-    fill(child, blue);
-    EXPECT_EQ(pixel(top, 30, 30), blue);
+    fill(child, kBlue);
+    EXPECT_EQ(pixel(top, 30, 30), kBlue);
     DestroyWindow(child);
     serveMessages();
-    EXPECT_EQ(pixel(top, 30, 30), white);
+    EXPECT_EQ(pixel(top, 30, 30), kWhite);
 }
 
 }

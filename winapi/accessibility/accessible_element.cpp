@@ -1,3 +1,4 @@
+// The elements by which Qt shows our windows and their items to the desktop.
 #include "accessible_element.h"
 
 #include "host_widget.h"
@@ -7,6 +8,7 @@
 #include <QAccessibleActionInterface>
 #include <QAccessibleWidget>
 
+#include <algorithm>
 #include <map>
 
 namespace winapi {
@@ -35,34 +37,28 @@ VARIANT childId(LONG item)
     return child;
 }
 
+struct RolePair
+{
+    LONG role;
+    QAccessible::Role qt;
+};
+constexpr RolePair kRoles[] = {
+    {ROLE_SYSTEM_DIALOG, QAccessible::Dialog},
+    {ROLE_SYSTEM_TABLE, QAccessible::Table},
+    {ROLE_SYSTEM_CELL, QAccessible::Cell},
+    {ROLE_SYSTEM_LIST, QAccessible::List},
+    {ROLE_SYSTEM_STATICTEXT, QAccessible::StaticText},
+    {ROLE_SYSTEM_TEXT, QAccessible::EditableText},
+    {ROLE_SYSTEM_PUSHBUTTON, QAccessible::Button},
+    {ROLE_SYSTEM_CHECKBUTTON, QAccessible::CheckBox},
+    {ROLE_SYSTEM_COMBOBOX, QAccessible::ComboBox},
+};
+
 QAccessible::Role roleFor(LONG role)
 {
-    switch (role) {
-    case ROLE_SYSTEM_DIALOG:
-        return QAccessible::Dialog;
-    case ROLE_SYSTEM_GROUPING:
-        return QAccessible::Grouping;
-    case ROLE_SYSTEM_TABLE:
-        return QAccessible::Table;
-    case ROLE_SYSTEM_CELL:
-        return QAccessible::Cell;
-    case ROLE_SYSTEM_LIST:
-        return QAccessible::List;
-    case ROLE_SYSTEM_STATICTEXT:
-        return QAccessible::StaticText;
-    case ROLE_SYSTEM_TEXT:
-        return QAccessible::EditableText;
-    case ROLE_SYSTEM_PUSHBUTTON:
-        return QAccessible::Button;
-    case ROLE_SYSTEM_CHECKBUTTON:
-        return QAccessible::CheckBox;
-    case ROLE_SYSTEM_RADIOBUTTON:
-        return QAccessible::RadioButton;
-    case ROLE_SYSTEM_COMBOBOX:
-        return QAccessible::ComboBox;
-    default:
-        return QAccessible::Client;
-    }
+    const auto* const found = std::find_if(std::begin(kRoles), std::end(kRoles),
+                                           [role](const RolePair& pair) { return pair.role == role; });
+    return found == std::end(kRoles) ? QAccessible::Client : found->qt;
 }
 
 QAccessible::State stateFor(LONG flags, LONG role)
@@ -76,18 +72,8 @@ QAccessible::State stateFor(LONG flags, LONG role)
     state.invisible = has(STATE_SYSTEM_INVISIBLE);
     state.focusable = has(STATE_SYSTEM_FOCUSABLE);
     state.selectable = has(STATE_SYSTEM_SELECTABLE);
-    state.checkable = role == ROLE_SYSTEM_CHECKBUTTON || role == ROLE_SYSTEM_RADIOBUTTON;
+    state.checkable = role == ROLE_SYSTEM_CHECKBUTTON;
     return state;
-}
-
-std::vector<Window*> shownChildren(const Window& window)
-{
-    std::vector<Window*> shown;
-    for (Window* child : window.children) {
-        if (child->is(WS_VISIBLE))
-            shown.push_back(child);
-    }
-    return shown;
 }
 
 QAccessibleInterface* childWindowAt(const Window& window, int index)
@@ -117,7 +103,7 @@ QAccessibleInterface* childWindowAt(const Window& window, QPoint screen)
     return nullptr;
 }
 
-// A window below the widget, or an item of one.
+// A child window, or an item of one.
 class Element final : public QAccessibleInterface, public QAccessibleActionInterface
 {
 public:
@@ -235,7 +221,8 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    // Items come before the child windows, and are no objects of their own.
+    // The items, which are no objects of their own, come first among the children, the child windows after
+    // them.
     int itemCount() const
     {
         LONG count = 0;
@@ -275,7 +262,7 @@ private:
     const Reference<IAccessible> m_object;
 };
 
-// The widget of a top-level window, with the window's children for its own.
+// The widget of a top-level window. Its children are the child windows of that window.
 class HostElement final : public QAccessibleWidget
 {
 public:
@@ -311,7 +298,7 @@ public:
         QAccessibleInterface* const item = element ? element->focusChild() : nullptr;
         return item ? item : element;
     }
-    // The focus of the widget is the window's own, unless a child has it.
+    // Qt gives the widget the focus even when a child window has it.
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
@@ -334,7 +321,7 @@ using Elements = std::map<std::pair<HWND, LONG>, QAccessible::Id>;
 
 Elements& elements()
 {
-    static auto& made = *new Elements; // windows of the program may outlive static destruction
+    static auto& made = *new Elements; // never destroyed: a program may leave windows behind
     return made;
 }
 

@@ -1,5 +1,5 @@
-// The windows as Qt tells the desktop of them: the widget of a top-level window, below it its child windows,
-// and below each the items that its object lists.
+// What Qt shows the desktop of our windows: the widget of a top-level window, below it the child windows, and
+// below each of these the items that its object lists.
 #pragma once
 
 #include "oleacc.h"
@@ -9,11 +9,12 @@
 
 namespace winapi {
 
-// Null for a window that is not shown.
+// The element of a window; null for a top-level window without a widget.
 QAccessibleInterface* accessibleOf(Window& window);
+// The element of an item, by its number in the window's object.
 QAccessibleInterface* accessibleOf(Window& window, LONG item);
 
-// The items of the window are others now.
+// To be called when the items of a window have changed: they get new elements.
 void forgetAccessibleItems(HWND window);
 
 }

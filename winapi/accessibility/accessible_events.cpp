@@ -1,4 +1,4 @@
-// What became of windows, for assistive technology and for hooks.
+// Events of windows, passed on to hooks and, through Qt, to screen readers.
 #include "accessible_element.h"
 #include "rooms_above.h"
 
@@ -21,7 +21,7 @@ struct EventHook
 
 std::vector<EventHook>& hooks()
 {
-    static auto& set = *new std::vector<EventHook>; // windows of the program may outlive static destruction
+    static auto& set = *new std::vector<EventHook>; // never destroyed: a program may leave windows behind
     return set;
 }
 
@@ -45,7 +45,7 @@ Selection& lastSelection()
     return last;
 }
 
-// One item of a window is selected at a time: the one before it no longer is.
+// A window has one selected item at a time: selecting one takes the selection from the one before.
 void tellSelection(Window& window, LONG item)
 {
     const Selection before = std::exchange(lastSelection(), {window.handle, item});

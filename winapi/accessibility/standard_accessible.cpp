@@ -12,10 +12,11 @@ using namespace winapi;
 
 namespace {
 
+// Which text is a window's name.
 enum class Speaks
 {
-    OwnText,  // is the name
-    LabelText // names it, its own text is the value
+    OwnText,
+    LabelText, // that of the label before it; its own text is its value
 };
 
 struct Kind
@@ -26,18 +27,8 @@ struct Kind
 
 Kind buttonKind(const Window& window)
 {
-    switch (window.style & BS_TYPEMASK) {
-    case BS_CHECKBOX:
-    case BS_AUTOCHECKBOX:
-        return {ROLE_SYSTEM_CHECKBUTTON, Speaks::OwnText};
-    case BS_RADIOBUTTON:
-    case BS_AUTORADIOBUTTON:
-        return {ROLE_SYSTEM_RADIOBUTTON, Speaks::OwnText};
-    case BS_GROUPBOX:
-        return {ROLE_SYSTEM_GROUPING, Speaks::OwnText};
-    default:
-        return {ROLE_SYSTEM_PUSHBUTTON, Speaks::OwnText};
-    }
+    const bool checks = (window.style & BS_TYPEMASK) == BS_AUTOCHECKBOX;
+    return {checks ? ROLE_SYSTEM_CHECKBUTTON : ROLE_SYSTEM_PUSHBUTTON, Speaks::OwnText};
 }
 
 Kind kindOf(const Window& window)
@@ -47,7 +38,7 @@ Kind kindOf(const Window& window)
         const char* className;
         Kind kind;
     };
-    static constexpr ClassKind kinds[] = {
+    static constexpr ClassKind kKinds[] = {
         {"static", {ROLE_SYSTEM_STATICTEXT, Speaks::OwnText}},
         {"edit", {ROLE_SYSTEM_TEXT, Speaks::LabelText}},
         {"listbox", {ROLE_SYSTEM_LIST, Speaks::LabelText}},
@@ -57,9 +48,9 @@ Kind kindOf(const Window& window)
     const QString name = QString::fromStdString(window.windowClass->name).toLower();
     if (name == "button")
         return buttonKind(window);
-    const auto* const found = std::find_if(std::begin(kinds), std::end(kinds),
+    const auto* const found = std::find_if(std::begin(kKinds), std::end(kKinds),
                                            [&](const ClassKind& kind) { return name == kind.className; });
-    return found != std::end(kinds) ? found->kind : Kind{ROLE_SYSTEM_CLIENT, Speaks::OwnText};
+    return found != std::end(kKinds) ? found->kind : Kind{ROLE_SYSTEM_CLIENT, Speaks::OwnText};
 }
 
 QString textOf(HWND window)
@@ -69,7 +60,7 @@ QString textOf(HWND window)
     return QString::fromUtf8(text.c_str());
 }
 
-// The nearest label before it.
+// The text of the nearest label before the window.
 QString labelOf(const Window& window)
 {
     const auto& siblings = window.parent->children;
@@ -114,16 +105,6 @@ HRESULT giveNothing(VARIANT* result)
 {
     *result = {};
     return S_FALSE;
-}
-
-std::vector<HWND> shownChildren(const Window& window)
-{
-    std::vector<HWND> shown;
-    for (const Window* child : window.children) {
-        if (child->is(WS_VISIBLE))
-            shown.push_back(child->handle);
-    }
-    return shown;
 }
 
 class StandardAccessible final : public IAccessible
@@ -180,9 +161,9 @@ public:
         return tell([&](Window& window) {
             if (child.vt == VT_I4 && child.lVal == CHILDID_SELF)
                 return QueryInterface(__uuidof(IDispatch), reinterpret_cast<void**>(object));
-            const std::vector<HWND> children = shownChildren(window);
+            const std::vector<Window*> children = shownChildren(window);
             const auto index = static_cast<std::size_t>(child.lVal) - 1;
-            return child.vt == VT_I4 && index < children.size() ? giveObject(children[index], object)
+            return child.vt == VT_I4 && index < children.size() ? giveObject(children[index]->handle, object)
                                                                 : E_INVALIDARG;
         });
     }
@@ -299,8 +280,7 @@ private:
     static bool canBePressed(const Window& window)
     {
         const LONG role = kindOf(window).role;
-        return window.isEnabled() && (role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_CHECKBUTTON ||
-                                      role == ROLE_SYSTEM_RADIOBUTTON);
+        return window.isEnabled() && (role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_CHECKBUTTON);
     }
 
     LONG stateOf(const Window& window) const
@@ -314,8 +294,7 @@ private:
             state |= STATE_SYSTEM_FOCUSABLE;
         if (GetFocus() == m_window)
             state |= STATE_SYSTEM_FOCUSED;
-        const LONG role = kindOf(window).role;
-        const bool checkable = role == ROLE_SYSTEM_CHECKBUTTON || role == ROLE_SYSTEM_RADIOBUTTON;
+        const bool checkable = kindOf(window).role == ROLE_SYSTEM_CHECKBUTTON;
         if (checkable && SendMessageA(m_window, BM_GETCHECK, 0, 0) == BST_CHECKED)
             state |= STATE_SYSTEM_CHECKED;
         return state;
@@ -327,7 +306,7 @@ private:
 
 }
 
-// All callers are in this process: the answer is the object itself, with a reference of its own.
+// Who asks is in this process: the answer is the object itself, with one reference more.
 LRESULT LresultFromObject(REFIID id, WPARAM, IUnknown* object)
 {
     void* reference = nullptr;
@@ -335,19 +314,15 @@ LRESULT LresultFromObject(REFIID id, WPARAM, IUnknown* object)
     return SUCCEEDED(hr) ? reinterpret_cast<LRESULT>(reference) : hr;
 }
 
-HRESULT ObjectFromLresult(LRESULT result, REFIID id, WPARAM, void** object)
-{
-    auto* const reference = reinterpret_cast<IUnknown*>(result);
-    const HRESULT hr = reference->QueryInterface(id, object);
-    reference->Release();
-    return hr;
-}
-
 HRESULT AccessibleObjectFromWindow(HWND window, DWORD objectId, REFIID id, void** object)
 {
     const LRESULT own = SendMessageA(window, WM_GETOBJECT, 0, static_cast<LONG>(objectId));
-    return own > 0 ? ObjectFromLresult(own, id, 0, object)
-                   : CreateStdAccessibleObject(window, static_cast<LONG>(objectId), id, object);
+    if (own <= 0)
+        return CreateStdAccessibleObject(window, static_cast<LONG>(objectId), id, object);
+    auto* const reference = reinterpret_cast<IUnknown*>(own);
+    const HRESULT hr = reference->QueryInterface(id, object);
+    reference->Release();
+    return hr;
 }
 
 HRESULT CreateStdAccessibleObject(HWND window, LONG objectId, REFIID id, void** object)

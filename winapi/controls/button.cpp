@@ -1,16 +1,18 @@
-// The button: drawn by its owner, or a plain push button, check box or frame of a group.
+// The button: drawn by its owner, or a plain push button or check box.
 #include "button.h"
 
 #include "control.h"
+#include "focus.h"
 #include "geometry.h"
 #include "window_class.h"
 
-#include <algorithm>
 #include <iterator>
 
 namespace winapi {
 
 namespace {
+
+constexpr DWORD kButtonStyles = 0xFFFF; // the bits of a style that say what only a button understands
 
 struct ButtonState : ControlState
 {
@@ -18,7 +20,7 @@ struct ButtonState : ControlState
     WPARAM check = BST_UNCHECKED;
     bool focused = false;
     bool pushed = false; // looks pressed
-    bool held = false;   // by the mouse or the space key, wherever the pointer is
+    bool held = false;   // the mouse button or the space key is down, wherever the pointer is
 };
 
 class Button : public Control<ButtonState>
@@ -41,8 +43,6 @@ private:
     void paint();
     void paintPush(HDC dc, RECT rect);
     void paintCheck(HDC dc, RECT rect);
-    void paintGroup(HDC dc, RECT rect);
-    void drawMark(HDC dc, const RECT& rect, int color, int frameColor);
     void drawTick(HDC dc, const RECT& box);
     void drawLabel(HDC dc, RECT rect, UINT format);
 
@@ -51,13 +51,10 @@ private:
     void follow(LPARAM point);
     void letGo(bool inside);
     void click();
-    void checkAlone();
-    bool isRadio() const { return type() == BS_RADIOBUTTON || type() == BS_AUTORADIOBUTTON; }
-    void gainFocus();
+    void setFocused(bool focused);
     void loseFocus();
     void loseCapture();
     LRESULT dialogCode() const;
-    LRESULT stateBits() const;
     bool contains(LPARAM point) const
     {
         return m_window.clientRect().contains(GET_X_LPARAM(point), GET_Y_LPARAM(point));
@@ -72,8 +69,6 @@ LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_ERASEBKGND:
         return TRUE;
-    case WM_NCHITTEST:
-        return type() == BS_GROUPBOX ? HTTRANSPARENT : otherwise(message, wParam, lParam);
     case WM_LBUTTONDBLCLK:
         if (isOwnerDrawn()) {
             notifyCommand(m_window, BN_DOUBLECLICKED);
@@ -104,7 +99,7 @@ LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)
         loseCapture();
         return 0;
     case WM_SETFOCUS:
-        gainFocus();
+        setFocused(true);
         return 0;
     case WM_KILLFOCUS:
         loseFocus();
@@ -122,17 +117,13 @@ LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)
         if (LOWORD(lParam))
             InvalidateRect(hwnd(), nullptr, TRUE);
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(m_state.font);
     case WM_GETDLGCODE:
         return dialogCode();
     case BM_SETSTATE:
         setPushed(wParam);
         return 0;
-    case BM_GETSTATE:
-        return stateBits();
     case BM_SETSTYLE:
-        m_window.style = (m_window.style & ~0xFFFFu) | LOWORD(wParam);
+        m_window.style = (m_window.style & ~kButtonStyles) | LOWORD(wParam);
         if (LOWORD(lParam))
             InvalidateRect(hwnd(), nullptr, TRUE);
         return 0;
@@ -188,9 +179,6 @@ void Button::paint()
     case BS_OWNERDRAW:
         drawItem(context.dc(), ODA_DRAWENTIRE);
         return;
-    case BS_GROUPBOX:
-        paintGroup(context.dc(), rect);
-        return;
     case BS_PUSHBUTTON:
     case BS_DEFPUSHBUTTON:
         paintPush(context.dc(), rect);
@@ -215,48 +203,28 @@ void Button::paintPush(HDC dc, RECT rect)
     drawLabel(dc, rect, DT_CENTER | DT_VCENTER);
     if (!m_state.focused)
         return;
-    InflateRect(&rect, -3, -3);
+    constexpr int kFocusInset = 3;
+    InflateRect(&rect, -kFocusInset, -kFocusInset);
     DrawFocusRect(dc, &rect);
 }
 
 void Button::paintCheck(HDC dc, RECT rect)
 {
-    constexpr int boxSize = 13;
-    constexpr int gap = 4;
+    constexpr int kBoxSize = 13;
+    constexpr int kGap = 4;
     fillByParent(m_window, dc, WM_CTLCOLORSTATIC);
     RECT box = rect;
-    box.top += (rect.bottom - rect.top - boxSize) / 2;
-    box.right = box.left + boxSize;
-    box.bottom = box.top + boxSize;
-    drawMark(dc, box, COLOR_WINDOW, COLOR_BTNSHADOW);
-    if (m_state.check != BST_UNCHECKED) {
-        if (isRadio()) {
-            InflateRect(&box, -3, -3);
-            drawMark(dc, box, COLOR_BTNTEXT, COLOR_BTNTEXT);
-        } else {
-            drawTick(dc, box);
-        }
-    }
-    rect.left += boxSize + gap;
+    box.top += (rect.bottom - rect.top - kBoxSize) / 2;
+    box.right = box.left + kBoxSize;
+    box.bottom = box.top + kBoxSize;
+    FillRect(dc, &box, GetSysColorBrush(COLOR_WINDOW));
+    FrameRect(dc, &box, GetSysColorBrush(COLOR_BTNSHADOW));
+    if (m_state.check != BST_UNCHECKED)
+        drawTick(dc, box);
+    rect.left += kBoxSize + kGap;
     drawLabel(dc, rect, DT_LEFT | DT_VCENTER);
     if (m_state.focused)
         DrawFocusRect(dc, &rect);
-}
-
-// Round for a radio button, square for a check box.
-void Button::drawMark(HDC dc, const RECT& rect, int color, int frameColor)
-{
-    if (!isRadio()) {
-        FillRect(dc, &rect, GetSysColorBrush(color));
-        FrameRect(dc, &rect, GetSysColorBrush(frameColor));
-        return;
-    }
-    const HPEN pen = CreatePen(PS_SOLID, 1, GetSysColor(frameColor));
-    const HGDIOBJ oldPen = SelectObject(dc, pen);
-    const HGDIOBJ oldBrush = SelectObject(dc, GetSysColorBrush(color));
-    Ellipse(dc, rect.left, rect.top, rect.right, rect.bottom);
-    SelectObject(dc, oldBrush);
-    DeleteObject(SelectObject(dc, oldPen));
 }
 
 void Button::drawTick(HDC dc, const RECT& box)
@@ -266,18 +234,6 @@ void Button::drawTick(HDC dc, const RECT& box)
     const HGDIOBJ oldPen = SelectObject(dc, CreatePen(PS_SOLID, 2, GetSysColor(COLOR_BTNTEXT)));
     Polyline(dc, corners, static_cast<int>(std::size(corners)));
     DeleteObject(SelectObject(dc, oldPen));
-}
-
-void Button::paintGroup(HDC dc, RECT rect)
-{
-    constexpr int indent = 8;
-    RECT label = rect;
-    label.left += indent;
-    DrawTextA(dc, m_window.text.c_str(), -1, &label, DT_CALCRECT | DT_SINGLELINE);
-    rect.top += (label.bottom - label.top) / 2;
-    FrameRect(dc, &rect, GetSysColorBrush(COLOR_BTNSHADOW));
-    FillRect(dc, &label, GetSysColorBrush(COLOR_BTNFACE));
-    drawLabel(dc, label, DT_LEFT);
 }
 
 void Button::setPushed(bool pushed)
@@ -290,14 +246,14 @@ void Button::hold()
 {
     if (m_state.held)
         return;
-    SetCapture(hwnd());
+    setCapture(hwnd());
     m_state.held = true;
     SendMessageA(hwnd(), BM_SETSTATE, TRUE, 0);
 }
 
 void Button::follow(LPARAM point)
 {
-    if (m_state.held && GetCapture() == hwnd() && contains(point) != m_state.pushed)
+    if (m_state.held && captureHolder() == hwnd() && contains(point) != m_state.pushed)
         SendMessageA(hwnd(), BM_SETSTATE, contains(point), 0);
 }
 
@@ -307,8 +263,7 @@ void Button::letGo(bool inside)
         return;
     m_state.held = false;
     SendMessageA(hwnd(), BM_SETSTATE, FALSE, 0);
-    if (GetCapture() == hwnd())
-        ReleaseCapture();
+    releaseCapture(hwnd());
     if (inside && isAlive(m_window))
         click();
 }
@@ -319,47 +274,21 @@ void Button::click()
         m_state.check = m_state.check == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED;
         redraw(ODA_DRAWENTIRE);
     }
-    if (type() == BS_AUTORADIOBUTTON)
-        checkAlone();
     notifyCommand(m_window, BN_CLICKED);
 }
 
-// Of its group, which reaches from one control with WS_GROUP to the next.
-void Button::checkAlone()
+void Button::setFocused(bool focused)
 {
-    const auto& siblings = m_window.parent->children;
-    const auto begins = [](const Window* sibling) { return sibling->is(WS_GROUP); };
-    const auto self = std::find(siblings.begin(), siblings.end(), &m_window);
-    const auto before = std::find_if(std::make_reverse_iterator(self + 1), siblings.rend(), begins);
-    const auto first = before == siblings.rend() ? siblings.begin() : before.base() - 1;
-    std::vector<HWND> group;
-    std::transform(first, std::find_if(self + 1, siblings.end(), begins), std::back_inserter(group),
-                   [](const Window* sibling) { return sibling->handle; });
-    for (const HWND one : group) {
-        if (SendMessageA(one, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON)
-            SendMessageA(one, BM_SETCHECK, one == hwnd() ? BST_CHECKED : BST_UNCHECKED, 0);
-    }
-}
-
-void Button::gainFocus()
-{
-    m_state.focused = true;
+    m_state.focused = focused;
     redraw(ODA_FOCUS);
-    if (m_window.is(BS_NOTIFY))
-        notifyCommand(m_window, BN_SETFOCUS);
 }
 
 void Button::loseFocus()
 {
-    m_state.focused = false;
-    redraw(ODA_FOCUS);
-    if (GetCapture() == hwnd())
-        ReleaseCapture();
-    if (!isAlive(m_window))
-        return;
-    InvalidateRect(hwnd(), nullptr, FALSE);
-    if (m_window.is(BS_NOTIFY))
-        notifyCommand(m_window, BN_KILLFOCUS);
+    setFocused(false);
+    releaseCapture(hwnd());
+    if (isAlive(m_window))
+        InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
 void Button::loseCapture()
@@ -376,20 +305,9 @@ LRESULT Button::dialogCode() const
         return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
     case BS_DEFPUSHBUTTON:
         return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
-    case BS_GROUPBOX:
-        return DLGC_STATIC;
-    case BS_RADIOBUTTON:
-    case BS_AUTORADIOBUTTON:
-        return DLGC_BUTTON | DLGC_RADIOBUTTON;
     default:
         return DLGC_BUTTON;
     }
-}
-
-LRESULT Button::stateBits() const
-{
-    return static_cast<LRESULT>(m_state.check) | (m_state.pushed ? BST_PUSHED : 0) |
-           (m_state.focused ? BST_FOCUS : 0);
 }
 
 LRESULT buttonProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)

@@ -5,6 +5,7 @@
 #include "control.h"
 #include "control_widget.h"
 #include "keyboard.h"
+#include "placement.h"
 #include "window_class.h"
 
 #include <QComboBox>
@@ -84,8 +85,6 @@ LRESULT Combo::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SETFONT:
         setFont(reinterpret_cast<HFONT>(wParam));
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(m_state.font);
     case WM_ENABLE:
         m_state.follow(m_window);
         InvalidateRect(hwnd(), nullptr, FALSE);
@@ -145,7 +144,7 @@ void Combo::setFont(HFONT font)
 {
     m_state.font = font;
     m_state.widget.setFont(font);
-    SetWindowPos(hwnd(), nullptr, 0, 0, m_window.rect.width(), 0, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    placeWindow(hwnd(), {0, 0, m_window.rect.width(), 0}, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
@@ -155,7 +154,7 @@ void Combo::press(UINT message, LPARAM lParam)
     SetFocus(self);
     if (!IsWindow(self))
         return;
-    noteKeyOfMessage(VK_LBUTTON, false); // the list that opens gets the release
+    noteKey(VK_LBUTTON, false); // the list that opens gets the release
     m_state.widget.sendMouse(message, lParam);
 }
 

@@ -4,6 +4,7 @@
 #include "application.h"
 #include "control.h"
 #include "control_widget.h"
+#include "focus.h"
 #include "keyboard.h"
 #include "window_class.h"
 
@@ -233,8 +234,6 @@ LRESULT Edit::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_state.widget.setFont(m_state.font);
         InvalidateRect(hwnd(), nullptr, FALSE);
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(m_state.font);
     case WM_ENABLE:
         m_state.follow(m_window);
         InvalidateRect(hwnd(), nullptr, FALSE);
@@ -248,13 +247,12 @@ LRESULT Edit::handle(UINT message, WPARAM wParam, LPARAM lParam)
         press(message, lParam);
         return 0;
     case WM_MOUSEMOVE:
-        if (GetCapture() == hwnd())
+        if (captureHolder() == hwnd())
             act([&] { m_state.widget.sendMouse(message, lParam); });
         return 0;
     case WM_LBUTTONUP:
         act([&] { m_state.widget.sendMouse(message, lParam); });
-        if (GetCapture() == hwnd())
-            ReleaseCapture();
+        releaseCapture(hwnd());
         return 0;
     case WM_MOUSEWHEEL:
         return isMultiLine() && m_state.widget.sendWheel(wParam, lParam)
@@ -396,7 +394,7 @@ void Edit::press(UINT message, LPARAM lParam)
     SetFocus(self);
     if (!isAlive(m_window))
         return;
-    SetCapture(self);
+    setCapture(self);
     act([&] { m_state.widget.sendMouse(message, lParam); });
 }
 

@@ -4,6 +4,7 @@
 #include "application.h"
 #include "control.h"
 #include "control_widget.h"
+#include "focus.h"
 #include "geometry.h"
 #include "keyboard.h"
 #include "window_class.h"
@@ -129,8 +130,6 @@ LRESULT ListBox::handle(UINT message, WPARAM wParam, LPARAM lParam)
             measure();
         changed();
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(m_state.font);
     case WM_GETDLGCODE:
         return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_SETFOCUS:
@@ -396,7 +395,7 @@ void ListBox::press(UINT message, LPARAM lParam)
     SetFocus(self);
     if (!IsWindow(self))
         return;
-    SetCapture(self);
+    setCapture(self);
     m_state.barHeld = onBar(lParam);
     if (m_state.barHeld)
         return m_state.widget.sendMouse(message, lParam);
@@ -410,7 +409,7 @@ void ListBox::press(UINT message, LPARAM lParam)
 
 void ListBox::drag(UINT message, LPARAM lParam)
 {
-    if (GetCapture() != hwnd())
+    if (captureHolder() != hwnd())
         return;
     if (m_state.barHeld)
         return m_state.widget.sendMouse(message, lParam);
@@ -421,10 +420,10 @@ void ListBox::drag(UINT message, LPARAM lParam)
 
 void ListBox::letGo(UINT message, LPARAM lParam)
 {
-    if (GetCapture() != hwnd())
+    if (captureHolder() != hwnd())
         return;
     const HWND self = hwnd();
-    ReleaseCapture();
+    releaseCapture(hwnd());
     if (!IsWindow(self))
         return;
     if (m_state.barHeld)

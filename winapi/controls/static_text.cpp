@@ -76,8 +76,6 @@ LRESULT staticProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
         if (LOWORD(lParam))
             InvalidateRect(handle, nullptr, TRUE);
         return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(font);
     case WM_GETDLGCODE:
         return DLGC_STATIC;
     default:

@@ -1,4 +1,4 @@
-// The classes that the system's controls have.
+// Registers the classes of the system's controls.
 #include "button.h"
 #include "combo_box.h"
 #include "edit.h"

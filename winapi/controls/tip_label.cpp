@@ -1,3 +1,4 @@
+// The little window that shows a tip: its look and its place.
 #include "tip_label.h"
 
 #include <QGuiApplication>
@@ -9,14 +10,15 @@ namespace winapi {
 
 namespace {
 
-constexpr int belowPointer = 20;
-constexpr int abovePointer = 4;
+// Pixels between the pointer and the tip.
+constexpr int kBelowPointer = 20;
+constexpr int kAbovePointer = 4;
 
 QRect placeInside(const QRect& screen, QPoint pointer, QSize size)
 {
-    QRect place(pointer + QPoint(0, belowPointer), size);
+    QRect place(pointer + QPoint(0, kBelowPointer), size);
     if (place.bottom() > screen.bottom())
-        place.moveBottom(pointer.y() - abovePointer);
+        place.moveBottom(pointer.y() - kAbovePointer);
     if (place.right() > screen.right())
         place.moveRight(screen.right());
     place.moveLeft(std::max(place.left(), screen.left()));
@@ -29,7 +31,7 @@ QRect placeInside(const QRect& screen, QPoint pointer, QSize size)
 TipLabel::TipLabel()
     : QLabel(nullptr, Qt::ToolTip | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus)
 {
-    constexpr int inside = 3;
+    constexpr int kInside = 3;
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setPalette(QToolTip::palette());
@@ -38,26 +40,21 @@ TipLabel::TipLabel()
     setBackgroundRole(QPalette::ToolTipBase);
     setAutoFillBackground(true);
     setFrameStyle(QFrame::Box | QFrame::Plain);
-    setMargin(inside);
+    setMargin(kInside);
 }
 
-QRect TipLabel::showAt(QPoint pointer, const QString& text, int maxWidth, QWidget* above)
+QRect TipLabel::showAt(QPoint pointer, QString text, QWidget* owner)
 {
-    QString shown = text;
-    if (maxWidth < 0)
-        shown.replace("\r\n", " ").replace('\n', ' ');
-    setWordWrap(maxWidth >= 0);
-    setMaximumWidth(maxWidth >= 0 ? maxWidth : QWIDGETSIZE_MAX);
-    setText(shown);
+    setText(text.replace("\r\n", " ").replace('\n', ' '));
     adjustSize();
 
     const QScreen* const under = QGuiApplication::screenAt(pointer);
     const QScreen* const screen = under ? under : QGuiApplication::primaryScreen();
     const QRect place = placeInside(screen->availableGeometry(), pointer, size());
-    // Wayland places a tip by the window that it belongs to.
+    // Wayland places a tip relative to the window that it belongs to.
     winId();
-    if (above)
-        windowHandle()->setTransientParent(above->window()->windowHandle());
+    if (owner)
+        windowHandle()->setTransientParent(owner->window()->windowHandle());
     setGeometry(place);
     show();
     return place;

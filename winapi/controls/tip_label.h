@@ -10,9 +10,9 @@ class TipLabel : public QLabel
 public:
     TipLabel();
 
-    // Shows plain text below the pointer, or above it where the screen ends. A width of -1 means one line.
-    // Returns the place on the screen.
-    QRect showAt(QPoint pointer, const QString& text, int maxWidth, QWidget* above);
+    // Shows plain text in one line below the pointer, or above it where the screen ends. `owner`, which may
+    // be null, stands in the window that the tip belongs to. Gives the place on the screen.
+    QRect showAt(QPoint pointer, QString text, QWidget* owner);
 };
 
 }

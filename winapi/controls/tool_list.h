@@ -1,4 +1,4 @@
-// The tools of one tool-tip control.
+// The tools of a tool-tip control: windows, or parts of windows, that have a tip.
 #pragma once
 
 #include "commctrl.h"
@@ -12,39 +12,37 @@ namespace winapi {
 struct Tool
 {
     UINT flags = 0;
-    HWND owner = nullptr; // hears the notifications
-    UINT_PTR id = 0;      // a window with TTF_IDISHWND
-    RECT rect{};          // in the owner's client area, unless the tool is a window
-    HINSTANCE instance = nullptr;
+    HWND owner = nullptr;            // gets the notifications
+    UINT_PTR id = 0;                 // with TTF_IDISHWND: the window that is the tool
+    RECT rect{};                     // else: the tool's place in the owner's client area
     std::optional<std::string> text; // none: the owner is asked each time
-    LPARAM data = 0;
 
     HWND window() const { return flags & TTF_IDISHWND ? reinterpret_cast<HWND>(id) : owner; }
     bool contains(HWND window, POINT client) const;
     bool isSame(const Tool& other) const { return owner == other.owner && id == other.id; }
 };
 
-// The structure as far as the caller's version of it goes.
+// None when the structure is smaller than its first version.
 std::optional<Tool> toTool(const TOOLINFOA* info);
-void fillInfo(const Tool& tool, TOOLINFOA& info);
 
 class ToolList
 {
 public:
-    // A tool that is there already is added once more.
+    // The list may hold the same tool more than once.
     void add(Tool tool) { m_tools.push_back(std::move(tool)); }
     void remove(const Tool& like);
-    Tool* find(const Tool& like);
-    Tool* at(std::size_t index) { return index < m_tools.size() ? &m_tools[index] : nullptr; }
-    Tool* hit(HWND window, POINT client);
+    const Tool* find(const Tool& like) const;
+    // The tool at a place in the client area of a window.
+    const Tool* hit(HWND window, POINT client) const;
     std::size_t count() const { return m_tools.size(); }
 
 private:
+    std::vector<Tool>::const_iterator placeOf(const Tool& like) const;
+
     std::vector<Tool> m_tools;
 };
 
-// What is shown of a text: up to a tab, single ampersands left out and doubled ones single, unless they are
-// meant.
-std::string shownText(const std::string& text, bool ampersandsAreMeant);
+// What a tip shows of a text: a single ampersand is left out, a double one shows as one.
+std::string shownText(const std::string& text);
 
 }

@@ -17,7 +17,8 @@ QString toText(LPCSTR text)
     return QString::fromUtf8(text);
 }
 
-// In Qt's notation: a description and its patterns in parentheses.
+// From pairs of texts, each ended by a zero, to Qt's notation: a description with its patterns in
+// parentheses.
 QStringList filtersOf(LPCSTR pairs)
 {
     QStringList filters;
@@ -26,7 +27,7 @@ QStringList filtersOf(LPCSTR pairs)
         pairs += lstrlenA(pairs) + 1;
         const QString patterns = toText(pairs).replace(';', ' ').replace("*.*", "*");
         pairs += lstrlenA(pairs) + 1;
-        // What stands in parentheses already would be taken for the patterns.
+        // Qt would take what stands in parentheses already for the patterns.
         description = description.section('(', 0, 0).trimmed();
         filters.append(description + " (" + patterns + ")");
     }

@@ -1,6 +1,8 @@
+// Runs a dialog of Qt for a window of winapi, and keeps the last error of the dialogs.
 #include "modal_dialog.h"
 
 #include "commdlg.h"
+#include "focus.h"
 #include "host_widget.h"
 #include "window_tree.h"
 
@@ -11,7 +13,7 @@ namespace winapi {
 
 namespace {
 
-// The top-level window of the owner takes no input while this lives.
+// While this object lives, the top-level window of the owner takes no input.
 class OwnerDisabled
 {
 public:
@@ -22,10 +24,11 @@ public:
     }
     ~OwnerDisabled()
     {
-        if (!m_disabled || !IsWindow(m_root))
+        const WindowPtr root = m_disabled ? findWindow(m_root) : nullptr;
+        if (!root)
             return;
         EnableWindow(m_root, TRUE);
-        SetActiveWindow(m_root);
+        activate(root.get(), ActivatedBy::Program);
         if (IsWindow(m_focus))
             SetFocus(m_focus);
     }
@@ -38,7 +41,8 @@ private:
     bool m_disabled;
 };
 
-// Not as its parent, which would destroy it when the owner goes.
+// Keeps the dialog above its owner. Were the owner its parent in Qt, destroying the owner would delete the
+// dialog.
 void standOver(QDialog& dialog, HWND owner)
 {
     const WindowPtr window = findWindow(owner);

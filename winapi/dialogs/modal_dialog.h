@@ -1,4 +1,4 @@
-// Dialogs of Qt, run for a window of ours.
+// How a dialog of Qt is run for a window of winapi.
 #pragma once
 
 #include "winuser.h"
@@ -10,8 +10,9 @@ namespace winapi {
 // Shows the dialog until it is answered, the owner disabled meanwhile. Gives what QDialog::exec gives.
 int runModal(QDialog& dialog, HWND owner);
 
-// What CommDlgExtendedError tells.
+// What CommDlgExtendedError gives.
 DWORD& lastDialogError();
+// Sets that, and gives FALSE.
 BOOL failDialog(DWORD error);
 
 }

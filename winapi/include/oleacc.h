@@ -1,7 +1,7 @@
 // What windows tell screen readers and other assistive technology.
 //
-// A window may answer WM_GETOBJECT with an object of its own; the standard object speaks for any other. Here
-// all of them are told to the desktop by Qt.
+// A window may answer WM_GETOBJECT with an object of its own; the standard object speaks for any other. Qt
+// passes on to the desktop what the objects say.
 #pragma once
 
 #include "winuser.h"
@@ -39,7 +39,6 @@ struct IAccessible : IDispatch
 #define WM_GETOBJECT 0x003D
 
 #define CHILDID_SELF 0
-#define OBJID_WINDOW (static_cast<LONG>(0))
 #define OBJID_CLIENT (static_cast<LONG>(-4))
 
 #define SELFLAG_TAKEFOCUS 0x01
@@ -47,7 +46,6 @@ struct IAccessible : IDispatch
 
 #define ROLE_SYSTEM_CLIENT 0x0A
 #define ROLE_SYSTEM_DIALOG 0x12
-#define ROLE_SYSTEM_GROUPING 0x14
 #define ROLE_SYSTEM_TABLE 0x18
 #define ROLE_SYSTEM_CELL 0x1D
 #define ROLE_SYSTEM_LIST 0x21
@@ -55,7 +53,6 @@ struct IAccessible : IDispatch
 #define ROLE_SYSTEM_TEXT 0x2A
 #define ROLE_SYSTEM_PUSHBUTTON 0x2B
 #define ROLE_SYSTEM_CHECKBUTTON 0x2C
-#define ROLE_SYSTEM_RADIOBUTTON 0x2D
 #define ROLE_SYSTEM_COMBOBOX 0x2E
 
 #define STATE_SYSTEM_UNAVAILABLE 0x00000001
@@ -66,23 +63,20 @@ struct IAccessible : IDispatch
 #define STATE_SYSTEM_FOCUSABLE 0x00100000
 #define STATE_SYSTEM_SELECTABLE 0x00200000
 
-// The reference that an object goes by in the answer to WM_GETOBJECT, and back; each such answer is to be
-// taken back once.
+// What a window answers to WM_GETOBJECT with, for the object that speaks for it. The answer holds a reference
+// of its own to the object until AccessibleObjectFromWindow takes it.
 WINUSERAPI LRESULT WINAPI LresultFromObject(REFIID id, WPARAM wParam, IUnknown* object);
-WINUSERAPI HRESULT WINAPI ObjectFromLresult(LRESULT result, REFIID id, WPARAM wParam, void** object);
 
 // The object that speaks for a window, its own or the standard one. Only OBJID_CLIENT is served.
 WINUSERAPI HRESULT WINAPI AccessibleObjectFromWindow(HWND window, DWORD objectId, REFIID id, void** object);
 WINUSERAPI HRESULT WINAPI CreateStdAccessibleObject(HWND window, LONG objectId, REFIID id, void** object);
 
-// ---- events
+// ---- events ----
 
 #define EVENT_OBJECT_REORDER 0x8004
 #define EVENT_OBJECT_FOCUS 0x8005
 #define EVENT_OBJECT_SELECTION 0x8006
-#define EVENT_OBJECT_STATECHANGE 0x800A
 #define EVENT_OBJECT_NAMECHANGE 0x800C
-#define EVENT_OBJECT_VALUECHANGE 0x800E
 
 #define WINEVENT_OUTOFCONTEXT 0x0000
 
@@ -90,9 +84,9 @@ DECLARE_HANDLE(HWINEVENTHOOK);
 using WINEVENTPROC = void (*)(HWINEVENTHOOK, DWORD event, HWND, LONG objectId, LONG child, DWORD thread,
                               DWORD time);
 
-// Tells assistive technology what became of a window or of a child of its object.
+// Tells assistive technology that something has changed about a window, or about a child of its object.
 WINUSERAPI void WINAPI NotifyWinEvent(DWORD event, HWND window, LONG objectId, LONG child);
-// The procedure hears of events of this process at once.
+// The procedure is called for each event of this process, at once.
 WINUSERAPI HWINEVENTHOOK WINAPI SetWinEventHook(DWORD eventMin, DWORD eventMax, HMODULE module,
                                                 WINEVENTPROC procedure, DWORD process, DWORD thread,
                                                 DWORD flags);

@@ -1,13 +1,12 @@
 // Text fields, lists and combo boxes, and the message box.
 //
-// Texts are plain throughout. A position in a text counts its bytes.
+// All texts are plain, without markup. A position in a text counts its bytes.
 #pragma once
 
 #include "windef.h"
 
 // ---- "EDIT" ----
 
-#define ES_LEFT 0x0000
 #define ES_CENTER 0x0001
 #define ES_RIGHT 0x0002
 #define ES_MULTILINE 0x0004
@@ -22,7 +21,6 @@
 #define EM_SETSEL 0x00B1
 #define EM_REPLACESEL 0x00C2
 #define EM_LIMITTEXT 0x00C5
-#define EM_SETLIMITTEXT EM_LIMITTEXT
 #define EM_SETREADONLY 0x00CF
 
 #define EN_SETFOCUS 0x0100
@@ -32,7 +30,7 @@
 
 // ---- "LISTBOX" ----
 //
-// One row at most is selected. The scroll bar stands at the right edge of the client area.
+// At most one row is selected. The scroll bar stands at the right edge of the client area.
 
 #define LBS_NOTIFY 0x0001
 #define LBS_OWNERDRAWFIXED 0x0010
@@ -64,7 +62,6 @@
 // ---- "COMBOBOX" ----
 
 #define CBS_DROPDOWNLIST 0x0003
-#define CBS_HASSTRINGS 0x0200
 
 #define CB_OKAY 0
 #define CB_ERR (-1)
@@ -81,25 +78,10 @@
 // ---- The message box ----
 
 #define MB_OK 0x00000000
-#define MB_OKCANCEL 0x00000001
-#define MB_YESNOCANCEL 0x00000003
-#define MB_YESNO 0x00000004
-#define MB_TYPEMASK 0x0000000F
-#define MB_ICONHAND 0x00000010
-#define MB_ICONQUESTION 0x00000020
 #define MB_ICONEXCLAMATION 0x00000030
-#define MB_ICONASTERISK 0x00000040
-#define MB_ICONERROR MB_ICONHAND
-#define MB_ICONSTOP MB_ICONHAND
-#define MB_ICONWARNING MB_ICONEXCLAMATION
-#define MB_ICONINFORMATION MB_ICONASTERISK
 #define MB_ICONMASK 0x000000F0
-#define MB_DEFBUTTON1 0x00000000
-#define MB_DEFBUTTON2 0x00000100
-#define MB_DEFBUTTON3 0x00000200
-#define MB_DEFMASK 0x00000F00
 
-// Gives the id of the button pressed, 0 for an unknown kind. The owner is disabled meanwhile. Without a
-// caption it says "Error".
+// Shows a text, and no more than MB_OK and MB_ICONEXCLAMATION of `type`. The owner is disabled meanwhile.
+// Without a caption the box says "Error". Gives IDOK; 0 when `type` asks for other buttons.
 WINUSERAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 #define MessageBox MessageBoxA

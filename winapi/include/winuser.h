@@ -1,8 +1,8 @@
-// Windows, messages, input, painting and controls.
+// Windows, messages, input, painting, the button and the label.
 //
-// One thread, the one that made the first window, owns all windows, and only it may make these calls.
-// Coordinates are logical pixels. The frame and the caption of a top-level window belong to the window
-// manager: its window rectangle is its client rectangle.
+// All calls are for one thread: the one that made the first window. Coordinates are logical pixels. The frame
+// and the caption of a top-level window belong to the window manager: its window rectangle is its client
+// rectangle.
 #pragma once
 
 #include "windef.h"
@@ -14,19 +14,12 @@
 
 // ---- identifiers ----
 
-#define MAKEINTATOM(i) (reinterpret_cast<LPSTR>(static_cast<ULONG_PTR>(static_cast<WORD>(i))))
-
 #define IDOK 1
 #define IDCANCEL 2
-#define IDABORT 3
-#define IDRETRY 4
-#define IDIGNORE 5
-#define IDYES 6
 #define IDNO 7
 
 // ---- messages ----
 
-#define WM_NULL 0x0000
 #define WM_CREATE 0x0001
 #define WM_DESTROY 0x0002
 #define WM_MOVE 0x0003
@@ -35,7 +28,6 @@
 #define WM_SETFOCUS 0x0007
 #define WM_KILLFOCUS 0x0008
 #define WM_ENABLE 0x000A
-#define WM_SETREDRAW 0x000B
 #define WM_SETTEXT 0x000C
 #define WM_GETTEXT 0x000D
 #define WM_GETTEXTLENGTH 0x000E
@@ -43,79 +35,42 @@
 #define WM_CLOSE 0x0010
 #define WM_QUIT 0x0012
 #define WM_ERASEBKGND 0x0014
-#define WM_SYSCOLORCHANGE 0x0015
 #define WM_SHOWWINDOW 0x0018
-#define WM_SETTINGCHANGE 0x001A
 #define WM_ACTIVATEAPP 0x001C
 #define WM_CANCELMODE 0x001F
 #define WM_SETCURSOR 0x0020
 #define WM_MOUSEACTIVATE 0x0021
-#define WM_CHILDACTIVATE 0x0022
-#define WM_GETMINMAXINFO 0x0024
 #define WM_NEXTDLGCTL 0x0028
 #define WM_DRAWITEM 0x002B
 #define WM_MEASUREITEM 0x002C
-#define WM_DELETEITEM 0x002D
-#define WM_VKEYTOITEM 0x002E
-#define WM_CHARTOITEM 0x002F
 #define WM_SETFONT 0x0030
-#define WM_GETFONT 0x0031
-#define WM_COMPAREITEM 0x0039
 #define WM_WINDOWPOSCHANGING 0x0046
 #define WM_WINDOWPOSCHANGED 0x0047
 #define WM_NOTIFY 0x004E
-#define WM_HELP 0x0053
-#define WM_NOTIFYFORMAT 0x0055
 #define WM_CONTEXTMENU 0x007B
 #define WM_STYLECHANGING 0x007C
 #define WM_STYLECHANGED 0x007D
-#define WM_GETICON 0x007F
-#define WM_SETICON 0x0080
 #define WM_NCCREATE 0x0081
 #define WM_NCDESTROY 0x0082
 #define WM_NCCALCSIZE 0x0083
 #define WM_NCHITTEST 0x0084
-#define WM_NCPAINT 0x0085
 #define WM_NCACTIVATE 0x0086
 #define WM_GETDLGCODE 0x0087
-#define WM_NCMOUSEMOVE 0x00A0
-#define WM_NCLBUTTONDOWN 0x00A1
-#define WM_NCLBUTTONUP 0x00A2
-#define WM_NCRBUTTONDOWN 0x00A4
-#define WM_NCRBUTTONUP 0x00A5
-#define WM_NCMBUTTONDOWN 0x00A7
-#define WM_NCMBUTTONUP 0x00A8
 #define WM_KEYFIRST 0x0100
 #define WM_KEYDOWN 0x0100
 #define WM_KEYUP 0x0101
 #define WM_CHAR 0x0102
-#define WM_DEADCHAR 0x0103
 #define WM_SYSKEYDOWN 0x0104
 #define WM_SYSKEYUP 0x0105
 #define WM_SYSCHAR 0x0106
-#define WM_SYSDEADCHAR 0x0107
 #define WM_KEYLAST 0x0109
-#define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
 #define WM_SYSCOMMAND 0x0112
 #define WM_TIMER 0x0113
-#define WM_HSCROLL 0x0114
-#define WM_VSCROLL 0x0115
 #define WM_INITMENU 0x0116
 #define WM_INITMENUPOPUP 0x0117
 #define WM_MENUSELECT 0x011F
-#define WM_MENUCHAR 0x0120
-#define WM_ENTERIDLE 0x0121
 #define WM_UNINITMENUPOPUP 0x0125
-#define WM_CHANGEUISTATE 0x0127
-#define WM_UPDATEUISTATE 0x0128
-#define WM_QUERYUISTATE 0x0129
-#define WM_CTLCOLORMSGBOX 0x0132
-#define WM_CTLCOLOREDIT 0x0133
-#define WM_CTLCOLORLISTBOX 0x0134
-#define WM_CTLCOLORBTN 0x0135
-#define WM_CTLCOLORDLG 0x0136
-#define WM_CTLCOLORSCROLLBAR 0x0137
 #define WM_CTLCOLORSTATIC 0x0138
 #define WM_MOUSEFIRST 0x0200
 #define WM_MOUSEMOVE 0x0200
@@ -124,7 +79,6 @@
 #define WM_LBUTTONDBLCLK 0x0203
 #define WM_RBUTTONDOWN 0x0204
 #define WM_RBUTTONUP 0x0205
-#define WM_RBUTTONDBLCLK 0x0206
 #define WM_MBUTTONDOWN 0x0207
 #define WM_MBUTTONUP 0x0208
 #define WM_MBUTTONDBLCLK 0x0209
@@ -135,20 +89,11 @@
 #define WM_ENTERMENULOOP 0x0211
 #define WM_EXITMENULOOP 0x0212
 #define WM_CAPTURECHANGED 0x0215
-#define WM_MOUSEHOVER 0x02A1
 #define WM_MOUSELEAVE 0x02A3
-#define WM_CUT 0x0300
-#define WM_COPY 0x0301
-#define WM_PASTE 0x0302
-#define WM_CLEAR 0x0303
-#define WM_PRINTCLIENT 0x0318
-#define WM_THEMECHANGED 0x031A
 #define WM_USER 0x0400
-#define WM_APP 0x8000
 
 #define WHEEL_DELTA 120
 #define GET_WHEEL_DELTA_WPARAM(w) (static_cast<short>(HIWORD(w)))
-#define GET_KEYSTATE_WPARAM(w) (LOWORD(w))
 
 #define SIZE_RESTORED 0 // WM_SIZE
 #define SIZE_MINIMIZED 1
@@ -156,19 +101,9 @@
 #define WA_INACTIVE 0 // WM_ACTIVATE
 #define WA_ACTIVE 1
 #define WA_CLICKACTIVE 2
-#define MA_ACTIVATE 1 // WM_MOUSEACTIVATE
-#define MA_ACTIVATEANDEAT 2
-#define MA_NOACTIVATE 3
-#define MA_NOACTIVATEANDEAT 4
-#define HTERROR (-2) // WM_NCHITTEST
-#define HTTRANSPARENT (-1)
-#define HTNOWHERE 0
+#define MA_ACTIVATE 1      // WM_MOUSEACTIVATE
+#define HTTRANSPARENT (-1) // WM_NCHITTEST
 #define HTCLIENT 1
-#define HTCAPTION 2
-#define NFR_ANSI 1 // WM_NOTIFYFORMAT
-#define NFR_UNICODE 2
-#define NF_QUERY 3
-#define NF_REQUERY 4
 
 // The buttons and keys in wParam of a mouse message.
 #define MK_LBUTTON 0x0001
@@ -179,44 +114,27 @@
 
 // WM_GETDLGCODE
 #define DLGC_WANTARROWS 0x0001
-#define DLGC_WANTTAB 0x0002
 #define DLGC_WANTALLKEYS 0x0004
-#define DLGC_WANTMESSAGE 0x0004
 #define DLGC_HASSETSEL 0x0008
 #define DLGC_DEFPUSHBUTTON 0x0010
 #define DLGC_UNDEFPUSHBUTTON 0x0020
-#define DLGC_RADIOBUTTON 0x0040
 #define DLGC_WANTCHARS 0x0080
 #define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
 
 // WM_SYSCOMMAND
-#define SC_SIZE 0xF000
-#define SC_MOVE 0xF010
-#define SC_MINIMIZE 0xF020
-#define SC_MAXIMIZE 0xF030
 #define SC_CLOSE 0xF060
-#define SC_KEYMENU 0xF100
-#define SC_RESTORE 0xF120
 
-// Bits of lParam of a key message, seen in its upper word.
+// Bits in the upper word of lParam of a key message.
 #define KF_EXTENDED 0x0100
 #define KF_ALTDOWN 0x2000
 #define KF_REPEAT 0x4000
 #define KF_UP 0x8000
 
-// WM_CHANGEUISTATE, WM_UPDATEUISTATE, WM_QUERYUISTATE
-#define UIS_SET 1
-#define UIS_CLEAR 2
-#define UIS_INITIALIZE 3
-#define UISF_HIDEFOCUS 0x1
-#define UISF_HIDEACCEL 0x2
-
 // ---- virtual keys ----
 
 #define VK_LBUTTON 0x01
 #define VK_RBUTTON 0x02
-#define VK_CANCEL 0x03
 #define VK_MBUTTON 0x04
 #define VK_BACK 0x08
 #define VK_TAB 0x09
@@ -253,23 +171,15 @@
 #define VK_F4 0x73
 #define VK_F5 0x74
 #define VK_F10 0x79
-#define VK_F12 0x7B
-#define VK_F24 0x87
 #define VK_NUMLOCK 0x90
 #define VK_SCROLL 0x91
-#define VK_LSHIFT 0xA0
-#define VK_RSHIFT 0xA1
-#define VK_LCONTROL 0xA2
-#define VK_RCONTROL 0xA3
-#define VK_LMENU 0xA4
-#define VK_RMENU 0xA5
 #define VK_OEM_1 0xBA
 #define VK_OEM_PLUS 0xBB
 #define VK_OEM_COMMA 0xBC
 #define VK_OEM_MINUS 0xBD
 #define VK_OEM_PERIOD 0xBE
 #define VK_OEM_2 0xBF
-#define VK_PACKET 0xE7 // text that is not of one key
+#define VK_PACKET 0xE7 // text that no single key stands for
 
 // ---- styles ----
 
@@ -279,46 +189,30 @@
 #define WS_MINIMIZE 0x20000000
 #define WS_VISIBLE 0x10000000
 #define WS_DISABLED 0x08000000
-#define WS_CLIPSIBLINGS 0x04000000
 #define WS_CLIPCHILDREN 0x02000000
 #define WS_MAXIMIZE 0x01000000
 #define WS_CAPTION 0x00C00000
 #define WS_BORDER 0x00800000
-#define WS_DLGFRAME 0x00400000
 #define WS_VSCROLL 0x00200000
 #define WS_HSCROLL 0x00100000
 #define WS_SYSMENU 0x00080000
 #define WS_THICKFRAME 0x00040000
-#define WS_GROUP 0x00020000
 #define WS_TABSTOP 0x00010000
 #define WS_MINIMIZEBOX 0x00020000
 #define WS_MAXIMIZEBOX 0x00010000
 #define WS_OVERLAPPEDWINDOW                                                                                  \
     (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
-#define WS_POPUPWINDOW (WS_POPUP | WS_BORDER | WS_SYSMENU)
-#define WS_CHILDWINDOW WS_CHILD
 
 #define WS_EX_DLGMODALFRAME 0x00000001
-#define WS_EX_NOPARENTNOTIFY 0x00000004
-#define WS_EX_TOPMOST 0x00000008
-#define WS_EX_TRANSPARENT 0x00000020
-#define WS_EX_TOOLWINDOW 0x00000080
-#define WS_EX_WINDOWEDGE 0x00000100
 #define WS_EX_CLIENTEDGE 0x00000200
 #define WS_EX_CONTROLPARENT 0x00010000
 #define WS_EX_STATICEDGE 0x00020000
-#define WS_EX_APPWINDOW 0x00040000
-#define WS_EX_NOACTIVATE 0x08000000
 
 #define CS_VREDRAW 0x0001
 #define CS_HREDRAW 0x0002
 #define CS_DBLCLKS 0x0008
-#define CS_OWNDC 0x0020
 #define CS_CLASSDC 0x0040
-#define CS_PARENTDC 0x0080
-#define CS_NOCLOSE 0x0200
 #define CS_SAVEBITS 0x0800
-#define CS_GLOBALCLASS 0x4000
 
 // ---- structures ----
 
@@ -331,8 +225,6 @@ struct MSG
     DWORD time;
     POINT pt;
 };
-using LPMSG = MSG*;
-using PMSG = MSG*;
 
 struct WNDCLASSA
 {
@@ -347,8 +239,6 @@ struct WNDCLASSA
     LPCSTR lpszMenuName;
     LPCSTR lpszClassName;
 };
-using WNDCLASS = WNDCLASSA;
-using LPWNDCLASSA = WNDCLASSA*;
 
 struct WNDCLASSEXA
 {
@@ -365,7 +255,6 @@ struct WNDCLASSEXA
     LPCSTR lpszClassName;
     HICON hIconSm;
 };
-using WNDCLASSEX = WNDCLASSEXA;
 
 struct CREATESTRUCTA
 {
@@ -382,17 +271,12 @@ struct CREATESTRUCTA
     LPCSTR lpszClass;
     DWORD dwExStyle;
 };
-using CREATESTRUCT = CREATESTRUCTA;
-using LPCREATESTRUCTA = CREATESTRUCTA*;
-using LPCREATESTRUCT = CREATESTRUCTA*;
 
 struct CBT_CREATEWNDA
 {
     CREATESTRUCTA* lpcs;
     HWND hwndInsertAfter;
 };
-using CBT_CREATEWND = CBT_CREATEWNDA;
-using LPCBT_CREATEWND = CBT_CREATEWNDA*;
 
 struct PAINTSTRUCT
 {
@@ -415,23 +299,12 @@ struct WINDOWPOS
     int cy;
     UINT flags;
 };
-using LPWINDOWPOS = WINDOWPOS*;
 
 struct NCCALCSIZE_PARAMS
 {
     RECT rgrc[3];
     WINDOWPOS* lppos;
 };
-
-struct MINMAXINFO
-{
-    POINT ptReserved;
-    POINT ptMaxSize;
-    POINT ptMaxPosition;
-    POINT ptMinTrackSize;
-    POINT ptMaxTrackSize;
-};
-using LPMINMAXINFO = MINMAXINFO*;
 
 struct STYLESTRUCT
 {
@@ -445,7 +318,6 @@ struct NMHDR
     UINT_PTR idFrom;
     UINT code;
 };
-using LPNMHDR = NMHDR*;
 
 struct DRAWITEMSTRUCT
 {
@@ -472,45 +344,15 @@ struct MEASUREITEMSTRUCT
 };
 using LPMEASUREITEMSTRUCT = MEASUREITEMSTRUCT*;
 
-struct DELETEITEMSTRUCT
-{
-    UINT CtlType;
-    UINT CtlID;
-    UINT itemID;
-    HWND hwndItem;
-    ULONG_PTR itemData;
-};
-using LPDELETEITEMSTRUCT = DELETEITEMSTRUCT*;
-
-struct COMPAREITEMSTRUCT
-{
-    UINT CtlType;
-    UINT CtlID;
-    HWND hwndItem;
-    UINT itemID1;
-    ULONG_PTR itemData1;
-    UINT itemID2;
-    ULONG_PTR itemData2;
-    DWORD dwLocaleId;
-};
-using LPCOMPAREITEMSTRUCT = COMPAREITEMSTRUCT*;
-
 #define ODT_MENU 1
 #define ODT_LISTBOX 2
-#define ODT_COMBOBOX 3
 #define ODT_BUTTON 4
-#define ODT_STATIC 5
 #define ODA_DRAWENTIRE 0x0001
 #define ODA_SELECT 0x0002
 #define ODA_FOCUS 0x0004
 #define ODS_SELECTED 0x0001
-#define ODS_GRAYED 0x0002
 #define ODS_DISABLED 0x0004
-#define ODS_CHECKED 0x0008
 #define ODS_FOCUS 0x0010
-#define ODS_DEFAULT 0x0020
-#define ODS_HOTLIGHT 0x0040
-#define ODS_INACTIVE 0x0080
 #define ODS_NOACCEL 0x0100
 #define ODS_NOFOCUSRECT 0x0200
 
@@ -523,171 +365,109 @@ struct TRACKMOUSEEVENT
 };
 using LPTRACKMOUSEEVENT = TRACKMOUSEEVENT*;
 
-#define TME_HOVER 0x00000001
 #define TME_LEAVE 0x00000002
-#define TME_QUERY 0x40000000
-#define TME_CANCEL 0x80000000
-#define HOVER_DEFAULT 0xFFFFFFFF
 
 // ---- window classes and creation ----
 
 #define CW_USEDEFAULT (static_cast<int>(0x80000000))
 #define HWND_TOP (static_cast<HWND>(nullptr))
-#define HWND_BOTTOM (reinterpret_cast<HWND>(static_cast<LONG_PTR>(1)))
-#define HWND_TOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)))
-#define HWND_NOTOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-2)))
 
 WINUSERAPI ATOM RegisterClassA(const WNDCLASSA* windowClass);
 WINUSERAPI ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
 WINUSERAPI BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
-WINUSERAPI BOOL GetClassInfoA(HINSTANCE instance, LPCSTR className, WNDCLASSA* windowClass);
-WINUSERAPI BOOL GetClassInfoExA(HINSTANCE instance, LPCSTR className, WNDCLASSEXA* windowClass);
 WINUSERAPI int GetClassNameA(HWND window, LPSTR buffer, int size);
 WINUSERAPI HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
                                 int width, int height, HWND parent, HMENU menuOrId, HINSTANCE instance,
                                 LPVOID param);
 WINUSERAPI BOOL DestroyWindow(HWND window);
-#define CreateWindowA(cls, text, style, x, y, w, h, parent, menu, instance, param)                           \
-    CreateWindowExA(0, cls, text, style, x, y, w, h, parent, menu, instance, param)
 #define RegisterClass RegisterClassA
 #define RegisterClassEx RegisterClassExA
 #define UnregisterClass UnregisterClassA
-#define GetClassInfo GetClassInfoA
-#define GetClassInfoEx GetClassInfoExA
 #define GetClassName GetClassNameA
-#define CreateWindow CreateWindowA
 #define CreateWindowEx CreateWindowExA
 
 #define GWL_STYLE (-16)
-#define GWL_EXSTYLE (-20)
 #define GWLP_WNDPROC (-4)
-#define GWLP_HINSTANCE (-6)
-#define GWLP_HWNDPARENT (-8)
-#define GWLP_ID (-12)
-#define GWLP_USERDATA (-21)
 
-#define GCL_STYLE (-26)
-#define GCLP_HBRBACKGROUND (-10)
-#define GCLP_HCURSOR (-12)
-
+// The index is one of these two.
 WINUSERAPI LONG_PTR GetWindowLongPtrA(HWND window, int index);
 WINUSERAPI LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
 WINUSERAPI LONG GetWindowLongA(HWND window, int index);
-WINUSERAPI LONG SetWindowLongA(HWND window, int index, LONG value);
-WINUSERAPI ULONG_PTR GetClassLongPtrA(HWND window, int index);
 WINUSERAPI LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 #define GetWindowLongPtr GetWindowLongPtrA
 #define SetWindowLongPtr SetWindowLongPtrA
 #define GetWindowLong GetWindowLongA
-#define SetWindowLong SetWindowLongA
-#define GetClassLongPtr GetClassLongPtrA
 #define DefWindowProc DefWindowProcA
 #define CallWindowProc CallWindowProcA
 
 // ---- the window tree ----
 
-#define GW_HWNDFIRST 0
-#define GW_HWNDLAST 1
 #define GW_HWNDNEXT 2
-#define GW_HWNDPREV 3
-#define GW_OWNER 4
 #define GW_CHILD 5
-#define GA_PARENT 1
 #define GA_ROOT 2
-#define GA_ROOTOWNER 3
 
 using WNDENUMPROC = BOOL (*)(HWND, LPARAM);
 
 WINUSERAPI BOOL IsWindow(HWND window);
 WINUSERAPI BOOL IsChild(HWND parent, HWND window);
 WINUSERAPI HWND GetParent(HWND window);
-WINUSERAPI HWND SetParent(HWND window, HWND newParent);
+// Only GA_ROOT is served: the top-level window above.
 WINUSERAPI HWND GetAncestor(HWND window, UINT flags);
 WINUSERAPI HWND GetWindow(HWND window, UINT command);
-WINUSERAPI HWND GetTopWindow(HWND window);
-WINUSERAPI HWND GetDesktopWindow();
 WINUSERAPI HWND GetDlgItem(HWND parent, int id);
 WINUSERAPI int GetDlgCtrlID(HWND window);
 WINUSERAPI BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC proc, LPARAM lParam);
 WINUSERAPI DWORD GetWindowThreadProcessId(HWND window, LPDWORD process);
-WINUSERAPI HWND WindowFromPoint(POINT point);
 WINUSERAPI HWND ChildWindowFromPoint(HWND parent, POINT point);
-WINUSERAPI HWND WindowFromDC(HDC dc);
 
 // ---- size, position, visibility, state ----
 
 #define SW_HIDE 0
-#define SW_SHOWNORMAL 1
-#define SW_NORMAL 1
-#define SW_SHOWMINIMIZED 2
-#define SW_SHOWMAXIMIZED 3
-#define SW_MAXIMIZE 3
-#define SW_SHOWNOACTIVATE 4
 #define SW_SHOW 5
-#define SW_MINIMIZE 6
 #define SW_SHOWNA 8
-#define SW_RESTORE 9
-#define SW_SHOWDEFAULT 10
 
 #define SWP_NOSIZE 0x0001
 #define SWP_NOMOVE 0x0002
 #define SWP_NOZORDER 0x0004
 #define SWP_NOREDRAW 0x0008
 #define SWP_NOACTIVATE 0x0010
-#define SWP_FRAMECHANGED 0x0020
-#define SWP_DRAWFRAME 0x0020
 #define SWP_SHOWWINDOW 0x0040
 #define SWP_HIDEWINDOW 0x0080
-#define SWP_NOCOPYBITS 0x0100
-#define SWP_NOOWNERZORDER 0x0200
-#define SWP_NOSENDCHANGING 0x0400
 
 WINUSERAPI BOOL ShowWindow(HWND window, int command);
 WINUSERAPI BOOL IsWindowVisible(HWND window);
 WINUSERAPI BOOL EnableWindow(HWND window, BOOL enable);
 WINUSERAPI BOOL IsWindowEnabled(HWND window);
-WINUSERAPI BOOL IsIconic(HWND window);
-WINUSERAPI BOOL IsZoomed(HWND window);
 WINUSERAPI BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
-WINUSERAPI BOOL SetWindowPos(HWND window, HWND insertAfter, int x, int y, int width, int height, UINT flags);
-WINUSERAPI BOOL BringWindowToTop(HWND window);
 WINUSERAPI BOOL GetClientRect(HWND window, LPRECT rect);
 WINUSERAPI BOOL GetWindowRect(HWND window, LPRECT rect);
 WINUSERAPI BOOL ScreenToClient(HWND window, LPPOINT point);
 WINUSERAPI BOOL ClientToScreen(HWND window, LPPOINT point);
 WINUSERAPI int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
-WINUSERAPI BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu);
 WINUSERAPI BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle);
 WINUSERAPI BOOL SetWindowTextA(HWND window, LPCSTR text);
 WINUSERAPI int GetWindowTextA(HWND window, LPSTR buffer, int size);
 WINUSERAPI int GetWindowTextLengthA(HWND window);
-WINUSERAPI BOOL SetDlgItemTextA(HWND parent, int id, LPCSTR text);
-WINUSERAPI UINT GetDlgItemTextA(HWND parent, int id, LPSTR buffer, int size);
 #define SetWindowText SetWindowTextA
 #define GetWindowText GetWindowTextA
 #define GetWindowTextLength GetWindowTextLengthA
-#define SetDlgItemText SetDlgItemTextA
-#define GetDlgItemText GetDlgItemTextA
 
 // ---- messages ----
 
 #define PM_NOREMOVE 0
 #define PM_REMOVE 1
-#define PM_NOYIELD 2
 
 WINUSERAPI UINT RegisterWindowMessageA(LPCSTR name);
 WINUSERAPI LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI BOOL PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI LRESULT SendDlgItemMessageA(HWND parent, int id, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI void PostQuitMessage(int exitCode);
 WINUSERAPI BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
-WINUSERAPI BOOL WaitMessage();
 WINUSERAPI BOOL TranslateMessage(const MSG* message);
 WINUSERAPI LRESULT DispatchMessageA(const MSG* message);
-// Tab, Enter, Escape and mnemonics of a dialog, or of any window with controls. Arrow keys reach the control.
+// Serves Tab, Enter, Escape and mnemonics of a dialog, or of any window with controls, and hands on all other
+// messages. Arrow keys reach the control.
 WINUSERAPI BOOL IsDialogMessageA(HWND dialog, MSG* message);
 WINUSERAPI HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
 WINUSERAPI DWORD GetMessagePos();
@@ -695,8 +475,6 @@ WINUSERAPI LONG GetMessageTime();
 #define RegisterWindowMessage RegisterWindowMessageA
 #define SendMessage SendMessageA
 #define PostMessage PostMessageA
-#define PostThreadMessage PostThreadMessageA
-#define SendDlgItemMessage SendDlgItemMessageA
 #define GetMessage GetMessageA
 #define PeekMessage PeekMessageA
 #define DispatchMessage DispatchMessageA
@@ -708,21 +486,18 @@ WINUSERAPI BOOL KillTimer(HWND window, UINT_PTR id);
 // ---- hooks ----
 
 #define WH_MSGFILTER (-1)
-#define WH_GETMESSAGE 3
 #define WH_CBT 5
 #define HCBT_CREATEWND 3
 #define HCBT_DESTROYWND 4
 #define HCBT_ACTIVATE 5
 #define HCBT_SETFOCUS 9
-#define HC_ACTION 0
 #define MSGF_DIALOGBOX 0
-#define MSGF_MENU 2
 #define MSGF_USER 4096
 
 WINUSERAPI HHOOK SetWindowsHookExA(int type, HOOKPROC proc, HINSTANCE module, DWORD thread);
 WINUSERAPI BOOL UnhookWindowsHookEx(HHOOK hook);
 WINUSERAPI LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wParam, LPARAM lParam);
-// A Qt application that runs its own loop has every message offered here with MSGF_USER before it is
+// While a Qt application runs its own loop, each message is offered here with MSGF_USER before it is
 // translated and dispatched.
 WINUSERAPI BOOL CallMsgFilterA(MSG* message, int code);
 #define SetWindowsHookEx SetWindowsHookExA
@@ -732,108 +507,57 @@ WINUSERAPI BOOL CallMsgFilterA(MSG* message, int code);
 
 WINUSERAPI HWND SetFocus(HWND window);
 WINUSERAPI HWND GetFocus();
-WINUSERAPI HWND SetActiveWindow(HWND window);
 WINUSERAPI HWND GetActiveWindow();
-WINUSERAPI BOOL SetForegroundWindow(HWND window);
-WINUSERAPI HWND GetForegroundWindow();
-WINUSERAPI HWND SetCapture(HWND window);
-WINUSERAPI BOOL ReleaseCapture();
-WINUSERAPI HWND GetCapture();
+// Once the pointer has left the window, it gets WM_MOUSELEAVE. Only TME_LEAVE is served.
 WINUSERAPI BOOL TrackMouseEvent(LPTRACKMOUSEEVENT request);
-WINUSERAPI UINT GetDoubleClickTime();
 
 #define IDC_ARROW MAKEINTRESOURCEA(32512)
 #define IDC_IBEAM MAKEINTRESOURCEA(32513)
-#define IDC_WAIT MAKEINTRESOURCEA(32514)
-#define IDC_CROSS MAKEINTRESOURCEA(32515)
-#define IDC_SIZENWSE MAKEINTRESOURCEA(32642)
-#define IDC_SIZENESW MAKEINTRESOURCEA(32643)
-#define IDC_SIZEWE MAKEINTRESOURCEA(32644)
-#define IDC_SIZENS MAKEINTRESOURCEA(32645)
-#define IDC_SIZEALL MAKEINTRESOURCEA(32646)
-#define IDC_NO MAKEINTRESOURCEA(32648)
-#define IDC_HAND MAKEINTRESOURCEA(32649)
 
 WINUSERAPI HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
 WINUSERAPI HCURSOR SetCursor(HCURSOR cursor);
-WINUSERAPI HCURSOR GetCursor();
-WINUSERAPI BOOL GetCursorPos(LPPOINT point);
 WINUSERAPI BOOL SetCursorPos(int x, int y);
 #define LoadCursor LoadCursorA
 
 WINUSERAPI SHORT GetKeyState(int key);
-WINUSERAPI SHORT GetAsyncKeyState(int key);
-WINUSERAPI BOOL GetKeyboardState(BYTE* state);
 WINUSERAPI BOOL SetKeyboardState(BYTE* state);
 
 // ---- painting ----
 
-#define RDW_INVALIDATE 0x0001
-#define RDW_INTERNALPAINT 0x0002
-#define RDW_ERASE 0x0004
-#define RDW_VALIDATE 0x0008
-#define RDW_NOINTERNALPAINT 0x0010
-#define RDW_NOERASE 0x0020
-#define RDW_NOCHILDREN 0x0040
-#define RDW_ALLCHILDREN 0x0080
-#define RDW_UPDATENOW 0x0100
-#define RDW_ERASENOW 0x0200
-#define RDW_FRAME 0x0400
-#define RDW_NOFRAME 0x0800
-
 WINUSERAPI HDC GetDC(HWND window);
-WINUSERAPI HDC GetWindowDC(HWND window);
 WINUSERAPI int ReleaseDC(HWND window, HDC dc);
 WINUSERAPI HDC BeginPaint(HWND window, LPPAINTSTRUCT paint);
 WINUSERAPI BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
 WINUSERAPI BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 WINUSERAPI BOOL ValidateRect(HWND window, const RECT* rect);
-WINUSERAPI BOOL RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);
 WINUSERAPI BOOL UpdateWindow(HWND window);
+// False, and an empty rectangle, when nothing waits to be painted. Erases nothing, whatever `erase` says.
 WINUSERAPI BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
 
 // ---- controls ----
 
 #define BS_PUSHBUTTON 0x0000
 #define BS_DEFPUSHBUTTON 0x0001
-#define BS_CHECKBOX 0x0002
 #define BS_AUTOCHECKBOX 0x0003
-#define BS_RADIOBUTTON 0x0004
-#define BS_GROUPBOX 0x0007
-#define BS_AUTORADIOBUTTON 0x0009
 #define BS_OWNERDRAW 0x000B
 #define BS_TYPEMASK 0x000F
-#define BS_LEFTTEXT 0x0020
-#define BS_ICON 0x0040
-#define BS_BITMAP 0x0080
 #define BS_LEFT 0x0100
 #define BS_RIGHT 0x0200
 #define BS_CENTER 0x0300
 #define BS_TOP 0x0400
 #define BS_BOTTOM 0x0800
 #define BS_VCENTER 0x0C00
-#define BS_PUSHLIKE 0x1000
-#define BS_MULTILINE 0x2000
-#define BS_NOTIFY 0x4000
-#define BS_FLAT 0x8000
 
 #define BN_CLICKED 0
 #define BN_DOUBLECLICKED 5
-#define BN_SETFOCUS 6
-#define BN_KILLFOCUS 7
 #define BM_GETCHECK 0x00F0
 #define BM_SETCHECK 0x00F1
-#define BM_GETSTATE 0x00F2
 #define BM_SETSTATE 0x00F3
 #define BM_SETSTYLE 0x00F4
 #define BM_CLICK 0x00F5
 #define BST_UNCHECKED 0x0000
 #define BST_CHECKED 0x0001
-#define BST_INDETERMINATE 0x0002
-#define BST_PUSHED 0x0004
-#define BST_FOCUS 0x0008
 
-#define SS_LEFT 0x0000
 #define SS_CENTER 0x0001
 #define SS_RIGHT 0x0002
 #define SS_SIMPLE 0x000B

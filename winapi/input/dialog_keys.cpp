@@ -13,7 +13,7 @@ bool isReachable(const Window& window)
     return window.is(WS_VISIBLE) && window.isEnabled();
 }
 
-// The controls of a dialog in their order; those of a nested one stand in its place.
+// The controls of a dialog in their order. The controls of a dialog inside it stand where that dialog stands.
 void collectControls(const Window& parent, std::vector<HWND>& controls)
 {
     for (const Window* child : parent.children) {
@@ -40,7 +40,8 @@ bool isTabStop(HWND handle)
     return window && window->is(WS_TABSTOP) && isReachable(*window);
 }
 
-// The first that `accepts` in the ring that begins behind `start`; null if none does.
+// Goes through the controls from the one behind `start` on, and at the end begins anew; gives the first that
+// `accepts`, null if none does.
 template <class Accepts>
 HWND findAfter(std::vector<HWND> ring, HWND start, Accepts accepts)
 {
@@ -99,7 +100,7 @@ bool actOnMnemonic(HWND dialog, HWND focus, WPARAM character)
     return true;
 }
 
-// A text is selected, ready to be typed over.
+// A text field that is reached by a key has its text selected, ready to be typed over.
 void moveTo(HWND next)
 {
     if (!next)
@@ -109,19 +110,16 @@ void moveTo(HWND next)
     SetFocus(next);
 }
 
-bool actOnKey(HWND dialog, MSG& message, LRESULT code)
+bool actOnKey(HWND dialog, const MSG& message)
 {
     switch (message.wParam) {
     case VK_TAB:
-        if (code & DLGC_WANTTAB)
-            return false;
         moveTo(GetNextDlgTabItem(dialog, message.hwnd, GetKeyState(VK_SHIFT) & 0x8000));
         return true;
     case VK_RETURN:
         command(dialog, IDOK);
         return true;
     case VK_ESCAPE:
-    case VK_CANCEL:
         command(dialog, IDCANCEL);
         return true;
     default:
@@ -136,10 +134,10 @@ bool act(HWND dialog, MSG& message)
     if (message.message != WM_KEYDOWN && message.message != WM_CHAR)
         return false;
     const LRESULT code = dialogCode(message.hwnd, &message);
-    if (code & DLGC_WANTMESSAGE)
+    if (code & DLGC_WANTALLKEYS)
         return false;
     if (message.message == WM_KEYDOWN)
-        return actOnKey(dialog, message, code);
+        return actOnKey(dialog, message);
     return !(code & DLGC_WANTCHARS) && actOnMnemonic(dialog, message.hwnd, message.wParam);
 }
 

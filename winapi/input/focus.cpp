@@ -1,3 +1,4 @@
+// Which window has the keyboard, which is active, and which has captured the mouse.
 #include "focus.h"
 
 #include "hooks.h"
@@ -45,7 +46,7 @@ HWND moveFocus(HWND window)
         SendMessageA(old, WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
     if (state().focus == window)
         NotifyWinEvent(EVENT_OBJECT_FOCUS, window, OBJID_CLIENT, CHILDID_SELF);
-    // The window that lost it may have given it to another.
+    // The window that lost the focus may have given it to another.
     if (window && state().focus == window && IsWindow(window))
         SendMessageA(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(old), 0);
     return old;
@@ -71,15 +72,14 @@ void moveCapture(HWND window)
         SendMessageA(old, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
 }
 
-// Who is active after `root`: its owner, else the topmost that can be.
+// The window that is active after `root`: its owner, else the topmost that can be.
 Window* successorOf(const Window& root)
 {
     if (const WindowPtr owner = root.owner ? findWindow(root.owner) : nullptr)
         return &rootOf(*owner);
     const auto& all = desktop().children;
     const auto found = std::find_if(all.begin(), all.end(), [&](const Window* window) {
-        return window != &root && window->is(WS_VISIBLE) && window->isEnabled() && !window->dying &&
-               !(window->exStyle & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW));
+        return window != &root && window->is(WS_VISIBLE) && window->isEnabled() && !window->dying;
     });
     return found == all.end() ? nullptr : *found;
 }
@@ -114,10 +114,8 @@ bool activate(Window* root, ActivatedBy by)
     }
     if (by != ActivatedBy::Host && root->host)
         root->host->takeActivation();
-    if (root->host || root->is(WS_VISIBLE)) {
-        unlinkWindow(*root);
-        linkWindow(*root, desktop(), HWND_TOP);
-    }
+    if (root->host || root->is(WS_VISIBLE))
+        raiseWindow(*root);
     if (!old)
         SendMessageA(next, WM_ACTIVATEAPP, TRUE, 0);
     SendMessageA(next, WM_NCACTIVATE, TRUE, 0);
@@ -150,6 +148,22 @@ void leaveDestroyed(Window& window)
         moveFocus(window.parent->handle);
 }
 
+void setCapture(HWND window)
+{
+    moveCapture(window);
+}
+
+HWND captureHolder()
+{
+    return state().capture;
+}
+
+void releaseCapture(HWND window)
+{
+    if (window && state().capture == window)
+        moveCapture(nullptr);
+}
+
 }
 
 using namespace winapi;
@@ -178,49 +192,9 @@ HWND GetFocus()
     return state().focus;
 }
 
-HWND SetActiveWindow(HWND handle)
-{
-    const WindowPtr window = findWindow(handle);
-    const HWND old = state().active;
-    if (!window || window->is(WS_CHILD))
-        return nullptr;
-    return activate(window.get(), ActivatedBy::Program) ? old : nullptr;
-}
-
 HWND GetActiveWindow()
 {
     return state().active;
-}
-
-BOOL SetForegroundWindow(HWND handle)
-{
-    const WindowPtr window = findWindow(handle);
-    return window && activate(&rootOf(*window), ActivatedBy::Program);
-}
-
-HWND GetForegroundWindow()
-{
-    return state().active;
-}
-
-HWND SetCapture(HWND handle)
-{
-    if (handle && !findWindow(handle))
-        return nullptr;
-    const HWND old = state().capture;
-    moveCapture(handle);
-    return old;
-}
-
-BOOL ReleaseCapture()
-{
-    moveCapture(nullptr);
-    return TRUE;
-}
-
-HWND GetCapture()
-{
-    return state().capture;
 }
 
 BOOL EnableWindow(HWND handle, BOOL enable)

@@ -1,4 +1,4 @@
-// Who has the keyboard, who is active, who has the mouse.
+// Which window has the keyboard, which is active, and which has captured the mouse.
 #pragma once
 
 #include "window.h"
@@ -9,14 +9,20 @@ enum class ActivatedBy
 {
     Program,
     Mouse,
-    Host, // the window system has given us the keyboard already
+    Host, // the window system, which has given the keyboard to the window already
 };
 
-// Makes a top-level window the active one, or none. True when it is active then.
+// Makes a top-level window the active one, or with null none. True when it is active afterwards.
 bool activate(Window* root, ActivatedBy by);
 
-// A window goes, for a time or for good: focus, activation and capture leave it.
+// Take focus, activation and capture away from a window that is hidden, or destroyed.
 void leaveHidden(Window& window);
 void leaveDestroyed(Window& window);
+
+// All mouse input goes to the window that has the capture, wherever the pointer is.
+void setCapture(HWND window);
+HWND captureHolder();
+// Ends the capture, if the window has it.
+void releaseCapture(HWND window);
 
 }

@@ -1,4 +1,4 @@
-// What hands do with mouse and keyboard.
+// What the user does with mouse and keyboard, before it is known which window it is for.
 #pragma once
 
 #include "winuser.h"
@@ -10,7 +10,6 @@
 
 namespace winapi {
 
-// What a hand did, before it is known which window it concerns.
 struct MouseInput
 {
     UINT message;

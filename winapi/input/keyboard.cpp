@@ -1,3 +1,4 @@
+// Keys: Qt's become virtual keys and messages, and it is noted which are down.
 #include "keyboard.h"
 
 #include "message_queue.h"
@@ -16,9 +17,9 @@ struct KeyPair
 {
     int qt;
     int key;
-    bool extended = false; // set apart from the number pad's
+    bool extended = false; // by this bit it differs from the same key of the number pad
 };
-constexpr KeyPair keyPairs[] = {
+constexpr KeyPair kKeyPairs[] = {
     {Qt::Key_Backspace, VK_BACK},        {Qt::Key_Tab, VK_TAB},
     {Qt::Key_Backtab, VK_TAB},           {Qt::Key_Return, VK_RETURN},
     {Qt::Key_Enter, VK_RETURN, true},    {Qt::Key_Shift, VK_SHIFT},
@@ -42,8 +43,8 @@ constexpr KeyPair keyPairs[] = {
     {Qt::Key_Slash, VK_OEM_2},           {Qt::Key_Question, VK_OEM_2},
 };
 
-// The pad's keys of characters; with NumLock off it gives the keys of the table above, not extended.
-constexpr KeyPair padPairs[] = {
+// Keys of the number pad that type characters. Its other keys are in the table above, and are not extended.
+constexpr KeyPair kPadPairs[] = {
     {Qt::Key_Asterisk, VK_MULTIPLY}, {Qt::Key_Plus, VK_ADD},      {Qt::Key_Minus, VK_SUBTRACT},
     {Qt::Key_Period, VK_DECIMAL},    {Qt::Key_Comma, VK_DECIMAL}, {Qt::Key_Slash, VK_DIVIDE, true},
 };
@@ -56,7 +57,7 @@ const KeyPair* findPair(const KeyPair (&pairs)[Count], int qt)
     return found == std::end(pairs) ? nullptr : found;
 }
 
-// Key 0 when there is none.
+// The virtual key of an event; 0 when it has none.
 KeyPair translated(const QKeyEvent& event)
 {
     const int qt = event.key();
@@ -67,61 +68,45 @@ KeyPair translated(const QKeyEvent& event)
         return {qt, (pad ? VK_NUMPAD0 : '0') + (qt - Qt::Key_0)};
     if (qt >= Qt::Key_F1 && qt <= Qt::Key_F24)
         return {qt, VK_F1 + (qt - Qt::Key_F1)};
-    if (const KeyPair* const found = pad ? findPair(padPairs, qt) : nullptr)
+    if (const KeyPair* const found = pad ? findPair(kPadPairs, qt) : nullptr)
         return *found;
-    const KeyPair* const found = findPair(keyPairs, qt);
+    const KeyPair* const found = findPair(kKeyPairs, qt);
     if (!found)
         return {qt, 0};
     return {qt, found->key, found->extended && (!pad || found->key == VK_RETURN)};
 }
 
-constexpr BYTE downBit = 0x80;
-constexpr BYTE toggleBit = 0x01;
+constexpr BYTE kDownBit = 0x80;
+constexpr BYTE kToggleBit = 0x01;
 
-struct KeyStates
+// The state of each virtual key at the time of the message taken last.
+std::array<BYTE, 256>& states()
 {
-    std::array<BYTE, 256> hand{};    // as the events came
-    std::array<BYTE, 256> message{}; // as the messages were taken
-};
-
-KeyStates& states()
-{
-    static KeyStates keys;
+    static std::array<BYTE, 256> keys{};
     return keys;
-}
-
-void note(std::array<BYTE, 256>& keys, int key, bool down)
-{
-    BYTE& state = keys[static_cast<std::size_t>(key)];
-    if (down && !(state & downBit))
-        state ^= toggleBit;
-    state = static_cast<BYTE>(down ? state | downBit : state & ~downBit);
 }
 
 WORD scanCodeOf(const QKeyEvent& event)
 {
     // X11 and Wayland count the codes of a PC keyboard from 8.
-    constexpr quint32 base = 8;
+    constexpr quint32 kBase = 8;
     const quint32 code = event.nativeScanCode();
-    return static_cast<WORD>(code > base ? (code - base) & 0xff : 0);
+    return static_cast<WORD>(code > kBase ? (code - kBase) & 0xff : 0);
 }
 
 }
 
 void noteKey(int key, bool down)
 {
-    note(states().hand, key, down);
-}
-
-void noteKeyOfMessage(int key, bool down)
-{
-    note(states().message, key, down);
-    note(states().hand, key, down);
+    BYTE& state = states()[static_cast<std::size_t>(key)];
+    if (down && !(state & kDownBit))
+        state ^= kToggleBit;
+    state = static_cast<BYTE>(down ? state | kDownBit : state & ~kDownBit);
 }
 
 bool isDown(int key)
 {
-    return states().message[static_cast<std::size_t>(key)] & downBit;
+    return states()[static_cast<std::size_t>(key)] & kDownBit;
 }
 
 void noteModifiers(Qt::KeyboardModifiers modifiers)
@@ -130,9 +115,10 @@ void noteModifiers(Qt::KeyboardModifiers modifiers)
     {
         Qt::KeyboardModifier modifier;
         int key;
-    } keys[] = {{Qt::ShiftModifier, VK_SHIFT}, {Qt::ControlModifier, VK_CONTROL}, {Qt::AltModifier, VK_MENU}};
-    for (const auto& [modifier, key] : keys)
-        noteKeyOfMessage(key, modifiers.testFlag(modifier));
+    } kKeys[] = {
+        {Qt::ShiftModifier, VK_SHIFT}, {Qt::ControlModifier, VK_CONTROL}, {Qt::AltModifier, VK_MENU}};
+    for (const auto& [modifier, key] : kKeys)
+        noteKey(key, modifiers.testFlag(modifier));
 }
 
 void postKey(const QKeyEvent& event, bool up)
@@ -140,7 +126,6 @@ void postKey(const QKeyEvent& event, bool up)
     const KeyPair key = translated(event);
     if (!key.key)
         return;
-    noteKey(key.key, !up);
     const bool alt = event.modifiers().testFlag(Qt::AltModifier) || key.key == VK_MENU;
     postInput(KeyInput{key.key, up, alt, scanCodeOf(event), key.extended, up ? QString() : event.text(),
                        event.modifiers()});
@@ -159,7 +144,7 @@ std::optional<MSG> toMessage(const KeyInput& input)
     if (!isModifier)
         noteModifiers(input.modifiers);
     const bool wasDown = isDown(input.key);
-    noteKeyOfMessage(input.key, !input.up);
+    noteKey(input.key, !input.up);
     const HWND target = GetFocus() ? GetFocus() : GetActiveWindow();
     if (!target)
         return std::nullopt;
@@ -171,15 +156,15 @@ std::optional<MSG> toMessage(const KeyInput& input)
     flags |= input.alt ? KF_ALTDOWN : 0;
     flags |= wasDown ? KF_REPEAT : 0;
     flags |= input.up ? KF_UP : 0;
-    const UINT message = (system ? WM_SYSKEYDOWN : WM_KEYDOWN) + (input.up ? 1 : 0);
+    const UINT message = input.up ? (system ? WM_SYSKEYUP : WM_KEYUP) : (system ? WM_SYSKEYDOWN : WM_KEYDOWN);
     return makeMessage(target, message, static_cast<WPARAM>(input.key),
-                       static_cast<LONG>(1u | (DWORD(flags) << 16)));
+                       static_cast<LONG>(1u | (static_cast<DWORD>(flags) << 16)));
 }
 
 QString charactersOf(int key)
 {
     const bool shift = isDown(VK_SHIFT);
-    const bool capitals = GetKeyState(VK_CAPITAL) & toggleBit;
+    const bool capitals = GetKeyState(VK_CAPITAL) & kToggleBit;
     if (key >= 'A' && key <= 'Z')
         return QChar(shift != capitals ? key : key - 'A' + 'a');
     const bool plain =
@@ -193,40 +178,18 @@ QString charactersOf(int key)
 
 using namespace winapi;
 
-namespace {
-
-SHORT keyState(const std::array<BYTE, 256>& keys, int key)
+SHORT GetKeyState(int key)
 {
     if (key < 0 || key > 255)
         return 0;
-    const BYTE state = keys[static_cast<std::size_t>(key)];
-    return static_cast<SHORT>((state & downBit ? 0x8000 : 0) | (state & toggleBit));
-}
-
-}
-
-SHORT GetKeyState(int key)
-{
-    return keyState(states().message, key);
-}
-
-SHORT GetAsyncKeyState(int key)
-{
-    return static_cast<SHORT>(keyState(states().hand, key) & 0x8000);
-}
-
-BOOL GetKeyboardState(BYTE* state)
-{
-    if (!state)
-        return FALSE;
-    std::copy(states().message.begin(), states().message.end(), state);
-    return TRUE;
+    const BYTE state = states()[static_cast<std::size_t>(key)];
+    return static_cast<SHORT>((state & kDownBit ? 0x8000 : 0) | (state & kToggleBit));
 }
 
 BOOL SetKeyboardState(BYTE* state)
 {
     if (!state)
         return FALSE;
-    std::copy_n(state, states().message.size(), states().message.begin());
+    std::copy_n(state, states().size(), states().begin());
     return TRUE;
 }

@@ -1,4 +1,4 @@
-// The state of the keys, and keys of Qt as virtual keys.
+// Keys: from Qt's events to messages, and which are down.
 #pragma once
 
 #include "hand_input.h"
@@ -9,21 +9,21 @@ class QKeyEvent;
 
 namespace winapi {
 
+// Puts a key of Qt into the queue.
 void postKey(const QKeyEvent& event, bool up);
-// Text that an input method has made of several keys.
+// Puts text into the queue that an input method has composed of several keys.
 void postText(const QString& text);
 
-// The message that the input makes for the window with the focus, if there is one.
+// The message for the window with the focus; none when no window has it. Notes that the key is down, or up.
 std::optional<MSG> toMessage(const KeyInput& input);
-// The characters that a key message stands for, when it is posted by a program and no keyboard tells them.
+// The characters of a key message that a program has posted: no keyboard has told them.
 QString charactersOf(int key);
 
-// Shift, Control and Alt as an event of the window system tells them: their own key events may have gone
-// elsewhere.
+// Notes Shift, Control and Alt as an event tells them; another program may have got their own events.
 void noteModifiers(Qt::KeyboardModifiers modifiers);
-// As the hand has it now, and as the message at hand has it.
+// Notes a key, or a mouse button, as down or up.
 void noteKey(int key, bool down);
-void noteKeyOfMessage(int key, bool down);
+// Whether it was down at the message taken last.
 bool isDown(int key);
 
 }

@@ -1,9 +1,9 @@
+// The message queue: posting, taking and dispatching, from the program's own loop or inside a loop of Qt.
 #include "message_queue.h"
 
 #include "application.h"
 #include "keyboard.h"
 #include "mouse.h"
-#include "rooms_above.h"
 #include "timer.h"
 #include "update_region.h"
 
@@ -20,7 +20,7 @@ namespace {
 struct QueuedMessage
 {
     MSG message;
-    QString characters; // of a key that was really pressed
+    QString characters; // that the keyboard gives for a key which the user has pressed
 };
 
 struct Filter
@@ -45,9 +45,9 @@ struct Queue
     std::deque<QueuedMessage> posted;
     std::deque<Input> input;
     std::optional<int> quit;
-    QueuedMessage current{}; // taken last
-    bool waiting = false;    // inside Qt, on behalf of a loop of the program
-    bool wakePosted = false;
+    QueuedMessage current{}; // the message taken last
+    bool waiting = false;    // a loop of the program has called Qt, and takes the messages itself
+    bool wakePosted = false; // Qt will come back to the queue anyway
 };
 
 Queue& queue()
@@ -56,7 +56,7 @@ Queue& queue()
     return messages;
 }
 
-// Serves the queue while a Qt loop runs: the application's own, a menu's or a dialog's.
+// Serves the queue while a loop of Qt runs: the application's own, or one of a menu or a dialog.
 class Pump : public QObject
 {
 public:
@@ -95,7 +95,7 @@ std::optional<MSG> takePosted(const Filter& filter)
     return taken.message;
 }
 
-// Input becomes a posted message when its turn comes: only then is it known whom it concerns.
+// Turns input into a posted message, now that its turn has come. Input that is for no window is dropped.
 bool convertInput()
 {
     Queue& q = queue();
@@ -162,12 +162,12 @@ void runQt(QEventLoop::ProcessEventsFlags flags)
     application();
     const bool before = std::exchange(queue().waiting, true);
     QCoreApplication::processEvents(flags);
-    // Not done by processEvents itself outside of a Qt loop.
+    // Outside of a loop of Qt, processEvents leaves these events waiting.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     queue().waiting = before;
 }
 
-// In Windows' order: what was posted, what the hand did, what is to be painted, what time it is.
+// In the order of Windows: posted messages, input, painting, timers.
 std::optional<MSG> takeNext(const Filter& filter)
 {
     if (auto message = takeWaiting(filter))
@@ -192,14 +192,14 @@ std::optional<MSG> takeNextInsideQt()
     return takeTimer(all);
 }
 
-// A few at a time, so that the loop around comes to its own.
+// Serves some messages, then lets the loop of Qt do its other work.
 void serveQueue()
 {
-    constexpr int batch = 64;
-    for (int served = 0; served < batch; ++served) {
+    constexpr int kBatch = 64;
+    for (int served = 0; served < kBatch; ++served) {
         auto message = takeNextInsideQt();
         if (!message) {
-            // The loop of a program that waits below ours is to see it as well, so it stays.
+            // A loop of the program may have started this loop of Qt, and has to end as well: the quit stays.
             if (queue().quit)
                 QCoreApplication::exit(*queue().quit);
             return;
@@ -270,11 +270,6 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return TRUE;
 }
 
-BOOL PostThreadMessageA(DWORD, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return PostMessageA(nullptr, message, wParam, lParam);
-}
-
 void PostQuitMessage(int exitCode)
 {
     queue().quit = exitCode;
@@ -299,14 +294,6 @@ BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last)
     return message->message != WM_QUIT;
 }
 
-BOOL WaitMessage()
-{
-    MSG message;
-    while (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE))
-        runQt(QEventLoop::WaitForMoreEvents);
-    return TRUE;
-}
-
 BOOL TranslateMessage(const MSG* message)
 {
     if (!message || message->message < WM_KEYFIRST || message->message > WM_KEYLAST)
@@ -318,7 +305,7 @@ BOOL TranslateMessage(const MSG* message)
     const bool pressed = current.message.hwnd == message->hwnd && current.message.time == message->time &&
                          current.message.wParam == message->wParam && !current.characters.isEmpty();
     const int key = static_cast<int>(message->wParam);
-    // Qt counts Delete among the characters.
+    // Qt gives Delete a character; Windows does not.
     const QString characters = pressed && key != VK_DELETE ? current.characters : charactersOf(key);
     for (const char c : characters.toUtf8())
         PostMessageA(message->hwnd, system ? WM_SYSCHAR : WM_CHAR, static_cast<BYTE>(c), message->lParam);
@@ -334,20 +321,15 @@ LRESULT DispatchMessageA(const MSG* message)
                                                      GetTickCount());
         return 0;
     }
-    showToToolTips(*message);
-    return message->hwnd ? SendMessageA(message->hwnd, message->message, message->wParam, message->lParam)
-                         : 0;
+    if (!message->hwnd)
+        return 0;
+    return SendMessageA(message->hwnd, message->message, message->wParam, message->lParam);
 }
 
 LRESULT SendMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const WindowPtr window = findWindow(handle);
     return window ? callProcedure(*window, message, wParam, lParam) : 0;
-}
-
-LRESULT SendDlgItemMessageA(HWND parent, int id, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return SendMessageA(GetDlgItem(parent, id), message, wParam, lParam);
 }
 
 LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, LPARAM lParam)

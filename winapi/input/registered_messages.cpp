@@ -1,3 +1,4 @@
+// Numbers for messages that programs agree on by name.
 #include "winuser.h"
 
 #include <algorithm>
@@ -5,7 +6,7 @@
 #include <map>
 #include <string>
 
-// Works before main: programs keep such numbers in constants.
+// May be called before main: programs keep these numbers in constants.
 UINT RegisterWindowMessageA(LPCSTR name)
 {
     static std::map<std::string, UINT> numbers;
@@ -15,6 +16,6 @@ UINT RegisterWindowMessageA(LPCSTR name)
     }
     std::string key(name);
     std::transform(key.begin(), key.end(), key.begin(), [](unsigned char c) { return std::tolower(c); });
-    constexpr UINT first = 0xC000;
-    return numbers.emplace(key, first + static_cast<UINT>(numbers.size())).first->second;
+    constexpr UINT kFirst = 0xC000;
+    return numbers.emplace(key, kFirst + static_cast<UINT>(numbers.size())).first->second;
 }

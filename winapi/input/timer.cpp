@@ -1,3 +1,4 @@
+// Timers of windows and of the program.
 #include "timer.h"
 
 #include "application.h"
@@ -12,7 +13,7 @@ namespace winapi {
 
 namespace {
 
-constexpr UINT shortest = 10; // milliseconds
+constexpr UINT kShortest = 10; // milliseconds
 
 struct Timer
 {
@@ -26,7 +27,7 @@ using TimerList = std::vector<std::unique_ptr<Timer>>;
 
 TimerList& timers()
 {
-    static TimerList& list = *new TimerList; // never destroyed, as the application may be gone by then
+    static TimerList& list = *new TimerList; // never destroyed: by then the Qt application may be gone
     return list;
 }
 
@@ -89,8 +90,8 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC proc)
     Timer& timer = timerFor(window, id);
     timer.procedure = proc;
     timer.due = false;
-    timer.clock.start(static_cast<int>(std::clamp<UINT>(milliseconds, shortest, 0x7fffffff)));
-    // A window may number a timer 0, but success is told by something else.
+    timer.clock.start(static_cast<int>(std::clamp<UINT>(milliseconds, kShortest, 0x7fffffff)));
+    // A window may number its timer 0, but 0 as an answer means failure.
     return id ? id : 1;
 }
 

@@ -1,14 +1,18 @@
-// What a window does with the messages that nobody else handles.
+// What winapi does with the messages of a window that the window does not handle itself.
+#include "focus.h"
 #include "geometry.h"
 #include "host_widget.h"
 #include "keyboard.h"
 #include "mouse.h"
 #include "oleacc.h"
+#include "placement.h"
 #include "shapes.h"
 
 using namespace winapi;
 
 namespace {
+
+constexpr WPARAM kSystemCommand = 0xFFF0; // the lowest four bits are the system's own
 
 void takeText(Window& window, const char* text)
 {
@@ -28,14 +32,12 @@ LRESULT giveText(const Window& window, WPARAM size, LPARAM buffer)
 
 void tellPlacing(const Window& window, const WINDOWPOS& pos)
 {
-    constexpr UINT noClientSize = 0x0800;
-    constexpr UINT noClientMove = 0x1000;
     const WPARAM state = window.is(WS_MAXIMIZE)   ? SIZE_MAXIMIZED
                          : window.is(WS_MINIMIZE) ? SIZE_MINIMIZED
                                                   : SIZE_RESTORED;
-    if (!(pos.flags & noClientMove))
+    if (!(pos.flags & kNoClientMove))
         SendMessageA(pos.hwnd, WM_MOVE, 0, toLParam(window.rect.topLeft()));
-    if (!(pos.flags & noClientSize) && isAlive(window))
+    if (!(pos.flags & kNoClientSize) && isAlive(window))
         SendMessageA(pos.hwnd, WM_SIZE, state, toLParam(window.rect.size()));
 }
 
@@ -62,21 +64,11 @@ LRESULT setCursor(const Window& window, WPARAM wParam, LPARAM lParam)
 
 LRESULT mouseActivate(const Window& window, WPARAM wParam, LPARAM lParam)
 {
-    if (window.is(WS_CHILD))
-        return SendMessageA(window.parent->handle, WM_MOUSEACTIVATE, wParam, lParam);
-    return window.exStyle & WS_EX_NOACTIVATE ? MA_NOACTIVATE : MA_ACTIVATE;
+    return window.is(WS_CHILD) ? SendMessageA(window.parent->handle, WM_MOUSEACTIVATE, wParam, lParam)
+                               : MA_ACTIVATE;
 }
 
-LRESULT setRedraw(Window& window, bool redraw)
-{
-    if (redraw)
-        window.style |= WS_VISIBLE;
-    else
-        window.style &= ~WS_VISIBLE;
-    return 0;
-}
-
-// A Qt application around us moves the keyboard on.
+// Tab in a window that stands in a Qt application: the application's next widget gets the keyboard.
 void leaveEmbedded(const Window& window, WPARAM key)
 {
     if (key == VK_TAB && window.isTopLevel() && window.host && window.host->isEmbedded())
@@ -134,8 +126,7 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
         return mouseActivate(*window, wParam, lParam);
     case WM_CANCELMODE:
         EndMenu();
-        if (GetCapture() == handle)
-            ReleaseCapture();
+        releaseCapture(handle);
         return 0;
     case WM_NCHITTEST:
         return HTCLIENT;
@@ -146,11 +137,7 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_PAINT:
         validateByPainting(handle);
         return 0;
-    case WM_SETREDRAW:
-        return setRedraw(*window, wParam);
-    case WM_CTLCOLORBTN:
     case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORDLG:
         return controlColors(reinterpret_cast<HDC>(wParam));
     case WM_KEYDOWN:
         leaveEmbedded(*window, wParam);
@@ -170,14 +157,12 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     }
     case WM_SYSCOMMAND:
-        if ((wParam & 0xFFF0) == SC_CLOSE)
+        if ((wParam & kSystemCommand) == SC_CLOSE)
             SendMessageA(handle, WM_CLOSE, 0, 0);
         return 0;
     case WM_CLOSE:
         DestroyWindow(handle);
         return 0;
-    case WM_NOTIFYFORMAT:
-        return lParam == NF_QUERY ? NFR_ANSI : 0;
     default:
         return 0;
     }

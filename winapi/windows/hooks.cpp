@@ -1,3 +1,4 @@
+// Hooks: procedures of a program that hear of events before windows do.
 #include "hooks.h"
 
 #include "winbase.h"

@@ -1,3 +1,4 @@
+// The widget of a top-level window: what Qt tells of it becomes messages, and the window's pixels are shown.
 #include "host_widget.h"
 
 #include "application.h"
@@ -5,7 +6,9 @@
 #include "keyboard.h"
 #include "message_queue.h"
 #include "mouse.h"
+#include "placement.h"
 #include "rooms_above.h"
+#include "update_region.h"
 #include "window_surface.h"
 #include "window_tree.h"
 #include "zeb17_qt.h"
@@ -24,15 +27,9 @@ namespace {
 
 Qt::WindowFlags flagsFor(const Window& window)
 {
-    Qt::WindowFlags flags = Qt::Window;
-    if (window.exStyle & WS_EX_TOOLWINDOW)
-        flags = Qt::Tool;
-    else if (window.owner)
-        flags = Qt::Dialog;
+    Qt::WindowFlags flags = window.owner ? Qt::Dialog : Qt::Window;
     if (window.is(WS_POPUP) && !window.is(WS_CAPTION))
         flags |= Qt::FramelessWindowHint;
-    if (window.exStyle & WS_EX_TOPMOST)
-        flags |= Qt::WindowStaysOnTopHint;
     return flags;
 }
 
@@ -41,6 +38,11 @@ Qt::WindowStates stateOf(const Window& window)
     if (window.is(WS_MINIMIZE))
         return Qt::WindowMinimized;
     return window.is(WS_MAXIMIZE) ? Qt::WindowMaximized : Qt::WindowNoState;
+}
+
+void postMove(const QSinglePointEvent& event)
+{
+    postInput(MouseInput{WM_MOUSEMOVE, event.globalPosition().toPoint(), 0, false, event.modifiers()});
 }
 
 QWidget* ownerWidget(const Window& window)
@@ -120,21 +122,21 @@ bool HostWidget::event(QEvent* event)
     return done;
 }
 
-// The pixels are retained: whatever is to be shown again is there.
+// The surface keeps all pixels, so nothing needs to be painted again to be shown again.
 void HostWidget::paintEvent(QPaintEvent* event)
 {
     const WindowPtr window = served();
     if (!window)
         return;
-    // On a screen of another density all is drawn anew, so that it stays sharp.
+    // On a screen of another density the window is painted anew, so that it stays sharp.
     if (std::exchange(m_ratio, devicePixelRatioF()) != devicePixelRatioF())
-        RedrawWindow(m_handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        invalidate(*window, window->clientRect(), true, Children::All);
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, surfaceOf(*window).image());
 }
 
-// The window system, or a layout around us, has the last word on size and place.
+// The window system, or the layout that the widget stands in, has the last word on size and place.
 void HostWidget::takePlace()
 {
     const WindowPtr window = served();
@@ -144,8 +146,7 @@ void HostWidget::takePlace()
     if (place == window->rect)
         return;
     m_following = true;
-    SetWindowPos(m_handle, nullptr, place.x(), place.y(), place.width(), place.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    placeWindow(m_handle, place, SWP_NOZORDER | SWP_NOACTIVATE);
     m_following = false;
 }
 
@@ -190,13 +191,14 @@ void HostWidget::changeEvent(QEvent* event)
         window->style |= WS_MAXIMIZE;
 }
 
-// A menu borrows the keyboard without the window losing it.
+// While a menu is open it has the keyboard, but the window keeps its focus.
 void HostWidget::focusInEvent(QFocusEvent* event)
 {
     const WindowPtr window = served();
     if (!window || event->reason() == Qt::PopupFocusReason)
         return;
-    // Qt tells of the widget's focus after this, and is to tell of the window's that has it after that.
+    // After this event Qt announces to screen readers that the widget has the focus. The child window that
+    // really has it is announced after that, so that it is the last that a screen reader hears.
     QMetaObject::invokeMethod(this, &HostWidget::tellFocus, Qt::QueuedConnection);
     activate(window.get(), ActivatedBy::Host);
     if (isAlive(*window) && isEmbedded() && IsWindow(window->lastFocus))
@@ -212,7 +214,7 @@ void HostWidget::tellFocus()
 void HostWidget::focusOutEvent(QFocusEvent* event)
 {
     const WindowPtr window = served();
-    // When we hide it, the tree has decided already who is next.
+    // When the window is hidden (m_following), leaveHidden has already found the next window.
     if (!window || m_following || event->reason() == Qt::PopupFocusReason || GetActiveWindow() != m_handle)
         return;
     window->lastFocus = GetFocus();
@@ -220,10 +222,10 @@ void HostWidget::focusOutEvent(QFocusEvent* event)
         activate(nullptr, ActivatedBy::Host);
 }
 
-// A window may come to be under a pointer that rests.
+// The pointer may rest while a window appears below it: that counts as a move.
 void HostWidget::enterEvent(QEnterEvent* event)
 {
-    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
+    postMove(*event);
 }
 
 void HostWidget::leaveEvent(QEvent*)
@@ -234,27 +236,29 @@ void HostWidget::leaveEvent(QEvent*)
 
 namespace {
 
-UINT buttonMessage(Qt::MouseButton button, bool down)
+struct ButtonMessages
 {
-    switch (button) {
-    case Qt::LeftButton:
-        return down ? WM_LBUTTONDOWN : WM_LBUTTONUP;
-    case Qt::RightButton:
-        return down ? WM_RBUTTONDOWN : WM_RBUTTONUP;
-    case Qt::MiddleButton:
-        return down ? WM_MBUTTONDOWN : WM_MBUTTONUP;
-    default:
-        return WM_NULL;
+    Qt::MouseButton button;
+    UINT down;
+    UINT up;
+};
+constexpr ButtonMessages kButtonMessages[] = {
+    {Qt::LeftButton, WM_LBUTTONDOWN, WM_LBUTTONUP},
+    {Qt::RightButton, WM_RBUTTONDOWN, WM_RBUTTONUP},
+    {Qt::MiddleButton, WM_MBUTTONDOWN, WM_MBUTTONUP},
+};
+
+// Other buttons are left out.
+void postButton(const QMouseEvent& event, bool down, bool doubleClick)
+{
+    for (const ButtonMessages& messages : kButtonMessages) {
+        if (messages.button == event.button())
+            postInput(MouseInput{down ? messages.down : messages.up, event.globalPosition().toPoint(), 0,
+                                 doubleClick, event.modifiers()});
     }
 }
 
-void postButton(const QMouseEvent& event, bool down, bool doubleClick)
-{
-    if (const UINT message = buttonMessage(event.button(), down))
-        postInput(MouseInput{message, event.globalPosition().toPoint(), 0, doubleClick, event.modifiers()});
-}
-
-// Whole notches only, whatever steps the device makes; the rest is kept.
+// Gives whole notches only, however small the steps of the device are, and keeps the rest.
 int takeNotches(int& rest, int delta)
 {
     if ((rest < 0) != (delta < 0))
@@ -284,7 +288,7 @@ void HostWidget::mouseDoubleClickEvent(QMouseEvent* event)
 
 void HostWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    postInput(MouseInput{WM_MOUSEMOVE, event->globalPosition().toPoint(), 0, false, event->modifiers()});
+    postMove(*event);
 }
 
 void HostWidget::wheelEvent(QWheelEvent* event)
@@ -308,7 +312,7 @@ void HostWidget::keyReleaseEvent(QKeyEvent* event)
         postKey(*event, true);
 }
 
-// What is made of the keys so far shows in the control; when it is finished it is typed like any other text.
+// The control shows the text while it is being composed; once finished, the text is typed like any other.
 void HostWidget::inputMethodEvent(QInputMethodEvent* event)
 {
     const QString finished = event->commitString();

@@ -1,4 +1,4 @@
-// The widget that stands for a top-level window: shows its pixels, feeds input in.
+// The widget that stands for a top-level window: it shows the window's pixels and passes input on to it.
 #pragma once
 
 #include "window.h"
@@ -17,12 +17,13 @@ public:
     bool isEmbedded() const { return !isWindow(); }
     QPoint screenOrigin() const;
 
-    // Size, place, visibility, state and title as the window has them.
+    // Takes size, place, visibility, state and title from the window.
     void follow(bool mayActivate);
     void takeActivation();
-    // Hands the keyboard to the next widget of the application around.
+    // Hands the keyboard to the next, or previous, widget of the application that this widget stands in.
     bool passFocus(bool next) { return QWidget::focusNextPrevChild(next); }
-    // The window is gone: this goes as well, now or when the event at hand is done.
+    // To be called when the window is gone: deletes this widget, at once or after the event that it is
+    // handling.
     void abandon();
 
 protected:
@@ -55,13 +56,15 @@ private:
 
     HWND m_handle;
     int m_eventDepth = 0;
-    qreal m_ratio = 1;        // pixels of the screen to one of ours
-    bool m_following = false; // what Qt tells meanwhile is our own doing
-    QPoint m_wheelRest;       // of a notch
+    qreal m_ratio = 1; // pixels of the screen to one logical pixel
+    // The widget is taking its size and place from the window, so Qt's events about them are no news.
+    bool m_following = false;
+    QPoint m_wheelRest; // turns of the wheel that make no whole notch yet
 };
 
+// Made when first asked for.
 HostWidget& hostOf(Window& root);
-// Brings the widget in line with the window; a window gets its widget when it is first shown.
+// Brings the widget in line with the window. A window gets its widget when it is first shown.
 void followWindow(Window& root, bool mayActivate);
 void destroyHost(Window& root);
 

@@ -1,3 +1,4 @@
+// Painting windows: their contexts, and what of them is to be painted.
 #include "paint.h"
 
 #include "context.h"
@@ -12,15 +13,10 @@ namespace winapi {
 
 namespace {
 
-struct OpenContext
+// The contexts that are open, each with the top-level window that it draws on; null for the screen.
+std::map<HDC, HWND>& openContexts()
 {
-    HWND window;
-    HWND root; // null for the screen
-};
-
-std::map<HDC, OpenContext>& openContexts()
-{
-    static std::map<HDC, OpenContext> contexts;
+    static std::map<HDC, HWND> contexts;
     return contexts;
 }
 
@@ -29,7 +25,7 @@ HDC openContext(Window& window, const QRegion& clip)
     Window& root = rootOf(window);
     const HDC dc = createContext(surfaceOf(root), originInRoot(window), clip);
     if (dc)
-        openContexts()[dc] = {window.handle, root.handle};
+        openContexts()[dc] = root.handle;
     return dc;
 }
 
@@ -46,27 +42,11 @@ bool closeContext(HDC dc)
 void releaseContextsOf(const Window& root)
 {
     std::erase_if(openContexts(), [&](const auto& entry) {
-        if (entry.second.root != root.handle)
+        if (entry.second != root.handle)
             return false;
         destroyContext(entry.first);
         return true;
     });
-}
-
-void paintNow(HWND handle, bool children)
-{
-    WindowPtr window = findWindow(handle);
-    if (!window || !window->isVisible())
-        return;
-    if (!window->update.isEmpty())
-        SendMessageA(handle, WM_PAINT, 0, 0);
-    if (!children || !isAlive(*window))
-        return;
-    std::vector<HWND> below;
-    for (const Window* child : window->children)
-        below.push_back(child->handle);
-    for (const HWND child : below)
-        paintNow(child, true);
 }
 
 }
@@ -75,29 +55,18 @@ using namespace winapi;
 
 HDC GetDC(HWND handle)
 {
-    if (!handle || handle == GetDesktopWindow()) {
+    if (!handle || handle == desktop().handle) {
         const HDC dc = createScreenContext();
-        openContexts()[dc] = {handle, nullptr};
+        openContexts()[dc] = nullptr;
         return dc;
     }
     const WindowPtr window = findWindow(handle);
     return window ? openContext(*window, visibleRegion(*window)) : nullptr;
 }
 
-HDC GetWindowDC(HWND handle)
-{
-    return GetDC(handle);
-}
-
 int ReleaseDC(HWND, HDC dc)
 {
     return closeContext(dc);
-}
-
-HWND WindowFromDC(HDC dc)
-{
-    const auto found = openContexts().find(dc);
-    return found == openContexts().end() ? nullptr : found->second.window;
 }
 
 HDC BeginPaint(HWND handle, LPPAINTSTRUCT paint)
@@ -128,60 +97,62 @@ BOOL EndPaint(HWND, const PAINTSTRUCT* paint)
 
 namespace {
 
-// The region counts, if there is one.
-QRegion regionOf(const Window& window, const RECT* rect, HRGN region)
+QRegion regionOf(const Window& window, const RECT* rect)
 {
-    if (const auto given = findObject<Region>(region))
-        return given->region;
     return rect ? toQRect(*rect).normalized() : window.clientRect();
+}
+
+// Sends WM_PAINT to the window and to its children, where something waits to be painted.
+void paintNow(HWND handle)
+{
+    const WindowPtr window = findWindow(handle);
+    if (!window || !window->isVisible())
+        return;
+    if (!window->update.isEmpty())
+        SendMessageA(handle, WM_PAINT, 0, 0);
+    if (!isAlive(*window))
+        return;
+    std::vector<HWND> below;
+    for (const Window* child : window->children)
+        below.push_back(child->handle);
+    for (const HWND child : below)
+        paintNow(child);
 }
 
 }
 
 BOOL InvalidateRect(HWND handle, const RECT* rect, BOOL erase)
 {
-    return RedrawWindow(handle, rect, nullptr, RDW_INVALIDATE | (erase ? RDW_ERASE : 0));
+    const WindowPtr window = findWindow(handle);
+    if (!window)
+        return FALSE;
+    invalidate(*window, regionOf(*window, rect), erase, Children::ByStyle);
+    return TRUE;
 }
 
 BOOL ValidateRect(HWND handle, const RECT* rect)
 {
-    return RedrawWindow(handle, rect, nullptr, RDW_VALIDATE | RDW_NOCHILDREN);
-}
-
-BOOL RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags)
-{
     const WindowPtr window = findWindow(handle);
     if (!window)
         return FALSE;
-    const Children children = flags & RDW_ALLCHILDREN  ? Children::All
-                              : flags & RDW_NOCHILDREN ? Children::None
-                                                       : Children::ByStyle;
-    if (flags & RDW_INVALIDATE)
-        invalidate(*window, regionOf(*window, rect, region), flags & RDW_ERASE, children);
-    else if (flags & RDW_VALIDATE)
-        validate(*window, regionOf(*window, rect, region), children);
-    if (flags & RDW_UPDATENOW)
-        paintNow(handle, !(flags & RDW_NOCHILDREN));
+    validate(*window, regionOf(*window, rect));
     return TRUE;
 }
 
 BOOL UpdateWindow(HWND handle)
 {
-    return RedrawWindow(handle, nullptr, nullptr, RDW_UPDATENOW);
+    if (!findWindow(handle))
+        return FALSE;
+    paintNow(handle);
+    return TRUE;
 }
 
-BOOL GetUpdateRect(HWND handle, LPRECT rect, BOOL erase)
+BOOL GetUpdateRect(HWND handle, LPRECT rect, BOOL)
 {
     const WindowPtr window = findWindow(handle);
     if (!window)
         return FALSE;
     if (rect)
         *rect = toRect(window->update.boundingRect());
-    if (erase && window->eraseUpdate && !window->update.isEmpty()) {
-        const HDC dc =
-            openContext(*window, visibleRegion(*window) & window->update.translated(originInRoot(*window)));
-        window->eraseUpdate = !SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-        closeContext(dc);
-    }
     return !window->update.isEmpty();
 }

@@ -1,14 +1,11 @@
-// Contexts of windows.
+// Painting windows and drawing on them.
 #pragma once
 
 #include "window.h"
 
 namespace winapi {
 
-// Releases the contexts that are still open on a top-level window that goes.
+// Ends the contexts that a program has left open on a top-level window, when that is destroyed.
 void releaseContextsOf(const Window& root);
-
-// Sends WM_PAINT to the window, and to what is below it, where something is to be painted.
-void paintNow(HWND window, bool children);
 
 }

@@ -1,4 +1,6 @@
 // Size, position, visibility and coordinates.
+#include "placement.h"
+
 #include "focus.h"
 #include "geometry.h"
 #include "host_widget.h"
@@ -8,10 +10,6 @@
 using namespace winapi;
 
 namespace {
-
-// Flags that only WM_WINDOWPOSCHANGED carries.
-constexpr UINT noClientSize = 0x0800;
-constexpr UINT noClientMove = 0x1000;
 
 QRect requestedRect(const Window& window, const WINDOWPOS& pos)
 {
@@ -23,17 +21,7 @@ QRect requestedRect(const Window& window, const WINDOWPOS& pos)
     return rect;
 }
 
-bool standsAfter(const Window& window, HWND insertAfter)
-{
-    const auto& siblings = window.parent->children;
-    if (insertAfter == HWND_BOTTOM)
-        return siblings.back() == &window;
-    if (insertAfter == HWND_TOP || insertAfter == HWND_TOPMOST || insertAfter == HWND_NOTOPMOST)
-        return siblings.front() == &window;
-    return insertAfter == window.handle || GetWindow(window.handle, GW_HWNDPREV) == insertAfter;
-}
-
-// Strikes out what would change nothing.
+// Takes back each request that would change nothing.
 void reduce(const Window& window, const QRect& rect, WINDOWPOS& pos)
 {
     if (rect.topLeft() == window.rect.topLeft())
@@ -44,14 +32,14 @@ void reduce(const Window& window, const QRect& rect, WINDOWPOS& pos)
         pos.flags &= ~SWP_SHOWWINDOW;
     else
         pos.flags &= ~SWP_HIDEWINDOW;
-    if (standsAfter(window, pos.hwndInsertAfter))
+    if (window.parent->children.front() == &window)
         pos.flags |= SWP_NOZORDER;
 }
 
 bool changesNothing(const WINDOWPOS& pos)
 {
     return (pos.flags & SWP_NOMOVE) && (pos.flags & SWP_NOSIZE) && (pos.flags & SWP_NOZORDER) &&
-           !(pos.flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW | SWP_FRAMECHANGED));
+           !(pos.flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW));
 }
 
 bool redrawsWhole(const Window& window, const QSize& before)
@@ -68,11 +56,8 @@ void apply(Window& window, const QRect& rect, const WINDOWPOS& pos)
         window.style |= WS_VISIBLE;
     if (pos.flags & SWP_HIDEWINDOW)
         window.style &= ~WS_VISIBLE;
-    if (!(pos.flags & SWP_NOZORDER)) {
-        Window& parent = *window.parent;
-        unlinkWindow(window);
-        linkWindow(window, parent, pos.hwndInsertAfter);
-    }
+    if (!(pos.flags & SWP_NOZORDER))
+        raiseWindow(window);
 }
 
 // Brings the widgets of controls in line with the place and visibility of their windows.
@@ -94,10 +79,7 @@ void applyAndRepaint(Window& window, const QRect& rect, const WINDOWPOS& pos)
     followControls(window);
     if (pos.flags & SWP_NOREDRAW)
         return;
-    const bool keep = !(pos.flags & SWP_NOCOPYBITS) && !redrawsWhole(window, sizeBefore);
-    repaintAfterChange(window, before, keep);
-    if (!(pos.flags & SWP_NOZORDER) && !window.isTopLevel())
-        invalidate(window, window.clientRect(), true, Children::All);
+    repaintAfterChange(window, before, !redrawsWhole(window, sizeBefore));
 }
 
 void sendCalcSize(Window& window, const QRect& rect, WINDOWPOS& pos)
@@ -111,111 +93,91 @@ void sendCalcSize(Window& window, const QRect& rect, WINDOWPOS& pos)
 
 void activateAfterPlacing(Window& window, UINT flags)
 {
-    if (flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW))
-        return;
-    if (window.is(WS_CHILD))
-        SendMessageA(window.handle, WM_CHILDACTIVATE, 0, 0);
-    else
+    if (window.isTopLevel() && !(flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)))
         activate(&window, ActivatedBy::Program);
 }
 
 }
 
-BOOL SetWindowPos(HWND handle, HWND insertAfter, int x, int y, int width, int height, UINT flags)
+bool winapi::placeWindow(HWND handle, const QRect& requested, UINT flags)
 {
     const WindowPtr window = findWindow(handle);
     if (!window || !window->parent)
-        return FALSE;
-    WINDOWPOS pos{handle, insertAfter, x, y, width, height, flags};
-    if (!(flags & SWP_NOSENDCHANGING))
-        SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
+        return false;
+    WINDOWPOS pos{handle, HWND_TOP, requested.x(), requested.y(), requested.width(), requested.height(),
+                  flags};
+    SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
     if (!isAlive(*window))
-        return FALSE;
+        return false;
 
     const QRect rect = requestedRect(*window, pos);
     reduce(*window, rect, pos);
     const bool nothing = changesNothing(pos);
     if (!nothing) {
-        if (!(pos.flags & SWP_NOSIZE) || (pos.flags & SWP_FRAMECHANGED))
+        if (!(pos.flags & SWP_NOSIZE))
             sendCalcSize(*window, rect, pos);
         if (!isAlive(*window))
-            return FALSE;
+            return false;
         applyAndRepaint(*window, rect, pos);
     }
     activateAfterPlacing(*window, pos.flags);
     if (nothing || !isAlive(*window))
-        return TRUE;
+        return true;
 
     pos.x = window->rect.x();
     pos.y = window->rect.y();
     pos.cx = window->rect.width();
     pos.cy = window->rect.height();
-    pos.flags |= (pos.flags & SWP_NOSIZE ? noClientSize : 0) | (pos.flags & SWP_NOMOVE ? noClientMove : 0);
+    pos.flags |= (pos.flags & SWP_NOSIZE ? kNoClientSize : 0) | (pos.flags & SWP_NOMOVE ? kNoClientMove : 0);
     SendMessageA(handle, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&pos));
-    return TRUE;
+    return true;
 }
 
 BOOL MoveWindow(HWND handle, int x, int y, int width, int height, BOOL repaint)
 {
-    return SetWindowPos(handle, nullptr, x, y, width, height,
-                        SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW));
-}
-
-BOOL BringWindowToTop(HWND handle)
-{
-    return SetWindowPos(handle, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+    return placeWindow(handle, {x, y, width, height},
+                       SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW));
 }
 
 namespace {
 
 UINT showFlags(const Window& window, int command)
 {
-    constexpr UINT inPlace = SWP_NOSIZE | SWP_NOMOVE;
-    constexpr UINT quiet = SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT kInPlace = SWP_NOSIZE | SWP_NOMOVE;
+    constexpr UINT kQuiet = SWP_NOZORDER | SWP_NOACTIVATE;
     if (command == SW_HIDE)
-        return SWP_HIDEWINDOW | inPlace |
-               (window.is(WS_CHILD) || GetActiveWindow() != window.handle ? quiet : 0);
-    if (window.is(WS_CHILD) || command == SW_SHOWNA || command == SW_SHOWNOACTIVATE)
-        return SWP_SHOWWINDOW | inPlace | quiet;
-    return SWP_SHOWWINDOW | inPlace;
+        return SWP_HIDEWINDOW | kInPlace |
+               (window.is(WS_CHILD) || GetActiveWindow() != window.handle ? kQuiet : 0);
+    if (window.is(WS_CHILD) || command == SW_SHOWNA)
+        return SWP_SHOWWINDOW | kInPlace | kQuiet;
+    return SWP_SHOWWINDOW | kInPlace;
 }
 
-void setState(Window& window, int command)
-{
-    window.style &= ~(WS_MINIMIZE | WS_MAXIMIZE);
-    if (command == SW_SHOWMAXIMIZED)
-        window.style |= WS_MAXIMIZE;
-    if (command == SW_MINIMIZE || command == SW_SHOWMINIMIZED)
-        window.style |= WS_MINIMIZE;
-    followWindow(window, true);
-}
-
-bool keepsState(int command)
-{
-    return command == SW_HIDE || command == SW_SHOW || command == SW_SHOWNA;
-}
-
-// A child of something hidden is only marked.
+// While a window above a child is hidden, only the child's style changes.
 void changeVisibility(Window& window, int command)
 {
     if (window.is(WS_CHILD) && !window.parent->isVisible()) {
         window.style ^= WS_VISIBLE;
         return;
     }
-    SetWindowPos(window.handle, HWND_TOP, 0, 0, 0, 0, showFlags(window, command));
+    placeWindow(window.handle, {}, showFlags(window, command));
     if (command == SW_HIDE && isAlive(window))
         leaveHidden(window);
 }
 
 void tellSizeOnce(Window& window)
 {
-    if (!std::exchange(window.sizeIsNews, false))
-        return;
+    if (std::exchange(window.sizeIsNews, false))
+        tellSizeAndPlace(window);
+}
+
+}
+
+void winapi::tellSizeAndPlace(Window& window)
+{
     SendMessageA(window.handle, WM_SIZE, SIZE_RESTORED, toLParam(window.rect.size()));
     if (isAlive(window))
         SendMessageA(window.handle, WM_MOVE, 0, toLParam(window.rect.topLeft()));
-}
-
 }
 
 BOOL ShowWindow(HWND handle, int command)
@@ -225,10 +187,8 @@ BOOL ShowWindow(HWND handle, int command)
         return FALSE;
     const bool wasVisible = window->is(WS_VISIBLE);
     const bool show = command != SW_HIDE;
-    if (!keepsState(command) && window->isTopLevel())
-        setState(*window, command);
     if (show == wasVisible) {
-        if (show && window->isTopLevel() && command != SW_SHOWNA && command != SW_SHOWNOACTIVATE)
+        if (show && window->isTopLevel() && command != SW_SHOWNA)
             activate(window.get(), ActivatedBy::Program);
         return wasVisible;
     }
@@ -244,33 +204,6 @@ BOOL IsWindowVisible(HWND handle)
 {
     const WindowPtr window = findWindow(handle);
     return window && window->isVisible();
-}
-
-BOOL IsIconic(HWND handle)
-{
-    const WindowPtr window = findWindow(handle);
-    return window && window->is(WS_MINIMIZE);
-}
-
-BOOL IsZoomed(HWND handle)
-{
-    const WindowPtr window = findWindow(handle);
-    return window && window->is(WS_MAXIMIZE);
-}
-
-HWND SetParent(HWND handle, HWND newParent)
-{
-    const WindowPtr window = findWindow(handle);
-    const WindowPtr parent = findWindow(newParent);
-    if (!window || !parent || window->isTopLevel() || window == parent || isDescendant(*window, *parent))
-        return nullptr;
-    const HWND old = window->parent->handle;
-    const bool visible = ShowWindow(handle, SW_HIDE);
-    unlinkWindow(*window);
-    linkWindow(*window, *parent, HWND_TOP);
-    if (visible)
-        ShowWindow(handle, SW_SHOW);
-    return old;
 }
 
 BOOL GetClientRect(HWND handle, LPRECT rect)
@@ -293,8 +226,8 @@ BOOL GetWindowRect(HWND handle, LPRECT rect)
 
 int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count)
 {
-    const WindowPtr source = findWindow(from ? from : GetDesktopWindow());
-    const WindowPtr target = findWindow(to ? to : GetDesktopWindow());
+    const WindowPtr source = findWindow(from ? from : desktop().handle);
+    const WindowPtr target = findWindow(to ? to : desktop().handle);
     if (!source || !target || !points)
         return 0;
     const QPoint offset = screenOrigin(*source) - screenOrigin(*target);
@@ -321,12 +254,8 @@ BOOL ClientToScreen(HWND window, LPPOINT point)
     return TRUE;
 }
 
+// The frame is the window manager's, so nothing is added to the client rectangle.
 BOOL AdjustWindowRectEx(LPRECT rect, DWORD, BOOL, DWORD)
 {
     return rect != nullptr;
-}
-
-BOOL AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu)
-{
-    return AdjustWindowRectEx(rect, style, menu, 0);
 }

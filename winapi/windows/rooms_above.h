@@ -1,5 +1,5 @@
-// What windows ask of the rooms that stand above them. Those rooms define these functions; the linker brings both
-// together, so that no header of theirs is needed here.
+// What windows ask of the rooms that stand above them. Each function is defined in the room that its comment
+// names; the linker brings caller and function together, so windows include no header of those rooms.
 #pragma once
 
 #include "winuser.h"
@@ -11,14 +11,12 @@ namespace winapi {
 // `controls`: registers the classes of the system's controls.
 void registerSystemClasses();
 
-// `controls`: lets the tool tips that asked for it (TTF_SUBCLASS) see a message that is about to be dispatched.
-void showToToolTips(const MSG& message);
-
-// `accessibility`: from now on Qt asks about the widgets of our windows. Once is enough, more does no harm.
+// `accessibility`: makes Qt show the child windows below the widget of each top-level window. May be called
+// again.
 void installAccessibility();
-// `accessibility`: tells of the window or item below the widget that has the focus, if one has.
+// `accessibility`: announces the child window or the item below the widget that has the focus, if one has it.
 void tellFocusBelow(QWidget& host);
-// `accessibility`: the window is gone.
+// `accessibility`: to be called when a window is gone.
 void forgetAccessible(HWND window);
 
 }

@@ -1,7 +1,7 @@
+// What can be seen of each window, and what of it is to be painted.
 #include "update_region.h"
 
 #include "message_queue.h"
-#include "paint.h"
 #include "window_surface.h"
 #include "window_tree.h"
 
@@ -9,23 +9,11 @@ namespace winapi {
 
 namespace {
 
-// The part of `window` that its ancestors let through, less what its upper siblings hide.
-QRegion clippedRegion(const Window& window)
+QRegion clippedByAncestors(const Window& window)
 {
-    QPoint origin = originInRoot(window);
-    QRegion region = window.clientRect().translated(origin);
-    for (const Window* w = &window; w->parent && !w->isTopLevel(); w = w->parent) {
-        const QPoint parentOrigin = originInRoot(*w->parent);
-        region &= w->parent->clientRect().translated(parentOrigin);
-        if (!w->is(WS_CLIPSIBLINGS))
-            continue;
-        for (const Window* sibling : w->parent->children) {
-            if (sibling == w)
-                break;
-            if (sibling->is(WS_VISIBLE))
-                region -= sibling->rect.translated(parentOrigin);
-        }
-    }
+    QRegion region = window.clientRect().translated(originInRoot(window));
+    for (const Window* w = &window; w->parent && !w->isTopLevel(); w = w->parent)
+        region &= w->parent->clientRect().translated(originInRoot(*w->parent));
     return region;
 }
 
@@ -33,7 +21,7 @@ QRegion clippedRegion(const Window& window)
 
 QRegion exposedRegion(const Window& window)
 {
-    return window.isVisible() ? clippedRegion(window) : QRegion();
+    return window.isVisible() ? clippedByAncestors(window) : QRegion();
 }
 
 QRegion visibleRegion(const Window& window)
@@ -42,10 +30,8 @@ QRegion visibleRegion(const Window& window)
     if (!window.is(WS_CLIPCHILDREN))
         return region;
     const QPoint origin = originInRoot(window);
-    for (const Window* child : window.children) {
-        if (child->is(WS_VISIBLE))
-            region -= child->rect.translated(origin);
-    }
+    for (const Window* child : shownChildren(window))
+        region -= child->rect.translated(origin);
     return region;
 }
 
@@ -65,20 +51,16 @@ void forEachWithin(Window& window, const QRegion& region, Children children, Cha
     change(window, inside);
     if (!includesChildren(window, children))
         return;
-    for (Window* child : window.children) {
-        if (child->is(WS_VISIBLE))
-            forEachWithin(*child, inside.translated(-child->rect.topLeft()), children, change);
-    }
+    for (Window* child : shownChildren(window))
+        forEachWithin(*child, inside.translated(-child->rect.topLeft()), children, change);
 }
 
 QRegion withoutChildren(const Window& window, QRegion region)
 {
     if (!window.is(WS_CLIPCHILDREN))
         return region;
-    for (const Window* child : window.children) {
-        if (child->is(WS_VISIBLE))
-            region -= child->rect;
-    }
+    for (const Window* child : shownChildren(window))
+        region -= child->rect;
     return region;
 }
 
@@ -91,19 +73,17 @@ void invalidate(Window& window, const QRegion& region, bool erase, Children chil
     const QRegion seen = exposedRegion(window).translated(-originInRoot(window));
     forEachWithin(window, region & seen, children, [&](Window& target, const QRegion& part) {
         target.update += withoutChildren(target, part);
-        // A child that is hit along with its parent starts from a clean ground.
+        // A child that is invalidated along with its parent is always erased.
         target.eraseUpdate |= erase || &target != &window;
     });
     wakeQueue();
 }
 
-void validate(Window& window, const QRegion& region, Children children)
+void validate(Window& window, const QRegion& region)
 {
-    forEachWithin(window, region, children, [](Window& target, const QRegion& part) {
-        target.update -= part;
-        if (target.update.isEmpty())
-            target.eraseUpdate = false;
-    });
+    window.update -= region;
+    if (window.update.isEmpty())
+        window.eraseUpdate = false;
 }
 
 namespace {
@@ -132,6 +112,13 @@ WindowPtr nextToPaint()
     return nullptr;
 }
 
+Exposure exposureOf(const Window& window)
+{
+    return {exposedRegion(window), originInRoot(window)};
+}
+
+namespace {
+
 void discardUpdates(Window& window)
 {
     window.update = QRegion();
@@ -140,9 +127,6 @@ void discardUpdates(Window& window)
         discardUpdates(*child);
 }
 
-Exposure exposureOf(const Window& window)
-{
-    return {exposedRegion(window), originInRoot(window)};
 }
 
 void repaintAfterChange(Window& window, const Exposure& before, bool keepPixels)

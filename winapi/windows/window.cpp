@@ -28,8 +28,8 @@ namespace {
 
 HandleTable<HWND, Window>& windows()
 {
-    // Never destroyed: windows that a program leaves behind outlive the Qt application, their widgets must
-    // not.
+    // Never destroyed: a program may leave windows behind, and by then the Qt application, which their
+    // widgets need, is gone.
     static auto& table = *new HandleTable<HWND, Window>;
     return table;
 }

@@ -1,4 +1,4 @@
-// Windows as the calls see them: the tree, and what each window holds.
+// What winapi knows of each window.
 #pragma once
 
 #include "winuser.h"
@@ -34,11 +34,12 @@ struct Window;
 struct ControlState
 {
     virtual ~ControlState() = default;
-    // Its window, or one above that, was moved, sized, shown or hidden.
+    // Called when the control's window, or one above it, was moved, sized, shown or hidden.
     virtual void follow(Window&) {}
-    // Text that an input method is making, shown but not typed yet; and what it asks of the text that it is
-    // made for, with places in the widget of the top-level window. Nothing is made where it gets no answer.
+    // Shows the text that an input method is still composing from several keys.
     virtual void compose(Window&, QInputMethodEvent&) {}
+    // Answers what an input method asks about the text at the caret. Places are relative to the widget of the
+    // top-level window. A control without an answer gets no composed text.
     virtual QVariant answer(Qt::InputMethodQuery) const { return {}; }
 };
 
@@ -59,21 +60,18 @@ struct Window
     DWORD style = 0;
     DWORD exStyle = 0;
     LONG_PTR id = 0;
-    HINSTANCE instance = nullptr;
-    LONG_PTR userData = 0;
-    std::vector<std::byte> extra;
     std::string text;
     std::unique_ptr<ControlState> control;
 
-    QRect rect;              // in the parent's client area, or on the screen
-    bool sizeIsNews = false; // the first showing tells the window its size
-    bool dying = false;
-    QRegion update; // in client coordinates
-    bool eraseUpdate = false;
+    QRect rect;               // in the parent's client area, or on the screen
+    bool sizeIsNews = false;  // the window is told its size when it is first shown
+    bool dying = false;       // DestroyWindow is at work on it
+    QRegion update;           // what waits to be painted, in client coordinates
+    bool eraseUpdate = false; // and is to be erased before
 
     std::unique_ptr<WindowSurface> surface; // of a top-level window, once it is drawn on
     QPointer<HostWidget> host;              // of a top-level window, once it is shown
-    HWND lastFocus = nullptr;               // of an embedded window: which child had the focus
+    HWND lastFocus = nullptr;               // the child that had the focus when the widget lost it
 
     bool isTopLevel() const;
     bool isVisible() const; // with all its ancestors
@@ -83,7 +81,8 @@ struct Window
 };
 using WindowPtr = std::shared_ptr<Window>;
 
-// Null, and the last error set, when there is no such window. A caller that sends messages holds the pointer.
+// Null, and the last error set, when there is no such window. A message may destroy the window, so a caller
+// that sends one holds the pointer and asks isAlive afterwards.
 WindowPtr findWindow(HWND handle);
 WindowPtr addWindow();
 void removeWindow(const Window& window);

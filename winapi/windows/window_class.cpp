@@ -24,7 +24,7 @@ struct ClassTable
     ATOM next = 0xC400;
 };
 
-// Filled by need, so that classes can be registered before main.
+// Made when first asked for: programs may register classes before main.
 ClassTable& table()
 {
     static ClassTable classes;
@@ -40,8 +40,8 @@ ClassTable& tableWithSystemClasses()
 
 ATOM addClass(ClassTable& classes, const WNDCLASSEXA& info)
 {
-    if (!info.lpszClassName || IS_INTRESOURCE(info.lpszClassName) || !info.lpfnWndProc ||
-        info.cbWndExtra < 0) {
+    // Windows keep no bytes for their class.
+    if (!info.lpszClassName || IS_INTRESOURCE(info.lpszClassName) || !info.lpfnWndProc || info.cbWndExtra) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
@@ -113,7 +113,6 @@ ATOM RegisterClassA(const WNDCLASSA* windowClass)
     return addClass(tableWithSystemClasses(), extended(*windowClass));
 }
 
-// Windows of the class live on: they hold it.
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
 {
     const WindowClassPtr found = findClass(className);
@@ -121,32 +120,12 @@ BOOL UnregisterClassA(LPCSTR className, HINSTANCE)
         SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
         return FALSE;
     }
-    if (found.use_count() > 2) { // the table's and ours
+    constexpr long kOurs = 2; // references: the table's and this one
+    if (found.use_count() > kOurs) {
         SetLastError(ERROR_CLASS_HAS_WINDOWS);
         return FALSE;
     }
     table().byName.erase(lowered(found->name));
-    return TRUE;
-}
-
-BOOL GetClassInfoExA(HINSTANCE, LPCSTR className, WNDCLASSEXA* windowClass)
-{
-    const WindowClassPtr found = findClass(className);
-    if (!found || !windowClass) {
-        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-        return FALSE;
-    }
-    *windowClass = found->info;
-    return TRUE;
-}
-
-BOOL GetClassInfoA(HINSTANCE instance, LPCSTR className, WNDCLASSA* windowClass)
-{
-    WNDCLASSEXA info{};
-    if (!windowClass || !GetClassInfoExA(instance, className, &info))
-        return FALSE;
-    *windowClass = {info.style, info.lpfnWndProc, info.cbClsExtra,    info.cbWndExtra,   info.hInstance,
-                    info.hIcon, info.hCursor,     info.hbrBackground, info.lpszMenuName, info.lpszClassName};
     return TRUE;
 }
 

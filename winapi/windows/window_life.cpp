@@ -1,4 +1,4 @@
-// How windows come and go, with the messages that tell of it.
+// How windows are created and destroyed, and the messages that they get meanwhile.
 #include "focus.h"
 #include "geometry.h"
 #include "hooks.h"
@@ -6,6 +6,7 @@
 #include "message_queue.h"
 #include "mouse.h"
 #include "paint.h"
+#include "placement.h"
 #include "rooms_above.h"
 #include "timer.h"
 #include "update_region.h"
@@ -17,21 +18,21 @@ using namespace winapi;
 
 namespace {
 
-constexpr QSize defaultSize(640, 480);
-constexpr QPoint defaultPosition(60, 60);
+constexpr QSize kDefaultSize(640, 480);
+constexpr QPoint kDefaultPosition(60, 60);
 
 QRect initialRect(const CREATESTRUCTA& create)
 {
     const bool place = create.x != CW_USEDEFAULT;
     const bool size = create.cx != CW_USEDEFAULT;
-    return {place ? QPoint(create.x, create.y) : defaultPosition,
-            size ? QSize(std::max(create.cx, 0), std::max(create.cy, 0)) : defaultSize};
+    return {place ? QPoint(create.x, create.y) : kDefaultPosition,
+            size ? QSize(std::max(create.cx, 0), std::max(create.cy, 0)) : kDefaultSize};
 }
 
 // The parent of a child, the owner of anything else; false when there is no such window.
 bool resolveParent(const CREATESTRUCTA& create, WindowPtr& parent)
 {
-    if (create.hwndParent && create.hwndParent != GetDesktopWindow()) {
+    if (create.hwndParent && create.hwndParent != desktop().handle) {
         parent = findWindow(create.hwndParent);
         return parent != nullptr;
     }
@@ -49,17 +50,14 @@ WindowPtr makeWindow(const CREATESTRUCTA& create, const WindowClassPtr& windowCl
     window->windowClass = windowClass;
     window->procedure = windowClass->info.lpfnWndProc;
     window->style = static_cast<DWORD>(create.style) & ~WS_VISIBLE;
-    // Top-level windows never draw over each other.
-    if (!child)
-        window->style |= WS_CLIPSIBLINGS;
     window->exStyle = create.dwExStyle;
     window->id = child ? reinterpret_cast<LONG_PTR>(create.hMenu) : 0;
-    window->instance = create.hInstance;
-    window->extra.resize(static_cast<std::size_t>(windowClass->info.cbWndExtra));
     window->rect = initialRect(create);
     if (!child && parent)
         window->owner = rootOf(*parent).handle;
-    linkWindow(*window, child ? *parent : desktop(), child ? HWND_BOTTOM : HWND_TOP);
+    linkWindow(*window, child ? *parent : desktop());
+    if (!child)
+        raiseWindow(*window);
     return window;
 }
 
@@ -76,23 +74,11 @@ void forget(Window& window)
     destroyHost(window);
 }
 
-void notifyParents(Window& window, UINT event)
+void tellAncestors(Window& window, UINT event)
 {
-    const WPARAM what = MAKEWPARAM(event, window.id);
-    for (Window* w = &window; w->is(WS_CHILD) && !(w->exStyle & WS_EX_NOPARENTNOTIFY);) {
-        const WindowPtr parent = findWindow(w->parent->handle);
-        SendMessageA(parent->handle, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(window.handle));
-        if (!isAlive(window) || !isAlive(*parent))
-            return;
-        w = parent.get();
-    }
-}
-
-void tellSizeAndPlace(Window& window)
-{
-    SendMessageA(window.handle, WM_SIZE, SIZE_RESTORED, toLParam(window.rect.size()));
-    if (isAlive(window))
-        SendMessageA(window.handle, WM_MOVE, 0, toLParam(window.rect.topLeft()));
+    const HWND handle = window.handle;
+    notifyAncestors(window, MAKEWPARAM(event, window.id),
+                    [handle](const Window&) { return reinterpret_cast<LPARAM>(handle); });
 }
 
 // False when the window refused or is gone.
@@ -149,7 +135,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     if (!window->sizeIsNews)
         tellSizeAndPlace(*window);
     if (isAlive(*window))
-        notifyParents(*window, WM_CREATE);
+        tellAncestors(*window, WM_CREATE);
     if (isAlive(*window) && (style & WS_VISIBLE))
         ShowWindow(handle, SW_SHOW);
     return isAlive(*window) ? handle : nullptr;
@@ -203,8 +189,8 @@ void hideForGood(Window& window)
     if (window.is(WS_CHILD))
         ShowWindow(window.handle, SW_HIDE);
     else
-        SetWindowPos(window.handle, nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        placeWindow(window.handle, {},
+                    SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }
@@ -216,7 +202,7 @@ BOOL DestroyWindow(HWND handle)
         return FALSE;
     if (callHooks(WH_CBT, HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0))
         return FALSE;
-    notifyParents(*window, WM_DESTROY);
+    tellAncestors(*window, WM_DESTROY);
     if (isAlive(*window))
         hideForGood(*window);
     if (isAlive(*window))

@@ -1,3 +1,4 @@
+// The pixels of a top-level window, in the density of the screen that it stands on.
 #include "window_surface.h"
 
 #include "host_widget.h"

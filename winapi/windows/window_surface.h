@@ -16,11 +16,11 @@ public:
     QPaintDevice& device() override { return image(); }
     void changed(const QRect& rect) override;
 
-    // As large as the window, with the old content in place; what is new is white.
+    // As large as the window. When the window grows, the old pixels stay in place and the new ones are white.
     QImage& image();
-    // Moves pixels by `delta` to `target`.
+    // Moves pixels by `delta`, to the region `target`.
     void copy(const QRegion& target, QPoint delta);
-    // Whether such a move ends on whole pixels of the screen.
+    // False when such a move would end between two pixels of the screen.
     bool canCopy(QPoint delta);
 
 private:
@@ -28,6 +28,7 @@ private:
     QImage m_image;
 };
 
+// Made when first asked for.
 WindowSurface& surfaceOf(Window& root);
 
 }

@@ -1,4 +1,4 @@
-// The tree of windows: who stands in whom, in which order, and where on the screen.
+// The tree of windows: which stands in which, in which order, and where on the screen.
 #include "window_tree.h"
 
 #include "host_widget.h"
@@ -43,26 +43,43 @@ bool isDescendant(const Window& ancestor, const Window& window)
     return above != nullptr;
 }
 
-void linkWindow(Window& window, Window& parent, HWND insertAfter)
+void linkWindow(Window& window, Window& parent)
 {
     window.parent = &parent;
-    auto& siblings = parent.children;
-    auto place = siblings.begin();
-    if (insertAfter == HWND_BOTTOM) {
-        place = siblings.end();
-    } else if (insertAfter != HWND_TOP && insertAfter != HWND_TOPMOST && insertAfter != HWND_NOTOPMOST) {
-        place = std::find_if(siblings.begin(), siblings.end(),
-                             [insertAfter](const Window* sibling) { return sibling->handle == insertAfter; });
-        if (place != siblings.end())
-            ++place;
-    }
-    siblings.insert(place, &window);
+    parent.children.push_back(&window);
+}
+
+void raiseWindow(Window& window)
+{
+    auto& siblings = window.parent->children;
+    const auto self = std::find(siblings.begin(), siblings.end(), &window);
+    std::rotate(siblings.begin(), self, self + 1);
 }
 
 void unlinkWindow(Window& window)
 {
     if (window.parent)
         std::erase(window.parent->children, &window);
+}
+
+std::vector<Window*> shownChildren(const Window& window)
+{
+    std::vector<Window*> shown;
+    std::copy_if(window.children.begin(), window.children.end(), std::back_inserter(shown),
+                 [](const Window* child) { return child->is(WS_VISIBLE); });
+    return shown;
+}
+
+void notifyAncestors(Window& window, WPARAM event,
+                     const std::function<LPARAM(const Window& parent)>& detailFor)
+{
+    for (WindowPtr below = findWindow(window.handle); below->is(WS_CHILD);) {
+        const WindowPtr parent = findWindow(below->parent->handle);
+        SendMessageA(parent->handle, WM_PARENTNOTIFY, event, detailFor(*parent));
+        if (!isAlive(window) || !isAlive(*parent))
+            return;
+        below = parent;
+    }
 }
 
 QPoint originInRoot(const Window& window)
@@ -84,7 +101,7 @@ QPoint screenOrigin(const Window& window)
 
 namespace {
 
-// `point` in the window's own client coordinates.
+// `point` is the place in the window's client area, `screen` the same place on the screen.
 WindowPtr hitTestIn(Window& window, QPoint point, QPoint screen)
 {
     const auto children = window.children;
@@ -139,21 +156,10 @@ HWND GetParent(HWND window)
     return found->is(WS_POPUP) ? found->owner : nullptr;
 }
 
-HWND GetAncestor(HWND window, UINT flags)
+HWND GetAncestor(HWND window, UINT)
 {
     const WindowPtr found = findWindow(window);
-    if (!found || !found->parent)
-        return nullptr;
-    if (flags == GA_PARENT)
-        return found->parent->handle;
-    Window* root = &rootOf(*found);
-    while (flags == GA_ROOTOWNER && root->owner) {
-        const WindowPtr owner = findWindow(root->owner);
-        if (!owner)
-            break;
-        root = &rootOf(*owner);
-    }
-    return root->handle;
+    return found && found->parent ? rootOf(*found).handle : nullptr;
 }
 
 HWND GetWindow(HWND window, UINT command)
@@ -161,38 +167,17 @@ HWND GetWindow(HWND window, UINT command)
     const WindowPtr found = findWindow(window);
     if (!found)
         return nullptr;
-    if (command == GW_OWNER)
-        return found->owner;
     if (command == GW_CHILD)
         return found->children.empty() ? nullptr : found->children.front()->handle;
-    if (!found->parent)
-        return nullptr;
-
-    const auto& siblings = found->parent->children;
-    const auto self = std::find(siblings.begin(), siblings.end(), found.get());
-    switch (command) {
-    case GW_HWNDFIRST:
-        return siblings.front()->handle;
-    case GW_HWNDLAST:
-        return siblings.back()->handle;
-    case GW_HWNDNEXT:
-        return self + 1 == siblings.end() ? nullptr : self[1]->handle;
-    case GW_HWNDPREV:
-        return self == siblings.begin() ? nullptr : self[-1]->handle;
-    default:
+    if (command != GW_HWNDNEXT) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-}
-
-HWND GetTopWindow(HWND window)
-{
-    return GetWindow(window ? window : GetDesktopWindow(), GW_CHILD);
-}
-
-HWND GetDesktopWindow()
-{
-    return desktop().handle;
+    if (!found->parent)
+        return nullptr;
+    const auto& siblings = found->parent->children;
+    const auto next = std::find(siblings.begin(), siblings.end(), found.get()) + 1;
+    return next == siblings.end() ? nullptr : (*next)->handle;
 }
 
 HWND GetDlgItem(HWND parent, int id)
@@ -225,13 +210,7 @@ BOOL EnumThreadWindows(DWORD, WNDENUMPROC proc, LPARAM lParam)
                        [&](HWND handle) { return !IsWindow(handle) || proc(handle, lParam); });
 }
 
-HWND WindowFromPoint(POINT point)
-{
-    const WindowPtr hit = hitTest({point.x, point.y});
-    return hit ? hit->handle : nullptr;
-}
-
-// Unlike input, counts hidden and disabled children.
+// Unlike hitTest, it finds hidden and disabled children too.
 HWND ChildWindowFromPoint(HWND parent, POINT point)
 {
     const WindowPtr found = findWindow(parent);

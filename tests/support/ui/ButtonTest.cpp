@@ -230,7 +230,7 @@ TEST_F(ButtonTest, StaysOwnerDrawnAndKnowsItsFocus)
     button.SetButtonStyle(BS_DEFPUSHBUTTON);
     EXPECT_EQ(::GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK, BS_OWNERDRAW);
     EXPECT_FALSE(button.IsChecked());
-    ::SetActiveWindow(frame.m_hWnd);
+    frame.SetFocus();
     button.SetFocus();
     EXPECT_TRUE(button.GetHaveFocus());
     frame.SetFocus();
