@@ -78,6 +78,8 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_SETFOCUS)
         m_onFocus();
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY)
+        m_onChildEnd();
     const char* const strName = FindName(message);
     if (strName == nullptr || m_pCalendar == nullptr)
         return CWnd::WindowProc(message, wParam, lParam);
@@ -86,6 +88,7 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
                        bRange ? *reinterpret_cast<const DateTime*>(lParam) : DateTime(),
                        m_pCalendar->m_bHaveDate, m_pCalendar->GetTitle(), m_pCalendar->m_rcSelection,
                        m_pCalendar->m_vDayDescs, ::GetFocus()});
+    m_onHeard();
     return 0;
 }
 

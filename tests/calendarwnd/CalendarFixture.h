@@ -89,7 +89,9 @@ class RecordingParent : public CWnd
 public:
     TestCalendar* m_pCalendar = nullptr;
     std::vector<Heard> m_heard;
-    std::function<void()> m_onFocus = [] {}; // done when it gets the focus
+    std::function<void()> m_onFocus = [] {};    // done when it gets the focus
+    std::function<void()> m_onHeard = [] {};    // done after each registered message
+    std::function<void()> m_onChildEnd = [] {}; // done when a child below it is about to end
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
