@@ -1,4 +1,6 @@
 #include "UIPrinter.h"
+
+#include <WndWatch.h>
 #include <afxext.h>
 #include <SystemUtils.h>
 #include <algorithm>
@@ -162,7 +164,7 @@ void UIPrinter::InitPrintProcess()
     dialog.m_pd.hwndOwner = info.m_pCtrlWnd ? info.m_pCtrlWnd->m_hWnd : nullptr;
 
     const bool bAsk = !info.m_bPrintFlag && s_strOutputFile.IsEmpty();
-    const bool bChosen = bAsk ? dialog.DoModal() == IDOK : dialog.GetDefaults() != FALSE;
+    const bool bChosen = bAsk ? AskForPrinter(dialog) : dialog.GetDefaults() != FALSE;
     if (bChosen) {
         SetPrintDC(dialog.GetPrinterDC());
         return;
@@ -171,6 +173,19 @@ void UIPrinter::InitPrintProcess()
     const bool bCancelled = bAsk && dwError == 0;
     if (!bCancelled)
         Fail(GetDialogErrorText(dwError));
+}
+
+// The window printed may go while the dialog is open.
+bool UIPrinter::AskForPrinter(CPrintDialog& dialog)
+{
+    CWnd*& pWnd = m_pJob->m_info.m_pCtrlWnd;
+    const auto ask = [&] { return dialog.DoModal() == IDOK; };
+    if (!pWnd)
+        return ask();
+    bool bChosen = false;
+    if (!WhileAlive(*pWnd, [&] { bChosen = ask(); }))
+        pWnd = nullptr;
+    return bChosen;
 }
 
 void UIPrinter::CreateHeaderFont(CFont& font) const

@@ -10,6 +10,7 @@
 #include <memory>
 #include "PrintInfo.h"
 
+class CPrintDialog;
 struct CPrintInfo;
 
 class ZEB17_EXPORT UIPrinter
@@ -95,6 +96,8 @@ protected:
     void FailWithLastError(const CString& strMsg); // adds the text of the system's last error
 
 private:
+    bool AskForPrinter(CPrintDialog& dialog);
+
     struct Job;
     std::unique_ptr<Job> m_pJob;
 };

@@ -47,7 +47,10 @@ CZEBButton::CZEBButton()
     GraphicsUtils::SetDefaultFont(m_lfCaption, "", DEFAULT_FONT_HEIGHT, -1, false, false, false);
 }
 
-CZEBButton::~CZEBButton() = default;
+CZEBButton::~CZEBButton()
+{
+    DestroyWindow();
+}
 
 BOOL CZEBButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {

@@ -45,8 +45,9 @@ Cause CommandCause(const char* strName, UINT nId)
 // By the button itself, whose own frames lie below the handler.
 Cause ClickCause(const char* strName, UINT nId)
 {
-    return {strName,
-            [nId](TestCalendar& calendar) { ::SendMessageA(::GetDlgItem(calendar, int(nId)), BM_CLICK, 0, 0); }};
+    return {strName, [nId](TestCalendar& calendar) {
+                ::SendMessageA(::GetDlgItem(calendar, int(nId)), BM_CLICK, 0, 0);
+            }};
 }
 
 Cause PressCause(const char* strName, int nCell)
@@ -153,14 +154,16 @@ TEST_P(HostActionTest, IsSurvived)
     }
 }
 
+std::string NameOf(const testing::TestParamInfo<std::tuple<Cause, Ends>>& test)
+{
+    constexpr const char* kEnds[] = {"EndsWindow", "EndsObject", "EndsHost"};
+    return std::string(std::get<Cause>(test.param).strName) + kEnds[static_cast<int>(std::get<Ends>(test.param))];
+}
+
 INSTANTIATE_TEST_SUITE_P(Causes, HostActionTest,
                          testing::Combine(testing::ValuesIn(kCauses),
                                           testing::Values(Ends::Window, Ends::Object, Ends::Host)),
-                         [](const auto& test) {
-                             constexpr const char* kEnds[] = {"EndsWindow", "EndsObject", "EndsHost"};
-                             return std::string(std::get<Cause>(test.param).strName) +
-                                    kEnds[static_cast<int>(std::get<Ends>(test.param))];
-                         });
+                         NameOf);
 
 // The host, an accessibility client or a nested loop reaches the window for as long as there is one.
 TEST_F(CalendarTest, ItsWindowEndsBeforeItsButtonsAndTellsNobody)
@@ -199,8 +202,9 @@ TEST_F(CalendarTest, ASecondCreationStartsWithoutADate)
 TEST_F(CalendarTest, TakesAnyRectangle)
 {
     constexpr int kLeast = std::numeric_limits<int>::min(), kMost = std::numeric_limits<int>::max();
-    for (const CRect& rc : {CRect(kLeast, kLeast, kMost, kMost), CRect(kMost, kMost, kLeast, kLeast),
-                            CRect(0, 0, kMost, kMost), CRect(kLeast, kLeast, 0, 0), CRect(kMost, kMost, kMost, kMost)}) {
+    for (const CRect& rc :
+         {CRect(kLeast, kLeast, kMost, kMost), CRect(kMost, kMost, kLeast, kLeast), CRect(0, 0, kMost, kMost),
+          CRect(kLeast, kLeast, 0, 0), CRect(kMost, kMost, kMost, kMost)}) {
         Renew();
         ASSERT_TRUE(calendar->Create(kCalendarId, rc, false, &parent, true, true, false, false));
         calendar->MoveWindow(&rc);

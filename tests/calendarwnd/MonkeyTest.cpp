@@ -1,28 +1,5 @@
 #include "CalendarFixture.h"
-
-#include <cstdlib>
-#include <random>
-
-namespace {
-
-// A longer game: ZEB17_MONKEY_MESSAGES says how many messages each seed plays, ZEB17_MONKEY_SEEDS how many
-// further seeds there are. The build has the defaults, for the emulated system is slow.
-unsigned GetSetting(const char* strName, unsigned nDefault)
-{
-    const char* const strValue = std::getenv(strName);
-    return strValue != nullptr ? static_cast<unsigned>(std::strtoul(strValue, nullptr, 10)) : nDefault;
-}
-
-// A seed that failed is to be added here.
-std::vector<unsigned> GetSeeds()
-{
-    std::vector<unsigned> seeds = {1, 20260715};
-    for (unsigned n = GetSetting("ZEB17_MONKEY_SEEDS", 0); n > 0; --n)
-        seeds.push_back(std::random_device{}());
-    return seeds;
-}
-
-}
+#include "RandomGame.h"
 
 // Random messages, after each of which the control must be in order.
 class MonkeyTest : public CalendarTest, public testing::WithParamInterface<unsigned>
@@ -35,16 +12,8 @@ protected:
         bool bMustBeTold = true;
     };
 
-    int Pick(int nBelow) { return static_cast<int>(m_random() % static_cast<unsigned>(nBelow)); }
+    int Pick(int nBelow) { return m_game.Pick(nBelow); }
     CPoint PickPoint() { return CPoint(Pick(kWidth + 20) - 10, Pick(kHeight + 20) - 10); }
-    // None, one at the ends of time, or a usual one.
-    DateTime PickDate()
-    {
-        DateTime date;
-        const int days[] = {0, 1 + Pick(400), 3652061 - Pick(400), 739000 + Pick(2000)};
-        date.m_nDayNumber = days[std::min(Pick(8), 3)];
-        return date;
-    }
     std::string IfDate(const char* strTold) const { return calendar->m_bHaveDate ? strTold : ""; }
 
     Due Act()
@@ -76,7 +45,7 @@ protected:
             Command(static_cast<UINT>(42032 + Pick(17)));
             return {calendar->m_bHaveDate ? "SELCHANGE 1, RANGE 0" : "RANGE 0"};
         case 8: {
-            const DateTime date = PickDate();
+            const DateTime date = m_game.PickDate();
             calendar->SetDate(date);
             return {date.IsValid() ? "SELCHANGE 1" : ""};
         }
@@ -146,13 +115,13 @@ protected:
         }
     }
 
-    std::mt19937 m_random{GetParam()};
+    RandomGame m_game{GetParam()};
 };
 
 TEST_P(MonkeyTest, LeavesTheControlInOrder)
 {
     Start();
-    const unsigned nMessages = GetSetting("ZEB17_MONKEY_MESSAGES", MONKEY_MESSAGES);
+    const unsigned nMessages = RandomGame::GetSetting("ZEB17_MONKEY_MESSAGES", MONKEY_MESSAGES);
     for (unsigned i = 0; i < nMessages; ++i) {
         SCOPED_TRACE("seed " + std::to_string(GetParam()) + " message " + std::to_string(i));
         const DateTime before = calendar->GetDate();
@@ -169,4 +138,4 @@ TEST_P(MonkeyTest, LeavesTheControlInOrder)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::ValuesIn(GetSeeds()), testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::ValuesIn(RandomGame::GetSeeds()), testing::PrintToStringParamName());

@@ -15,8 +15,8 @@ class RandomGame
 public:
     explicit RandomGame(unsigned nSeed) : m_random(nSeed) {}
 
-    // A longer game: ZEB17_MONKEY_MESSAGES says how many messages each seed plays, ZEB17_MONKEY_SEEDS how many
-    // further seeds there are. The build has the defaults, for the emulated system is slow.
+    // A longer game: ZEB17_MONKEY_MESSAGES says how many messages each seed plays, ZEB17_MONKEY_SEEDS how
+    // many further seeds there are. The build has the defaults, for the emulated system is slow.
     static unsigned GetSetting(const char* strName, unsigned nDefault)
     {
         const char* const strValue = std::getenv(strName);
@@ -52,7 +52,7 @@ public:
 
     void Key(HWND hWnd)
     {
-        constexpr WPARAM kKeys[] = {VK_LEFT, VK_UP,  VK_RIGHT, VK_DOWN,  VK_HOME,  VK_END,   'T',
+        constexpr WPARAM kKeys[] = {VK_LEFT, VK_UP,  VK_RIGHT, VK_DOWN,  VK_HOME, VK_END,    'T',
                                     VK_F5,   VK_TAB, VK_SPACE, VK_PRIOR, VK_NEXT, VK_RETURN, VK_ESCAPE};
         MSG msg{hWnd, WM_KEYDOWN, kKeys[Pick(static_cast<int>(std::size(kKeys)))], 1, 0, {}};
         if (!CWnd::WalkPreTranslateTree(::GetAncestor(hWnd, GA_ROOT), &msg))

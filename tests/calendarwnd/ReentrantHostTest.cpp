@@ -2,6 +2,7 @@
 #include "CalendarFixture.h"
 #include "RandomGame.h"
 
+#include <WndWatch.h>
 #include <ZebrikUtils.h>
 
 namespace {
@@ -15,7 +16,8 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message < 0xC000 && message != WM_PARENTNOTIFY && message != WM_SETFOCUS && message != WM_ACTIVATE)
+        if (message < 0xC000 && message != WM_PARENTNOTIFY && message != WM_SETFOCUS &&
+            message != WM_ACTIVATE)
             return CWnd::WindowProc(message, wParam, lParam);
         const CWndWatch watch(*this);
         m_onHeard();
@@ -41,8 +43,8 @@ protected:
         if (!m_frame || !m_frame->m_hWnd) {
             m_frame = std::make_unique<Frame>();
             m_frame->m_onHeard = [this] { React(); };
-            m_frame->CreateEx(0, AfxRegisterWndClass(0), "frame", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300),
-                              nullptr, 0);
+            m_frame->CreateEx(0, AfxRegisterWndClass(0), "frame", WS_POPUP | WS_VISIBLE,
+                              CRect(0, 0, 400, 300), nullptr, 0);
         }
         if (!m_calendar)
             m_calendar = std::make_unique<TestCalendar>();
@@ -52,8 +54,8 @@ protected:
 
     void CreateCalendar()
     {
-        m_calendar->Create(kCalendarId, CRect(10, 20, 310, 260), m_random.Pick(2) != 0, m_frame.get(), true, true, true,
-                           true);
+        m_calendar->Create(kCalendarId, CRect(10, 20, 310, 260), m_random.Pick(2) != 0, m_frame.get(), true,
+                           true, true, true);
     }
 
     // What the host does inside of a notification, to a depth.
@@ -119,7 +121,7 @@ protected:
             break;
         case 10:
             if (m_nDepth == 1) // in a message of the frame's, which ends it
-                AfxThrowUserException();
+                AfxThrowMemoryException();
             break;
         default:
             ShowModal();
@@ -142,8 +144,8 @@ protected:
     void ShowModal()
     {
         const HWND hFrame = m_frame ? m_frame->m_hWnd : nullptr;
-        const HWND hModal = ::CreateWindowExA(0, AfxRegisterWndClass(0), "modal", WS_POPUP | WS_VISIBLE, 50, 50, 100,
-                                              100, hFrame, nullptr, nullptr, nullptr);
+        const HWND hModal = ::CreateWindowExA(0, AfxRegisterWndClass(0), "modal", WS_POPUP | WS_VISIBLE, 50,
+                                              50, 100, 100, hFrame, nullptr, nullptr, nullptr);
         if (hFrame)
             ::EnableWindow(hFrame, FALSE);
         Pump();

@@ -14,7 +14,8 @@ namespace {
 
 constexpr const char* kClassName = "ending";
 
-// The windows of the play: a top-level window with a child and a grandchild, one that it owns, and a stranger.
+// The windows of the play: a top-level window with a child and a grandchild, one that it owns, and a
+// stranger.
 enum Role
 {
     Top,
@@ -45,8 +46,8 @@ protected:
     void create(Role role, DWORD style, RECT place, HWND parent)
     {
         m_creating = role;
-        CreateWindowExA(0, kClassName, "", style, place.left, place.top, place.right, place.bottom, parent, nullptr,
-                        nullptr, nullptr);
+        CreateWindowExA(0, kClassName, "", style, place.left, place.top, place.right, place.bottom, parent,
+                        nullptr, nullptr, nullptr);
     }
 
     static void serve()
@@ -71,7 +72,8 @@ protected:
             SetFocus(m_windows[role]);
         SetWindowPos(m_windows[Top], HWND_TOP, 30, 30, 210, 160, SWP_FRAMECHANGED);
         MoveWindow(m_windows[Child], 5, 5, 100, 90, TRUE);
-        RedrawWindow(m_windows[Top], nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        RedrawWindow(m_windows[Top], nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         SetWindowTextA(m_windows[Owned], "text");
         useHands();
         EnableWindow(m_windows[Top], FALSE);

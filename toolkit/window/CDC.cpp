@@ -108,7 +108,8 @@ CPaintDC::~CPaintDC()
 
 CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd ? pWnd->m_hWnd : nullptr)
 {
-    if (!Attach(::GetDC(m_hWnd)))
+    const bool bGone = pWnd && !m_hWnd; // the system would give a context of the screen
+    if (bGone || !Attach(::GetDC(m_hWnd)))
         AfxThrowResourceException();
 }
 

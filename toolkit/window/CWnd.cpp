@@ -1,5 +1,6 @@
 // The life of a window and its object, and the way of messages to their handlers.
 #include "WndProc.h"
+#include "WndWatch.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
@@ -27,6 +28,7 @@ public:
 
 CWnd::~CWnd()
 {
+    CWndWatch::End(*this);
     if (!m_hWnd)
         return;
     ::DestroyWindow(m_hWnd);
@@ -94,7 +96,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                     const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam)
 {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top, pParentWnd ? pParentWnd->m_hWnd : nullptr,
+                    CRect(rect).Width(), CRect(rect).Height(), pParentWnd ? pParentWnd->m_hWnd : nullptr,
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
 }
 
@@ -142,7 +144,10 @@ void CWnd::PostNcDestroy() {}
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     LRESULT lResult = 0;
-    return OnWndMsg(message, wParam, lParam, &lResult) ? lResult : DefWindowProc(message, wParam, lParam);
+    const CWndWatch watch(*this);
+    if (OnWndMsg(message, wParam, lParam, &lResult) || !watch.IsAlive())
+        return lResult;
+    return DefWindowProc(message, wParam, lParam);
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
@@ -167,9 +172,10 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     const UINT nID = LOWORD(wParam);
     const auto hWndCtrl = reinterpret_cast<HWND>(lParam);
+    const CWndWatch watch(*this);
     if (hWndCtrl) {
         LRESULT lResult = 0;
-        return ReflectToChild(hWndCtrl, WM_COMMAND, wParam, lParam, &lResult) ||
+        return ReflectToChild(hWndCtrl, WM_COMMAND, wParam, lParam, &lResult) || !watch.IsAlive() ||
                OnCmdMsg(nID, HIWORD(wParam), nullptr);
     }
 
@@ -177,7 +183,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     // disabled.
     EnabledProbe probe(nID);
     OnCmdMsg(nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe);
-    return !probe.m_bEnabled || OnCmdMsg(nID, CN_COMMAND, nullptr);
+    return !watch.IsAlive() || !probe.m_bEnabled || OnCmdMsg(nID, CN_COMMAND, nullptr);
 }
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
@@ -185,7 +191,8 @@ BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
     auto* pHeader = reinterpret_cast<NMHDR*>(lParam);
     if (!pHeader)
         return FALSE;
-    if (ReflectToChild(pHeader->hwndFrom, WM_NOTIFY, wParam, lParam, pResult))
+    const CWndWatch watch(*this);
+    if (ReflectToChild(pHeader->hwndFrom, WM_NOTIFY, wParam, lParam, pResult) || !watch.IsAlive())
         return TRUE;
 
     // The id in the message may be the handle of a window, as in those of the tool tip, so the control is

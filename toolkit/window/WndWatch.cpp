@@ -1,13 +1,21 @@
 // Whether the object of a window is still there after a call that may have ended it.
 #include "WndWatch.h"
 
-CWndWatch::CWndWatch(const CWnd& wnd) : m_pWnd(&wnd), m_pOuter(wnd.m_pWatch)
-{
-    wnd.m_pWatch = this;
-}
+CWndWatch::CWndWatch(const CWnd& wnd) : m_pWnd(&wnd), m_pNext(std::exchange(wnd.m_pWatches, this)) {}
 
+// As a rule this watch is the first of the list, the one made last.
 CWndWatch::~CWndWatch()
 {
-    if (m_pWnd)
-        m_pWnd->m_pWatch = m_pOuter;
+    if (!m_pWnd)
+        return;
+    CWndWatch** ppWatch = &m_pWnd->m_pWatches;
+    while (*ppWatch != this)
+        ppWatch = &(*ppWatch)->m_pNext;
+    *ppWatch = m_pNext;
+}
+
+void CWndWatch::End(const CWnd& wnd)
+{
+    for (CWndWatch* pWatch = std::exchange(wnd.m_pWatches, nullptr); pWatch; pWatch = pWatch->m_pNext)
+        pWatch->m_pWnd = nullptr;
 }

@@ -3,10 +3,8 @@
 
 #include <afxwin.h>
 
-/// Watches the object of a window while a call runs that reaches other code: a message sent, a focus moved. That code
-/// may delete the object, and whoever made the call must then not touch it again.
-///
-/// Lives on the stack, on the thread of the window; watches of one object end in the reverse order of their making.
+// Watches the object of a window. A call that reaches other code, such as a message sent or a focus moved,
+// may end the object; whoever made the call must then not touch it again. For the thread of the window.
 class ZEB17_EXPORT CWndWatch
 {
 public:
@@ -15,18 +13,21 @@ public:
     CWndWatch(const CWndWatch&) = delete;
     CWndWatch& operator=(const CWndWatch&) = delete;
 
-    /// False once the destructor of CWnd has run for the object.
-    bool IsAlive() const { return m_pWnd != nullptr; }
+    // False once the object has ended.
+    bool IsAlive() const { return m_pWnd; }
 
 private:
     friend class CWnd;
 
+    // Tells all that watch the object of its end.
+    static void End(const CWnd& wnd);
+
     const CWnd* m_pWnd;
-    CWndWatch* m_pOuter; // the watch of the same object that was made before this one
+    CWndWatch* m_pNext; // another that watches the same object
 };
 
-/// Takes the steps of an operation in their order, for as long as the object is alive. False if it ended before the
-/// last step was done or in that step.
+// Takes the steps of an operation in their order, for as long as the object is alive. False if it ended
+// before the last step was done, or in that step.
 template <class... Step>
 bool WhileAlive(const CWnd& wnd, Step... step)
 {

@@ -10,6 +10,8 @@
 #include <afxmenu_.h>
 #include <afxmsg_.h>
 
+class CWndWatch;
+
 // A notification on its way to its handler.
 struct AFX_NOTIFY
 {
@@ -42,8 +44,12 @@ protected:
 
 // The object of a window's handle. Messages reach it through WindowProc and the message map.
 //
-// An object owns its window. When the object ends, a window that is still there is destroyed; derived classes
-// no longer see the messages of that. When the window ends first, the object is left without a handle.
+// An object owns its window. When the object ends, a window that is still there is destroyed; when the window
+// ends first, the object is left without a handle. The destructor of a derived class calls DestroyWindow
+// first, so that no message of the window reaches an object of which a part is gone.
+//
+// A handler may do anything: destroy the window, also delete the object. Whoever writes a handler that goes
+// on after such a call watches the object (WndWatch.h).
 //
 // A CException that leaves a handler must not cross the frames of the system, so it ends at the window
 // procedure: CWinApp::ProcessWndProcException gets it, and the message counts as handled. Any other exception
@@ -114,7 +120,7 @@ public:
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
     // Gives the window that had the focus.
-    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    CWnd* SetFocus() { return m_hWnd ? FromHandle(::SetFocus(m_hWnd)) : nullptr; }
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
 
     // Messages and timers
@@ -135,8 +141,12 @@ public:
 
     // Painting
 
-    void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
-    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
+    void Invalidate(BOOL bErase = TRUE) { InvalidateRect(nullptr, bErase); }
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE)
+    {
+        if (m_hWnd) // without a window the system would invalidate all that there are
+            ::InvalidateRect(m_hWnd, lpRect, bErase);
+    }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
     // Gives back the context that GetDC gave. The object must not be used afterwards.
@@ -197,6 +207,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CWndWatch;
+
     static LRESULT CALLBACK Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     void RestoreProcedure();
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -208,4 +220,5 @@ private:
 
     WNDPROC m_pfnSuper = nullptr; // the window's procedure before the window's messages went to this object
     bool m_bToolTips = false;
+    mutable CWndWatch* m_pWatches = nullptr; // a list, which those who watch this object keep
 };

@@ -4,6 +4,22 @@
 
 #include <windows.h>
 
+// Coordinates stop at the ends of their range, whatever is added to them.
+constexpr int ClampCoordinate(long long n)
+{
+    constexpr long long kLeast = -0x80000000LL;
+    constexpr long long kMost = 0x7FFFFFFFLL;
+    return static_cast<int>(n < kLeast ? kLeast : n > kMost ? kMost : n);
+}
+constexpr int AddCoordinates(long long a, long long b)
+{
+    return ClampCoordinate(a + b);
+}
+constexpr int SubtractCoordinates(long long a, long long b)
+{
+    return ClampCoordinate(a - b);
+}
+
 // A width and a height, or a distance between two points.
 class CSize : public SIZE
 {
@@ -36,13 +52,19 @@ public:
     CRect() : RECT{0, 0, 0, 0} {}
     CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
     CRect(const RECT& srcRect) : RECT(srcRect) {}
-    CRect(POINT point, SIZE size) : RECT{point.x, point.y, point.x + size.cx, point.y + size.cy} {}
+    CRect(POINT point, SIZE size)
+        : RECT{point.x, point.y, AddCoordinates(point.x, size.cx), AddCoordinates(point.y, size.cy)}
+    {
+    }
 
-    int Width() const { return right - left; }
-    int Height() const { return bottom - top; }
+    int Width() const { return SubtractCoordinates(right, left); }
+    int Height() const { return SubtractCoordinates(bottom, top); }
     CSize Size() const { return {Width(), Height()}; }
     // The middle; each coordinate is halved toward zero.
-    CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
+    CPoint CenterPoint() const
+    {
+        return {ClampCoordinate((1LL * left + right) / 2), ClampCoordinate((1LL * top + bottom) / 2)};
+    }
     operator LPRECT() { return this; }
     operator LPCRECT() const { return this; }
 
@@ -62,7 +84,15 @@ public:
 
     // Move the edges outwards, inwards, or all by the same distance.
     void InflateRect(int x, int y) { InflateRect(x, y, x, y); }
-    void InflateRect(int l, int t, int r, int b) { SetRect(left - l, top - t, right + r, bottom + b); }
-    void DeflateRect(int x, int y) { InflateRect(-x, -y); }
-    void OffsetRect(int x, int y) { SetRect(left + x, top + y, right + x, bottom + y); }
+    void InflateRect(int l, int t, int r, int b)
+    {
+        SetRect(SubtractCoordinates(left, l), SubtractCoordinates(top, t), AddCoordinates(right, r),
+                AddCoordinates(bottom, b));
+    }
+    void DeflateRect(int x, int y) { InflateRect(SubtractCoordinates(0, x), SubtractCoordinates(0, y)); }
+    void OffsetRect(int x, int y)
+    {
+        SetRect(AddCoordinates(left, x), AddCoordinates(top, y), AddCoordinates(right, x),
+                AddCoordinates(bottom, y));
+    }
 };

@@ -5,6 +5,7 @@
 #include "MonthBlock.h"
 #include "resource.h"
 
+#include <WndWatch.h>
 #include <oleacc.h>
 
 const unsigned int CCalendarWnd::CALWND_ONSELCHANGE =
@@ -74,9 +75,22 @@ CCalendarWnd::CCalendarWnd()
       m_pNextMonthButton(new (std::nothrow) CZEBButton), m_pPrevYearButton(new (std::nothrow) CZEBButton),
       m_pNextYearButton(new (std::nothrow) CZEBButton), m_pTodayButton(new (std::nothrow) CZEBButton),
       m_pClearButton(new (std::nothrow) CZEBButton), m_pOptionsButton(new (std::nothrow) CDownArrowButton),
-      m_vDayColors(MonthBlock::kCells, RGB(255, 255, 255)), m_vDayDescs(MonthBlock::kCells)
+      m_vDayColors(MonthBlock::kCells), m_vDayDescs(MonthBlock::kCells)
 {
+    StandOnToday();
+}
+
+void CCalendarWnd::StandOnToday()
+{
+    m_bHaveDate = false;
+    m_nFirstDayColumn = m_nTodayCell = -1;
+    m_nNextToolId = 0;
     m_date.SetToCurrent();
+    for (CRect* const pRect : {&m_rcGrid, &m_rcSelection, &m_rcToday})
+        pRect->SetRectEmpty();
+    m_vRowEdges.clear();
+    m_vColumnEdges.clear();
+    ClearCells();
 }
 
 CCalendarWnd::~CCalendarWnd()
@@ -85,6 +99,7 @@ CCalendarWnd::~CCalendarWnd()
         delete pButton;
         pButton = nullptr;
     };
+    DestroyWindow(); // before a part is gone that its messages reach
     m_fontGrid.DeleteObject();
     release(m_pMonthYearButton);
     release(m_pPrevMonthButton);

@@ -15,9 +15,11 @@
 #include <DateTime.h>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class CDownArrowButton;
+class CWndWatch;
 class CZEBButton;
 
 namespace MonthBlock {
@@ -62,7 +64,8 @@ public:
     //   bAllowWebPage     offer the web page in the options
     //   bAllowDateRanges  offer the seventeen date ranges in the options
     // False, with a line in the log, if the window could not be created or exists already. A button that
-    // could not be created is logged and left out. Throws what CalendarSettings::Load throws.
+    // could not be created is logged and left out. False as well if the host deleted the control meanwhile.
+    // Throws what CalendarSettings::Load throws.
     bool Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CWnd* pParent, bool bAllowNoDate,
                 bool bShowOptions, bool bAllowWebPage, bool bAllowDateRanges);
 
@@ -124,6 +127,7 @@ protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // Creation.
+    void StandOnToday(); // as a new object does: no date selected, nothing laid out or painted
     std::array<CZEBButton*, 8> GetButtons() const; // in the order of their creation
     bool HasAllButtons() const;
     void CreateToolTip();
@@ -133,6 +137,7 @@ protected:
     // Layout of the client area, and the tables of what is special about the 42 days of the block.
     void CalculateDayLocations();
     void DetermineSpecialDays();
+    void ClearCells();
     void LookUpDay(const DateTime& date, std::size_t nCell);
 
     // Painting. `rcCell` is the text rectangle of a cell.
@@ -159,6 +164,8 @@ protected:
     void RefreshMonth();
     void UpdateMonthYearText();
     void InvalidateGrid();
+    bool EraseSelectionFrame();
+    void NotifyIfDate() const; // CALWND_ONSELCHANGE, if a date is selected
     void NotifyParentWnd(UINT nMessage, bool bFlag) const;
     void NotifyParentWndDateRange(const DateTime& dtEnd) const;
     void SendToParent(UINT nMessage, LPARAM lParam) const;
@@ -168,8 +175,10 @@ protected:
     bool MoveFocus(bool bBackward);
     void MoveSelection(void (DateTime::*pStep)(int), int nCount);
     void SelectInMonth(void (DateTime::*pSet)());
+    void SelectAt(const CPoint& point);
     void SelectShownDay(int nDay, const MonthBlock::Place& place);
     void SelectNeighbourDay(int nOffset, int nDays);
+    void RedrawSelection();
     void InvalidateSelection();
 
     // The tip of a step button: the month and year that a press leads to.
@@ -252,6 +261,7 @@ protected:
     DateTime m_date;                 // its month is shown; it is the selected date if m_bHaveDate
     CalendarSettings m_settings;     // the special dates
     CWnd* m_pParent = nullptr;       // hears the messages; not owned
+    std::unique_ptr<CWndWatch> m_pParentWatch; // of m_pParent, as Create was given it
 
     // The buttons, which the control owns. The title is a disabled one.
     CZEBButton* m_pMonthYearButton;

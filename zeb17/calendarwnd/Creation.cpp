@@ -8,6 +8,7 @@
 #include <BkgStyle.h>
 #include <GraphicsUtils.h>
 #include <StringUtils.h>
+#include <WndWatch.h>
 
 #include <algorithm>
 
@@ -44,7 +45,11 @@ void CreateButton(const ButtonSetUp& setUp, CWnd* pParent)
 {
     CZEBButton& button = *setUp.pButton;
     const CString strCaption = setUp.pCaption ? StringUtils::DecryptText(*setUp.pCaption) : CString();
-    if (!button.Create(strCaption, kChildStyle, CRect(0, 0, 10, 10), pParent, setUp.nID)) {
+    const CWndWatch watch(button);
+    const BOOL bCreated = button.Create(strCaption, kChildStyle, CRect(0, 0, 10, 10), pParent, setUp.nID);
+    if (!watch.IsAlive())
+        return;
+    if (!bCreated) {
         LogLine(setUp.pFailureMark);
         return;
     }
@@ -72,12 +77,14 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
         return false;
     }
 
+    StandOnToday(); // nothing is left of an earlier window
     m_bUseSpecialDates = bUseSpecialDates;
     m_bAllowNoDate = bAllowNoDate;
     m_bShowOptions = bShowOptions;
     m_bAllowWebPage = bAllowWebPage;
     m_bAllowDateRanges = bAllowDateRanges;
     m_pParent = pParent;
+    m_pParentWatch = pParent ? std::make_unique<CWndWatch>(*pParent) : nullptr;
     if (bUseSpecialDates)
         m_settings.Load();
 
@@ -91,16 +98,16 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
         LogLine("{D110EEBF-8B1E-462E-9AE9-2E70E72F2BDC}");
         return false;
     }
-    EnableToolTips(TRUE); // the toolkit's own tip serves the step buttons, m_toolTip the days
-    if (m_bUseSpecialDates)
-        CreateToolTip();
-    CreateButtons();
-    CreateGridFont();
-    ApplyBkgShading();
-    OnSize(0, rect.right - rect.left, rect.bottom - rect.top);
-    RefreshMonth();
-    NotifyParentWnd(CALWND_ONNODATE, false);
-    return true;
+    // The host hears of each child, and may delete the control then.
+    return WhileAlive(
+        *this, [&] { EnableToolTips(TRUE); }, // of the toolkit, for the step buttons
+        [&] {
+            if (m_bUseSpecialDates)
+                CreateToolTip();
+        },
+        [&] { CreateButtons(); }, [&] { CreateGridFont(); }, [&] { ApplyBkgShading(); },
+        [&] { OnSize(0, rect.Width(), rect.Height()); }, [&] { RefreshMonth(); },
+        [&] { NotifyParentWnd(CALWND_ONNODATE, false); });
 }
 
 std::array<CZEBButton*, 8> CCalendarWnd::GetButtons() const
@@ -147,8 +154,10 @@ void CCalendarWnd::CreateButtons()
         {m_pMonthYearButton, MonthYearButtonId, nullptr, kTitleFont, ZEBIcon::IconNone, false,
          "{637363C1-6A35-450D-9CBF-A0D5BA7CDE3B}"},
     };
+    const CWndWatch watch(*this);
     for (const ButtonSetUp& setUp : setUps)
-        CreateButton(setUp, this);
+        if (watch.IsAlive())
+            CreateButton(setUp, this);
 }
 
 void CCalendarWnd::CreateGridFont()

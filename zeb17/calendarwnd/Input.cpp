@@ -5,6 +5,7 @@
 #include "MonthBlock.h"
 
 #include <Keyboard.h>
+#include <WndWatch.h>
 
 #include <algorithm>
 
@@ -26,8 +27,12 @@ bool IsLive(const CWnd* pWnd)
 
 void CCalendarWnd::OnLButtonDown(UINT, CPoint point)
 {
-    Default();
-    SetFocus();
+    WhileAlive(
+        *this, [&] { Default(); }, [&] { SetFocus(); }, [&] { SelectAt(point); });
+}
+
+void CCalendarWnd::SelectAt(const CPoint& point)
+{
     if (m_nFirstDayColumn == -1) // not painted yet
         return;
     const auto place = MonthBlock::PlaceAt(m_vRowEdges, m_vColumnEdges, point.x, point.y);
@@ -47,9 +52,9 @@ void CCalendarWnd::SelectShownDay(int nDay, const MonthBlock::Place& place)
         return;
     m_bHaveDate = true;
     m_date.SetDate(m_date.GetYear(), m_date.GetMonth(), nDay);
-    NotifyParentWnd(CALWND_ONSELCHANGE, false);
-    MoveSelectionRect(GetCellRect(place));
-    AnnounceSelection();
+    WhileAlive(
+        *this, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); },
+        [&] { MoveSelectionRect(GetCellRect(place)); }, [&] { AnnounceSelection(); });
 }
 
 // nOffset is the number of days from day 1 of the month shown, which has nDays days.
@@ -60,16 +65,19 @@ void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
     DateTime date;
     date.Set(m_date.GetYear(), m_date.GetMonth(), nStartDay, 0, 0, 0);
     date.AddDays(nOffset + 1 - nStartDay);
-    ShowDate(date);
-    AnnounceSelection();
-    NotifyParentWnd(CALWND_ONSELCHANGE, false);
+    WhileAlive(
+        *this, [&] { ShowDate(date); }, [&] { AnnounceSelection(); },
+        [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); });
 }
 
 // Sees the keys before the control and its buttons see them. Only a Tab that moved the focus goes no further.
 BOOL CCalendarWnd::PreTranslateMessage(MSG* pMsg)
 {
+    const CWndWatch watch(*this);
     if (pMsg && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
         return TRUE;
+    if (!watch.IsAlive()) // the key goes on without us
+        return FALSE;
     if (m_bUseSpecialDates)
         m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(pMsg));
     return CWnd::PreTranslateMessage(pMsg);
@@ -145,10 +153,13 @@ bool CCalendarWnd::MoveFocus(bool bBackward)
     do
         pStop += bBackward ? -1 : 1;
     while (!pStop->bPresent);
-    pStop->pWnd->SetFocus();
-    if (bRedrawsFrame &&
-        m_bHaveDate) // asked now, since the host may have changed the date when it got the focus
-        MoveSelectionRect(CRect());
+    WhileAlive(
+        *this, [&] { pStop->pWnd->SetFocus(); },
+        [&] {
+            // Asked now, since the host may have changed the date when it got the focus.
+            if (bRedrawsFrame && m_bHaveDate)
+                MoveSelectionRect(CRect());
+        });
     return true;
 }
 
@@ -156,9 +167,9 @@ void CCalendarWnd::SelectInMonth(void (DateTime::*pSet)())
 {
     m_bHaveDate = true;
     (m_date.*pSet)();
-    NotifyParentWnd(CALWND_ONSELCHANGE, true);
-    MoveSelectionRect(CRect());
-    AnnounceSelection();
+    WhileAlive(
+        *this, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); }, [&] { MoveSelectionRect(CRect()); },
+        [&] { AnnounceSelection(); });
 }
 
 // A step that leads out of the range of dates leaves the date as it is.
@@ -167,22 +178,25 @@ void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
     m_bHaveDate = true;
     DateTime date = m_date;
     (date.*pStep)(nCount);
-    if (ApplyNewDate(date)) {
-        RefreshMonth();
-        InvalidateGrid();
-    } else
-        MoveSelectionRect(CRect());
-    AnnounceSelection();
-    NotifyParentWnd(CALWND_ONSELCHANGE, true);
+    const auto showMonth = [&] {
+        WhileAlive(
+            *this, [&] { RefreshMonth(); }, [&] { InvalidateGrid(); });
+    };
+    WhileAlive(
+        *this, [&] { ApplyNewDate(date) ? showMonth() : MoveSelectionRect(CRect()); },
+        [&] { AnnounceSelection(); }, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); });
 }
 
 void CCalendarWnd::OnKeyDown(UINT nChar, UINT, UINT)
 {
-    Default();
-    if (nChar == VK_RETURN)
-        NotifyParentWnd(CALWND_ENTERKEY, false);
-    else if (nChar == VK_ESCAPE)
-        NotifyParentWnd(CALWND_ESCKEY, false);
+    WhileAlive(
+        *this, [&] { Default(); },
+        [&] {
+            if (nChar == VK_RETURN)
+                NotifyParentWnd(CALWND_ENTERKEY, false);
+            else if (nChar == VK_ESCAPE)
+                NotifyParentWnd(CALWND_ESCKEY, false);
+        });
 }
 
 // Each message is one month, however far the wheel was turned. Turning it away from the user goes back in
@@ -206,9 +220,17 @@ BOOL CCalendarWnd::OnSetCursor(CWnd*, UINT, UINT)
 
 void CCalendarWnd::OnSetFocus(CWnd* pOldWnd)
 {
-    CWnd::OnSetFocus(pOldWnd);
-    if (m_bHaveDate)
-        AnnounceSelection();
+    WhileAlive(
+        *this, [&] { CWnd::OnSetFocus(pOldWnd); },
+        [&] {
+            if (m_bHaveDate)
+                AnnounceSelection();
+        },
+        [&] { RedrawSelection(); });
+}
+
+void CCalendarWnd::RedrawSelection()
+{
     if (m_rcSelection.IsRectEmpty())
         return;
     InvalidateSelection();

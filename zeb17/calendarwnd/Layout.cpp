@@ -14,6 +14,7 @@ constexpr int kHeadingHeight = 23;
 constexpr int kFooterHeight = 25;
 constexpr int kStepButtonWidth = 25;
 constexpr int kDayNamesHeight = 19;
+constexpr int kLongestSide = 1 << 24; // far beyond any window; leaves room to calculate
 constexpr COLORREF kNoColor = RGB(255, 255, 255);
 
 struct ButtonPlace
@@ -44,6 +45,8 @@ void CCalendarWnd::OnSize(UINT, int cx, int cy)
     if (!::IsWindow(m_pMonthYearButton->GetSafeHwnd())) // the window is being created, and has no buttons yet
         return;
 
+    cx = std::clamp(cx, -kLongestSide, kLongestSide);
+    cy = std::clamp(cy, -kLongestSide, kLongestSide);
     constexpr int w = kStepButtonWidth;
     constexpr int h = kHeadingHeight;
     const ButtonPlace heading[] = {
@@ -86,8 +89,7 @@ CRect CCalendarWnd::GetCellRect(const MonthBlock::Place& place) const
 void CCalendarWnd::DetermineSpecialDays()
 {
     m_nTodayCell = -1;
-    std::ranges::fill(m_vDayColors, kNoColor);
-    std::ranges::fill(m_vDayDescs, CString());
+    ClearCells();
     if (!m_date.IsValid())
         return;
 
@@ -103,6 +105,12 @@ void CCalendarWnd::DetermineSpecialDays()
         if (!m_bUseSpecialDates)
             return;
     }
+}
+
+void CCalendarWnd::ClearCells()
+{
+    std::ranges::fill(m_vDayColors, kNoColor);
+    std::ranges::fill(m_vDayDescs, CString());
 }
 
 void CCalendarWnd::LookUpDay(const DateTime& date, std::size_t nCell)

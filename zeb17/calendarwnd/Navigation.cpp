@@ -7,6 +7,7 @@
 #include <LocaleUtils.h>
 #include <NumberTextConv.h>
 #include <StringUtils.h>
+#include <WndWatch.h>
 
 namespace {
 
@@ -45,10 +46,9 @@ YearAndMonth ParseMonth(const CString& strText)
 void CCalendarWnd::SetDate(const DateTime& date)
 {
     m_bHaveDate = date.IsValid();
-    ShowDate(m_bHaveDate ? date : Now());
-    AnnounceSelection();
-    if (m_bHaveDate)
-        NotifyParentWnd(CALWND_ONSELCHANGE, true);
+    WhileAlive(
+        *this, [&] { ShowDate(m_bHaveDate ? date : Now()); }, [&] { AnnounceSelection(); },
+        [&] { NotifyIfDate(); });
 }
 
 bool CCalendarWnd::ApplyNewDate(const DateTime& date)
@@ -64,9 +64,13 @@ bool CCalendarWnd::ApplyNewDate(const DateTime& date)
 
 void CCalendarWnd::ShowDate(const DateTime& date)
 {
-    if (ApplyNewDate(date))
-        RefreshMonth();
-    InvalidateGrid();
+    WhileAlive(
+        *this,
+        [&] {
+            if (ApplyNewDate(date))
+                RefreshMonth();
+        },
+        [&] { InvalidateGrid(); });
 }
 
 void CCalendarWnd::SetValidDate()
@@ -84,10 +88,13 @@ void CCalendarWnd::SetValidDate()
 
 void CCalendarWnd::StepDate(void (DateTime::*pStep)(int), int nCount)
 {
-    if (!m_date.IsValid())
-        SetValidDate();
-    (m_date.*pStep)(nCount);
-    NotifyAndRefresh();
+    WhileAlive(
+        *this,
+        [&] {
+            if (!m_date.IsValid())
+                SetValidDate();
+        },
+        [&] { (m_date.*pStep)(nCount); }, [&] { NotifyAndRefresh(); });
 }
 
 void CCalendarWnd::OnPreviousYearButton()
@@ -113,21 +120,22 @@ void CCalendarWnd::OnNextMonthButton()
 // The parent is told of the new date while the title and the special days are still those of the old month.
 void CCalendarWnd::NotifyAndRefresh()
 {
-    if (m_bHaveDate)
-        NotifyParentWnd(CALWND_ONSELCHANGE, true);
-    RefreshMonth();
-    InvalidateGrid();
-    AnnounceSelection();
+    WhileAlive(
+        *this, [&] { NotifyIfDate(); }, [&] { RefreshMonth(); }, [&] { InvalidateGrid(); },
+        [&] { AnnounceSelection(); });
 }
 
 void CCalendarWnd::OnTodayButton()
 {
     m_bHaveDate = true;
-    if (!m_date.IsToday())
-        ShowDate(Now());
-    AnnounceSelection();
-    SetFocus();
-    NotifyParentWnd(CALWND_ONSELCHANGE, true);
+    WhileAlive(
+        *this,
+        [&] {
+            if (!m_date.IsToday())
+                ShowDate(Now());
+        },
+        [&] { AnnounceSelection(); }, [&] { SetFocus(); },
+        [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); });
 }
 
 // Draws over the frame instead of painting anew. The date itself stays.
@@ -136,17 +144,27 @@ void CCalendarWnd::OnClearButton()
     if (!m_bAllowNoDate)
         return;
     m_bHaveDate = false;
-    AnnounceSelection();
+    WhileAlive(
+        *this, [&] { AnnounceSelection(); },
+        [&] {
+            if (EraseSelectionFrame())
+                NotifyParentWnd(CALWND_ONNODATE, false);
+        });
+}
+
+// False where there is no frame, or nothing to draw on.
+bool CCalendarWnd::EraseSelectionFrame()
+{
     if (m_rcSelection.IsRectEmpty())
-        return;
+        return false;
     try {
         CClientDC dc(this);
         DrawSelectionFrame(&dc, kErasedFrameColor);
     } catch (CResourceException* pException) {
         pException->Delete();
-        return;
+        return false;
     }
-    NotifyParentWnd(CALWND_ONNODATE, false);
+    return true;
 }
 
 void CCalendarWnd::ReloadSpecialDates()
@@ -161,9 +179,8 @@ void CCalendarWnd::ReloadSpecialDates()
 
 void CCalendarWnd::RefreshMonth()
 {
-    UpdateMonthYearText();
-    DetermineSpecialDays();
-    AnnounceMonth();
+    WhileAlive(
+        *this, [&] { UpdateMonthYearText(); }, [&] { DetermineSpecialDays(); }, [&] { AnnounceMonth(); });
 }
 
 void CCalendarWnd::UpdateMonthYearText()
@@ -185,6 +202,12 @@ void CCalendarWnd::InvalidateGrid()
     InvalidateRect(&m_rcGrid, TRUE);
 }
 
+void CCalendarWnd::NotifyIfDate() const
+{
+    if (m_bHaveDate)
+        NotifyParentWnd(CALWND_ONSELCHANGE, true);
+}
+
 void CCalendarWnd::NotifyParentWnd(UINT nMessage, bool bFlag) const
 {
     SendToParent(nMessage, bFlag ? 1 : 0);
@@ -197,7 +220,8 @@ void CCalendarWnd::NotifyParentWndDateRange(const DateTime& dtEnd) const
 
 void CCalendarWnd::SendToParent(UINT nMessage, LPARAM lParam) const
 {
-    if (!m_pParent || !::IsWindow(m_pParent->GetSafeHwnd()))
+    const bool bParentEnded = m_pParentWatch && !m_pParentWatch->IsAlive();
+    if (!m_pParent || bParentEnded || !::IsWindow(m_pParent->GetSafeHwnd()))
         return;
     ::SendMessageA(m_pParent->GetSafeHwnd(), nMessage, static_cast<WPARAM>(GetDlgCtrlID()), lParam);
 }

@@ -8,6 +8,7 @@
 #include <ClipboardUtils.h>
 #include <ImageMenu.h>
 #include <SystemUtils.h>
+#include <WndWatch.h>
 
 #include <memory>
 
@@ -149,8 +150,9 @@ void CCalendarWnd::ShowDateRange(RangeBase base, RangeUnit unit, int nCount)
     if (unit == RangeUnit::Quarter && !date.IsValid())
         return;
     const DateTime start = GetRangeStart(date, unit, nCount);
-    SetDate(start);
-    NotifyParentWndDateRange(unit == RangeUnit::Weeks ? date : GetRangeEnd(start, unit));
+    WhileAlive(
+        *this, [&] { SetDate(start); },
+        [&] { NotifyParentWndDateRange(unit == RangeUnit::Weeks ? date : GetRangeEnd(start, unit)); });
 }
 
 // A month that lacks the day of the date does no harm here: SetMonth and SetYear then give its last day, and
