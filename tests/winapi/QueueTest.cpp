@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+#include <vector>
+
 namespace {
 
 // Registered while the program loads.
@@ -44,6 +47,36 @@ TEST_F(Queue, PostedMessagesComeInOrderBeforePaintsAndTimers)
     EXPECT_FALSE(KillTimer(top, 9));
     Sleep(30);
     EXPECT_EQ(recorder.served(), "");
+}
+
+// The one call that other threads may make. A loop that waits is woken; a window that is gone is noticed.
+TEST_F(Queue, AnyThreadMayPost)
+{
+    constexpr WPARAM kThreads = 4;
+    constexpr LPARAM kMessages = 500;
+    recorder.only({"TIMER"});
+    std::vector<std::thread> threads;
+    for (WPARAM thread = 0; thread < kThreads; ++thread)
+        threads.emplace_back([=, window = top] {
+            for (LPARAM number = 0; number < kMessages; ++number)
+                PostMessageA(window, WM_USER, thread, number);
+        });
+    std::vector<LPARAM> next(kThreads);
+    for (LPARAM taken = 0; taken < static_cast<LPARAM>(kThreads) * kMessages;) {
+        MSG message;
+        GetMessageA(&message, nullptr, 0, 0);
+        if (message.message == WM_USER) {
+            ASSERT_EQ(message.lParam, next.at(message.wParam)++) << "each thread's in their order";
+            ++taken;
+        }
+        DispatchMessageA(&message);
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    DestroyWindow(top);
+    BOOL posted = TRUE;
+    std::thread([&posted, window = top] { posted = PostMessageA(window, WM_USER, 0, 0); }).join();
+    EXPECT_FALSE(posted);
 }
 
 TEST_F(Queue, QuitComesLastAndOnce)
