@@ -1,6 +1,8 @@
 // Whether the object of a window is still there after a call that may have ended it.
 #include "WndWatch.h"
 
+#include <utility>
+
 CWndWatch::CWndWatch(const CWnd& wnd) : m_pWnd(&wnd), m_pNext(std::exchange(wnd.m_pWatches, this)) {}
 
 // As a rule this watch is the first of the list, the one made last.
