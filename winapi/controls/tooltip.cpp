@@ -64,9 +64,18 @@ ToolTip::ToolTip(HWND window) : m_window(window)
 {
     m_showTimer.setSingleShot(true);
     m_popTimer.setSingleShot(true);
-    QObject::connect(&m_showTimer, &QTimer::timeout, &m_showTimer, [this] { show(); });
-    QObject::connect(&m_popTimer, &QTimer::timeout, &m_popTimer, [this] { pop(); });
-    QObject::connect(&m_leaveTimer, &QTimer::timeout, &m_leaveTimer, [this] { checkPointer(); });
+    QObject::connect(&m_showTimer, &QTimer::timeout, &m_showTimer, [this] {
+        const EndedWindowsKept kept;
+        show();
+    });
+    QObject::connect(&m_popTimer, &QTimer::timeout, &m_popTimer, [this] {
+        const EndedWindowsKept kept;
+        pop();
+    });
+    QObject::connect(&m_leaveTimer, &QTimer::timeout, &m_leaveTimer, [this] {
+        const EndedWindowsKept kept;
+        checkPointer();
+    });
 }
 
 LRESULT ToolTip::handle(UINT message, WPARAM wParam, LPARAM lParam)

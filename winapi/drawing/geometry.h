@@ -5,11 +5,22 @@
 
 #include <QRect>
 
+#include <algorithm>
+
 namespace winapi {
+
+// Places beyond this are taken for this, so that no calculation with them leaves the range of int.
+constexpr int kFarthest = 1 << 24;
+
+constexpr int clampPlace(int place)
+{
+    return std::clamp(place, -kFarthest, kFarthest);
+}
 
 inline QRect toQRect(const RECT& rect)
 {
-    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+    return {QPoint(clampPlace(rect.left), clampPlace(rect.top)),
+            QPoint(clampPlace(rect.right) - 1, clampPlace(rect.bottom) - 1)};
 }
 
 inline RECT toRect(const QRect& rect)

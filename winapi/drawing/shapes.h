@@ -5,7 +5,8 @@
 
 namespace winapi {
 
-// Fills `rect` (context coordinates) with `brush`, as FillRect does; system colours count as brushes (index + 1).
+// Fills `rect` (context coordinates) with `brush`, as FillRect does; system colours count as brushes (index +
+// 1).
 void eraseRect(HDC dc, const RECT& rect, HBRUSH brush);
 
 }

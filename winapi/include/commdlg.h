@@ -113,8 +113,8 @@ struct OPENFILENAMEA
     DWORD lStructSize;
     HWND hwndOwner;
     HINSTANCE hInstance;
-    LPCSTR lpstrFilter; // pairs of a description and patterns parted by semicolons, each ended by a zero byte;
-                        // one more ends the list
+    LPCSTR lpstrFilter; // pairs of a description and patterns parted by semicolons, each ended by a zero
+                        // byte; one more ends the list
     LPSTR lpstrCustomFilter;
     DWORD nMaxCustFilter;
     DWORD nFilterIndex; // in and out, counted from 1

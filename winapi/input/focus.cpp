@@ -94,6 +94,7 @@ bool holds(const Window& window, HWND handle)
 
 bool activate(Window* root, ActivatedBy by)
 {
+    const EndedWindowsKept kept;
     const HWND next = root ? root->handle : nullptr;
     const HWND old = state().active;
     if (old == next)
@@ -107,6 +108,8 @@ bool activate(Window* root, ActivatedBy by)
         deactivate(old, next);
     if (state().active != old)
         return state().active == next;
+    if (root && !isAlive(*root))
+        return false;
     state().active = next;
     if (!root) {
         leaveApplication(old);
@@ -114,6 +117,8 @@ bool activate(Window* root, ActivatedBy by)
     }
     if (by != ActivatedBy::Host && root->host)
         root->host->takeActivation();
+    if (!isAlive(*root))
+        return false;
     if (root->host || root->is(WS_VISIBLE))
         raiseWindow(*root);
     if (!old)
@@ -129,6 +134,7 @@ bool activate(Window* root, ActivatedBy by)
 
 void leaveHidden(Window& window)
 {
+    const EndedWindowsKept kept;
     if (window.isTopLevel()) {
         if (state().active == window.handle)
             activate(successorOf(window), ActivatedBy::Program);
@@ -138,8 +144,17 @@ void leaveHidden(Window& window)
         moveFocus(window.parent->handle);
 }
 
+void forgetFocus(const Window& window)
+{
+    InputState& input = state();
+    for (HWND* const holder : {&input.focus, &input.active, &input.capture})
+        if (*holder == window.handle)
+            *holder = nullptr;
+}
+
 void leaveDestroyed(Window& window)
 {
+    const EndedWindowsKept kept;
     if (holds(window, state().capture))
         state().capture = nullptr;
     if (window.isTopLevel() || !holds(window, state().focus))
@@ -170,6 +185,7 @@ using namespace winapi;
 
 HWND SetFocus(HWND handle)
 {
+    const EndedWindowsKept kept;
     if (!handle)
         return moveFocus(nullptr);
     const WindowPtr window = findWindow(handle);
@@ -199,6 +215,7 @@ HWND GetActiveWindow()
 
 BOOL EnableWindow(HWND handle, BOOL enable)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window)
         return FALSE;

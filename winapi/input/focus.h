@@ -18,6 +18,8 @@ bool activate(Window* root, ActivatedBy by);
 // Take focus, activation and capture away from a window that is hidden, or destroyed.
 void leaveHidden(Window& window);
 void leaveDestroyed(Window& window);
+// The window is gone, and no message can be sent any more.
+void forgetFocus(const Window& window);
 
 // All mouse input goes to the window that has the capture, wherever the pointer is.
 void setCapture(HWND window);

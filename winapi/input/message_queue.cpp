@@ -11,11 +11,18 @@
 #include <QCursor>
 
 #include <algorithm>
+#include <atomic>
 #include <deque>
+#include <mutex>
 
 namespace winapi {
 
 namespace {
+
+QPoint pointerPlace()
+{
+    return QCoreApplication::instance() ? QCursor::pos() : QPoint();
+}
 
 struct QueuedMessage
 {
@@ -40,6 +47,19 @@ private:
     bool passesWindow(HWND target) const { return !window || target == window || IsChild(window, target); }
 };
 
+// What PostMessage has taken, from any thread.
+struct Inbox
+{
+    std::mutex mutex;
+    std::vector<MSG> messages;
+};
+
+Inbox& inbox()
+{
+    static auto& posted = *new Inbox;
+    return posted;
+}
+
 struct Queue
 {
     std::deque<QueuedMessage> posted;
@@ -47,12 +67,12 @@ struct Queue
     std::optional<int> quit;
     QueuedMessage current{}; // the message taken last
     bool waiting = false;    // a loop of the program has called Qt, and takes the messages itself
-    bool wakePosted = false; // Qt will come back to the queue anyway
+    std::atomic<bool> wakePosted = false; // Qt will come back to the queue anyway
 };
 
 Queue& queue()
 {
-    static Queue messages;
+    static auto& messages = *new Queue;
     return messages;
 }
 
@@ -60,15 +80,39 @@ Queue& queue()
 class Pump : public QObject
 {
 public:
+    // From any thread.
     static void post()
     {
-        static Pump& pump = *new Pump; // outlives every loop
+        static Pump& pump = make();
         QCoreApplication::postEvent(&pump, new QEvent(QEvent::User));
     }
 
 protected:
     bool event(QEvent* event) override;
+
+private:
+    static Pump& make()
+    {
+        auto& pump = *new Pump; // outlives every loop
+        pump.moveToThread(QCoreApplication::instance()->thread());
+        return pump;
+    }
 };
+
+// Only this thread may ask where the pointer is.
+void emptyInbox()
+{
+    std::vector<MSG> messages;
+    {
+        const std::lock_guard lock(inbox().mutex);
+        messages.swap(inbox().messages);
+    }
+    for (const MSG& message : messages) {
+        const QPoint place = pointerPlace();
+        queue().posted.push_back({message, {}});
+        queue().posted.back().message.pt = {place.x(), place.y()};
+    }
+}
 
 std::optional<MSG> toMessage(const Input& input, QString& characters)
 {
@@ -79,8 +123,15 @@ std::optional<MSG> toMessage(const Input& input, QString& characters)
     return toMessage(std::get<MouseInput>(input));
 }
 
+bool isPostedEmpty()
+{
+    emptyInbox();
+    return queue().posted.empty();
+}
+
 std::optional<MSG> takePosted(const Filter& filter)
 {
+    emptyInbox();
     auto& posted = queue().posted;
     const auto found = std::find_if(posted.begin(), posted.end(), [&](const QueuedMessage& queued) {
         return filter.passes(queued.message);
@@ -162,8 +213,10 @@ void runQt(QEventLoop::ProcessEventsFlags flags)
     application();
     const bool before = std::exchange(queue().waiting, true);
     QCoreApplication::processEvents(flags);
-    // Outside of a loop of Qt, processEvents leaves these events waiting.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // Outside of a loop of Qt, processEvents leaves these events waiting. Inside of a handler they have to
+    // wait: the widget to be deleted may be the one whose event has led there.
+    if (!EndedWindowsKept::any())
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     queue().waiting = before;
 }
 
@@ -183,7 +236,7 @@ std::optional<MSG> takeNext(const Filter& filter)
 std::optional<MSG> takeNextInsideQt()
 {
     const Filter all;
-    if (queue().posted.empty() && queue().quit)
+    if (isPostedEmpty() && queue().quit)
         return std::nullopt;
     if (auto message = takeWaiting(all))
         return message;
@@ -226,10 +279,8 @@ bool Pump::event(QEvent* event)
 
 void wakeQueue()
 {
-    if (queue().wakePosted || !QCoreApplication::instance())
-        return;
-    queue().wakePosted = true;
-    Pump::post();
+    if (QCoreApplication::instance() && !queue().wakePosted.exchange(true))
+        Pump::post();
 }
 
 void postInput(Input input)
@@ -247,12 +298,13 @@ void postInput(Input input)
 
 MSG makeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const QPoint place = QCoreApplication::instance() ? QCursor::pos() : QPoint();
+    const QPoint place = pointerPlace();
     return {window, message, wParam, lParam, GetTickCount(), {place.x(), place.y()}};
 }
 
 void discardMessagesOf(const Window& window)
 {
+    emptyInbox();
     std::erase_if(queue().posted,
                   [&](const QueuedMessage& queued) { return queued.message.hwnd == window.handle; });
 }
@@ -263,9 +315,14 @@ using namespace winapi;
 
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (window && !findWindow(window))
+    if (window && !existsForAnyThread(window)) {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
         return FALSE;
-    queue().posted.push_back({makeMessage(window, message, wParam, lParam), {}});
+    }
+    {
+        const std::lock_guard lock(inbox().mutex);
+        inbox().messages.push_back({window, message, wParam, lParam, GetTickCount(), {}});
+    }
     wakeQueue();
     return TRUE;
 }
@@ -328,6 +385,7 @@ LRESULT DispatchMessageA(const MSG* message)
 
 LRESULT SendMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     return window ? callProcedure(*window, message, wParam, lParam) : 0;
 }

@@ -2,6 +2,8 @@
 #include "application.h"
 #include "errors.h"
 #include "menu.h"
+#include "rooms_above.h"
+#include "window_tree.h"
 #include "winerror.h"
 #include "winuser.h"
 
@@ -38,6 +40,8 @@ public:
         connect(this, &QMenu::hovered, this, &PopupMenu::tellSelection);
         connect(this, &QMenu::aboutToHide, this, &PopupMenu::tellEnd);
     }
+
+    HWND owner() const { return m_showing.owner; }
 
     // The owner may change the items before they are shown.
     void prepare(int positionInParent)
@@ -252,6 +256,13 @@ bool runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
 
 }
 
+}
+
+void winapi::endMenuOf(const Window& window)
+{
+    const WindowPtr owner = shown() ? findWindow(shown()->owner()) : nullptr;
+    if (owner && (owner.get() == &window || isDescendant(window, *owner)))
+        shown()->close();
 }
 
 using namespace winapi;

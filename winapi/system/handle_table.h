@@ -33,6 +33,11 @@ public:
         return found == m_objects.end() ? nullptr : found->second;
     }
 
+    bool contains(const void* handle) const
+    {
+        return m_objects.contains(reinterpret_cast<ULONG_PTR>(handle));
+    }
+
     std::shared_ptr<Object> remove(const void* handle)
     {
         const auto node = m_objects.extract(reinterpret_cast<ULONG_PTR>(handle));

@@ -91,7 +91,10 @@ void HostWidget::follow(bool mayActivate)
         setWindowState(stateOf(*window) | (windowState() & Qt::WindowActive));
         setAttribute(Qt::WA_ShowWithoutActivating, !mayActivate);
     }
+    const QPointer<HostWidget> self(this);
     setVisible(window->is(WS_VISIBLE));
+    if (!self)
+        return;
     m_following = false;
     takePlace();
 }
@@ -106,20 +109,14 @@ void HostWidget::takeActivation()
 void HostWidget::abandon()
 {
     m_handle = nullptr;
-    if (m_eventDepth == 0) {
-        delete this;
-        return;
-    }
     hide();
     deleteLater();
 }
 
 bool HostWidget::event(QEvent* event)
 {
-    ++m_eventDepth;
-    const bool done = QWidget::event(event);
-    --m_eventDepth;
-    return done;
+    const EndedWindowsKept kept;
+    return QWidget::event(event);
 }
 
 // The surface keeps all pixels, so nothing needs to be painted again to be shown again.
@@ -146,8 +143,10 @@ void HostWidget::takePlace()
     if (place == window->rect)
         return;
     m_following = true;
+    const QPointer<HostWidget> self(this);
     placeWindow(m_handle, place, SWP_NOZORDER | SWP_NOACTIVATE);
-    m_following = false;
+    if (self)
+        m_following = false;
 }
 
 void HostWidget::resizeEvent(QResizeEvent*)
@@ -200,8 +199,9 @@ void HostWidget::focusInEvent(QFocusEvent* event)
     // After this event Qt announces to screen readers that the widget has the focus. The child window that
     // really has it is announced after that, so that it is the last that a screen reader hears.
     QMetaObject::invokeMethod(this, &HostWidget::tellFocus, Qt::QueuedConnection);
+    const QPointer<HostWidget> self(this);
     activate(window.get(), ActivatedBy::Host);
-    if (isAlive(*window) && isEmbedded() && IsWindow(window->lastFocus))
+    if (self && isAlive(*window) && isEmbedded() && IsWindow(window->lastFocus))
         SetFocus(window->lastFocus);
 }
 

@@ -22,8 +22,8 @@ public:
     void takeActivation();
     // Hands the keyboard to the next, or previous, widget of the application that this widget stands in.
     bool passFocus(bool next) { return QWidget::focusNextPrevChild(next); }
-    // To be called when the window is gone: deletes this widget, at once or after the event that it is
-    // handling.
+    // To be called when the window is gone: hides this widget, and has Qt delete it when no call of ours is
+    // under way.
     void abandon();
 
 protected:
@@ -55,7 +55,6 @@ private:
     void tellFocus();
 
     HWND m_handle;
-    int m_eventDepth = 0;
     qreal m_ratio = 1; // pixels of the screen to one logical pixel
     // The widget is taking its size and place from the window, so Qt's events about them are no news.
     bool m_following = false;

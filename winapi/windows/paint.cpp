@@ -71,6 +71,7 @@ int ReleaseDC(HWND, HDC dc)
 
 HDC BeginPaint(HWND handle, LPPAINTSTRUCT paint)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window || !paint)
         return nullptr;
@@ -105,6 +106,7 @@ QRegion regionOf(const Window& window, const RECT* rect)
 // Sends WM_PAINT to the window and to its children, where something waits to be painted.
 void paintNow(HWND handle)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window || !window->isVisible())
         return;

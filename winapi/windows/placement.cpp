@@ -7,6 +7,27 @@
 #include "update_region.h"
 #include "window_tree.h"
 
+namespace winapi {
+
+namespace {
+
+constexpr int kLeast = -0x8000;
+constexpr int kMost = 0x7FFF;
+
+}
+
+QPoint placeWithin(int x, int y)
+{
+    return {std::clamp(x, kLeast, kMost), std::clamp(y, kLeast, kMost)};
+}
+
+QSize sizeWithin(int width, int height)
+{
+    return {std::clamp(width, 0, kMost), std::clamp(height, 0, kMost)};
+}
+
+}
+
 using namespace winapi;
 
 namespace {
@@ -15,9 +36,9 @@ QRect requestedRect(const Window& window, const WINDOWPOS& pos)
 {
     QRect rect = window.rect;
     if (!(pos.flags & SWP_NOMOVE))
-        rect.moveTopLeft({pos.x, pos.y});
+        rect.moveTopLeft(placeWithin(pos.x, pos.y));
     if (!(pos.flags & SWP_NOSIZE))
-        rect.setSize({std::max(pos.cx, 0), std::max(pos.cy, 0)});
+        rect.setSize(sizeWithin(pos.cx, pos.cy));
     return rect;
 }
 
@@ -101,6 +122,7 @@ void activateAfterPlacing(Window& window, UINT flags)
 
 bool winapi::placeWindow(HWND handle, const QRect& requested, UINT flags)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window || !window->parent)
         return false;
@@ -120,7 +142,8 @@ bool winapi::placeWindow(HWND handle, const QRect& requested, UINT flags)
             return false;
         applyAndRepaint(*window, rect, pos);
     }
-    activateAfterPlacing(*window, pos.flags);
+    if (isAlive(*window))
+        activateAfterPlacing(*window, pos.flags);
     if (nothing || !isAlive(*window))
         return true;
 
@@ -182,6 +205,7 @@ void winapi::tellSizeAndPlace(Window& window)
 
 BOOL ShowWindow(HWND handle, int command)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window || !window->parent)
         return FALSE;

@@ -9,6 +9,10 @@ namespace winapi {
 constexpr UINT kNoClientSize = 0x0800;
 constexpr UINT kNoClientMove = 0x1000;
 
+// Place and size as far as messages can tell them, which is by 16 bits each.
+QPoint placeWithin(int x, int y);
+QSize sizeWithin(int width, int height);
+
 // Places a window in its parent's client area, or on the screen. Some of the flags SWP_ say what stays as it
 // is, others show or hide the window; without SWP_NOZORDER it becomes the topmost among its siblings.
 bool placeWindow(HWND handle, const QRect& rect, UINT flags);

@@ -8,8 +8,13 @@ class QWidget;
 
 namespace winapi {
 
+struct Window;
+
 // `controls`: registers the classes of the system's controls.
 void registerSystemClasses();
+
+// `menus`: closes the menu that is open for the window, or for one below it.
+void endMenuOf(const Window& window);
 
 // `accessibility`: makes Qt show the child windows below the widget of each top-level window. May be called
 // again.

@@ -6,6 +6,8 @@
 #include "window_surface.h"
 #include "window_tree.h"
 
+#include <mutex>
+
 namespace winapi {
 
 Window::Window() = default;
@@ -28,10 +30,27 @@ namespace {
 
 HandleTable<HWND, Window>& windows()
 {
-    // Never destroyed: a program may leave windows behind, and by then the Qt application, which their
-    // widgets need, is gone.
     static auto& table = *new HandleTable<HWND, Window>;
     return table;
+}
+
+// Held for changes of the table, and by other threads for looking into it.
+std::mutex& tableMutex()
+{
+    static auto& mutex = *new std::mutex;
+    return mutex;
+}
+
+struct Ended
+{
+    int calls = 0; // that are under way
+    std::vector<WindowPtr> windows;
+};
+
+Ended& ended()
+{
+    static auto& kept = *new Ended;
+    return kept;
 }
 
 }
@@ -47,18 +66,48 @@ WindowPtr findWindow(HWND handle)
 WindowPtr addWindow()
 {
     auto window = std::make_shared<Window>();
+    const std::lock_guard lock(tableMutex());
     window->handle = windows().add(window);
     return window;
 }
 
 void removeWindow(const Window& window)
 {
-    windows().remove(window.handle);
+    WindowPtr removed;
+    {
+        const std::lock_guard lock(tableMutex());
+        removed = windows().remove(window.handle);
+    }
+    if (ended().calls > 0)
+        ended().windows.push_back(std::move(removed));
 }
 
 bool isAlive(const Window& window)
 {
     return windows().find(window.handle) != nullptr;
+}
+
+bool existsForAnyThread(HWND handle)
+{
+    const std::lock_guard lock(tableMutex());
+    return windows().contains(handle);
+}
+
+EndedWindowsKept::EndedWindowsKept()
+{
+    ++ended().calls;
+}
+
+EndedWindowsKept::~EndedWindowsKept()
+{
+    if (--ended().calls > 0)
+        return;
+    const std::vector<WindowPtr> gone = std::exchange(ended().windows, {});
+}
+
+bool EndedWindowsKept::any()
+{
+    return ended().calls > 0;
 }
 
 LRESULT callProcedure(Window& window, UINT message, WPARAM wParam, LPARAM lParam)

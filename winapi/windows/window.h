@@ -65,6 +65,7 @@ struct Window
 
     QRect rect;               // in the parent's client area, or on the screen
     bool sizeIsNews = false;  // the window is told its size when it is first shown
+    bool ending = false;      // DestroyWindow is at work on it
     bool dying = false;       // DestroyWindow is at work on it
     QRegion update;           // what waits to be painted, in client coordinates
     bool eraseUpdate = false; // and is to be erased before
@@ -87,6 +88,23 @@ WindowPtr findWindow(HWND handle);
 WindowPtr addWindow();
 void removeWindow(const Window& window);
 bool isAlive(const Window& window);
+// The same for any thread.
+bool existsForAnyThread(HWND handle);
+
+// While one of these lives, windows that end keep their memory. Each call that sends messages makes one:
+// whatever the handlers destroy, the call may still look at its windows, and isAlive tells what became of
+// them.
+class EndedWindowsKept
+{
+public:
+    EndedWindowsKept();
+    ~EndedWindowsKept();
+    EndedWindowsKept(const EndedWindowsKept&) = delete;
+    EndedWindowsKept& operator=(const EndedWindowsKept&) = delete;
+
+    // Whether a call that sends messages is under way.
+    static bool any();
+};
 
 LRESULT callProcedure(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 

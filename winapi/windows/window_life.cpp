@@ -25,8 +25,8 @@ QRect initialRect(const CREATESTRUCTA& create)
 {
     const bool place = create.x != CW_USEDEFAULT;
     const bool size = create.cx != CW_USEDEFAULT;
-    return {place ? QPoint(create.x, create.y) : kDefaultPosition,
-            size ? QSize(std::max(create.cx, 0), std::max(create.cy, 0)) : kDefaultSize};
+    return {place ? placeWithin(create.x, create.y) : kDefaultPosition,
+            size ? sizeWithin(create.cx, create.cy) : kDefaultSize};
 }
 
 // The parent of a child, the owner of anything else; false when there is no such window.
@@ -69,6 +69,7 @@ void forget(Window& window)
     discardMessagesOf(window);
     killTimersOf(window);
     forgetMouse(window);
+    forgetFocus(window);
     forgetAccessible(window.handle);
     removeWindow(window);
     destroyHost(window);
@@ -107,6 +108,7 @@ void discard(Window& window)
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,
                      int height, HWND parentHandle, HMENU menuOrId, HINSTANCE instance, LPVOID param)
 {
+    const EndedWindowsKept kept;
     const WindowClassPtr windowClass = findClass(className);
     if (!windowClass) {
         SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
@@ -165,9 +167,10 @@ void sendDestroy(Window& window)
 void remove(Window& window)
 {
     forEachChild(window, remove);
-    const WindowPtr keep = findWindow(window.handle);
     SendMessageA(window.handle, WM_NCDESTROY, 0, 0);
-    forget(window);
+    forEachChild(window, remove); // that a handler has made meanwhile
+    if (isAlive(window))
+        forget(window);
 }
 
 void destroyOwned(HWND owner)
@@ -197,11 +200,18 @@ void hideForGood(Window& window)
 
 BOOL DestroyWindow(HWND handle)
 {
+    const EndedWindowsKept kept;
     const WindowPtr window = findWindow(handle);
     if (!window || window->dying || !window->parent)
         return FALSE;
-    if (callHooks(WH_CBT, HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0))
+    // A handler of what follows may ask for the same again, and is answered that it is done.
+    if (std::exchange(window->ending, true))
+        return TRUE;
+    if (callHooks(WH_CBT, HCBT_DESTROYWND, reinterpret_cast<WPARAM>(handle), 0)) {
+        window->ending = false;
         return FALSE;
+    }
+    endMenuOf(*window);
     tellAncestors(*window, WM_DESTROY);
     if (isAlive(*window))
         hideForGood(*window);

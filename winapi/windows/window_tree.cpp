@@ -131,6 +131,7 @@ Window* topLevelAt(QPoint screen)
 
 WindowPtr hitTest(QPoint screen)
 {
+    const EndedWindowsKept kept;
     Window* const top = topLevelAt(screen);
     return top ? hitTestIn(*top, screen - screenOrigin(*top), screen) : nullptr;
 }
