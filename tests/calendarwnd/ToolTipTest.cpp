@@ -1,5 +1,8 @@
 #include "CalendarFixture.h"
 
+#include <chrono>
+#include <thread>
+
 class ToolTipTest : public CalendarTest
 {
 protected:
@@ -52,13 +55,14 @@ protected:
     // Runs the host's loop until that tip is up, for two seconds at most.
     bool Shows(const std::string& strTip)
     {
-        const ULONGLONG nEnd = ::GetTickCount64() + 2000;
-        while (GetShownTip() != strTip && ::GetTickCount64() < nEnd) {
+        using Clock = std::chrono::steady_clock;
+        const auto end = Clock::now() + std::chrono::seconds(2);
+        while (GetShownTip() != strTip && Clock::now() < end) {
             MSG msg;
             while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
                 if (!CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg))
                     ::DispatchMessageA(&msg);
-            ::Sleep(5);
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
         return GetShownTip() == strTip;
     }

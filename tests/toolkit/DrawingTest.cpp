@@ -18,6 +18,16 @@ TEST(Contexts, SelectObjectGivesTheObjectThatWasSelected)
     dc.SelectObject(original);
 }
 
+// A handle that is released cannot be selected.
+static bool IsAlive(HGDIOBJ handle)
+{
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const HGDIOBJ old = ::SelectObject(dc.m_hDC, handle);
+    ::SelectObject(dc.m_hDC, old);
+    return old != nullptr;
+}
+
 TEST(DrawingObjects, OwnTheirHandle)
 {
     HGDIOBJ handle = nullptr;
@@ -30,17 +40,17 @@ TEST(DrawingObjects, OwnTheirHandle)
         handle = font.m_hObject;
         EXPECT_EQ(CFont::FromHandle(font), &font);
     }
-    EXPECT_EQ(GetObjectType(handle), 0U) << "deleted with its object";
+    EXPECT_FALSE(IsAlive(handle)) << "deleted with its object";
 
     CPen pen(PS_SOLID, 1, 1);
     handle = pen.Detach();
-    EXPECT_EQ(GetObjectType(handle), DWORD(OBJ_PEN)) << "given away and still there";
+    EXPECT_TRUE(IsAlive(handle)) << "given away and still there";
     EXPECT_NE(CPen::FromHandle(static_cast<HPEN>(handle)), &pen);
     CPen owner;
     EXPECT_TRUE(owner.Attach(handle));
     EXPECT_TRUE(owner.DeleteObject());
     EXPECT_FALSE(owner.DeleteObject());
-    EXPECT_EQ(GetObjectType(handle), 0U);
+    EXPECT_FALSE(IsAlive(handle));
 }
 
 namespace {

@@ -19,16 +19,16 @@ protected:
 
     Canvas()
     {
-        m_old = SelectObject(dc, m_bitmap);
+        m_old = SelectObject(dc, bitmap);
         clear();
     }
 
     ~Canvas() override
     {
         SelectObject(dc, m_old);
-        DeleteObject(m_bitmap);
+        DeleteObject(bitmap);
         DeleteDC(dc);
-        DeleteDC(screen);
+        ReleaseDC(nullptr, screen);
         for (const HGDIOBJ object : m_objects)
             DeleteObject(object);
     }
@@ -70,8 +70,9 @@ protected:
         return found;
     }
 
-    HDC screen = CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
+    HDC screen = GetDC(nullptr);
     HDC dc = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height); // what `dc` draws on
 
 private:
     static char letter(COLORREF color)
@@ -90,7 +91,6 @@ private:
         }
     }
 
-    HBITMAP m_bitmap = CreateCompatibleBitmap(screen, width, height);
     HGDIOBJ m_old = nullptr;
     std::vector<HGDIOBJ> m_objects;
 };

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 namespace {
 
 class Input : public testing::Test
@@ -131,7 +134,7 @@ TEST_F(Input, AWindowHearsOnceThatThePointerHasLeft)
         constexpr DWORD kPause = 100;
         std::string heard;
         for (int i = 0; heard.empty() && i < kEnough; ++i) {
-            Sleep(kPause);
+            std::this_thread::sleep_for(std::chrono::milliseconds(kPause));
             heard = recorder.served();
         }
         return heard;

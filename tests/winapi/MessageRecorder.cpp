@@ -2,6 +2,8 @@
 #include "MessageRecorder.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 MessageRecorder* MessageRecorder::s_current = nullptr;
@@ -228,6 +230,6 @@ void serveMessages()
             DispatchMessageA(&message);
             quiet = 0;
         }
-        Sleep(kPause);
+        std::this_thread::sleep_for(std::chrono::milliseconds(kPause));
     }
 }

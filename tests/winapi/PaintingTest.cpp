@@ -13,7 +13,7 @@ void fill(HWND window, COLORREF color)
 {
     RECT rect{};
     GetClientRect(window, &rect);
-    InflateRect(&rect, 50, 50);
+    rect = {rect.left - 50, rect.top - 50, rect.right + 50, rect.bottom + 50};
     const HDC dc = GetDC(window);
     const HBRUSH brush = CreateSolidBrush(color);
     FillRect(dc, &rect, brush);

@@ -1,9 +1,15 @@
 // Print jobs to a file, on the printer that every Linux has.
 #include "TemporaryDirectory.h"
+#include "printing.h"
 
 #include <gtest/gtest.h>
 
 namespace {
+
+constexpr short kLetter = 1; // sizes of paper
+constexpr short kExecutive = 7;
+constexpr short kA4 = 9;
+constexpr char kPrinter[] = "Print to File (PDF)";
 
 HDC openPrinter(short paper, short orientation, short dpi)
 {
@@ -13,7 +19,7 @@ HDC openPrinter(short paper, short orientation, short dpi)
     mode.dmPaperSize = paper;
     mode.dmOrientation = orientation;
     mode.dmPrintQuality = dpi;
-    return CreateDCA("WINSPOOL", "Print to File (PDF)", nullptr, &mode);
+    return winapi::createPrinterContext(kPrinter, nullptr, &mode);
 }
 
 int start(HDC dc, const std::string& path)
@@ -37,10 +43,10 @@ TEST(PrintingTest, ThePageIsAsThePaperAndTheResolution)
         double width; // inches
         double height;
     };
-    for (const Page& page : {Page{DMPAPER_A4, DMORIENT_PORTRAIT, 300, 8.27, 11.69},
-                             Page{7 /* Executive */, DMORIENT_PORTRAIT, 600, 7.25, 10.5},
-                             Page{DMPAPER_A4, DMORIENT_LANDSCAPE, 1200, 11.69, 8.27},
-                             Page{DMPAPER_LETTER, DMORIENT_LANDSCAPE, 300, 11, 8.5}}) {
+    for (const Page& page : {Page{kA4, DMORIENT_PORTRAIT, 300, 8.27, 11.69},
+                             Page{kExecutive, DMORIENT_PORTRAIT, 600, 7.25, 10.5},
+                             Page{kA4, DMORIENT_LANDSCAPE, 1200, 11.69, 8.27},
+                             Page{kLetter, DMORIENT_LANDSCAPE, 300, 11, 8.5}}) {
         const HDC dc = openPrinter(page.paper, page.orientation, page.dpi);
         EXPECT_EQ(page.dpi, GetDeviceCaps(dc, LOGPIXELSX));
         EXPECT_NEAR(page.width * page.dpi, GetDeviceCaps(dc, PHYSICALWIDTH), 0.02 * page.dpi);
@@ -54,7 +60,7 @@ TEST(PrintingTest, ThePageIsAsThePaperAndTheResolution)
 TEST(PrintingTest, AJobBecomesAFileOfItsPagesUnlessItIsAborted)
 {
     const TemporaryDirectory folder;
-    const HDC dc = openPrinter(DMPAPER_A4, DMORIENT_PORTRAIT, 600);
+    const HDC dc = openPrinter(kA4, DMORIENT_PORTRAIT, 600);
     for (const auto end : {EndDoc, AbortDoc}) {
         ASSERT_GT(start(dc, folder.PathOf("job.pdf")), 0);
         for (int page = 0; page < 2; ++page) {
@@ -73,7 +79,7 @@ TEST(PrintingTest, AJobBecomesAFileOfItsPagesUnlessItIsAborted)
 
 TEST(PrintingTest, WhatGoesWrongIsTold)
 {
-    const HDC dc = openPrinter(DMPAPER_A4, DMORIENT_PORTRAIT, 600);
+    const HDC dc = openPrinter(kA4, DMORIENT_PORTRAIT, 600);
     EXPECT_LE(StartPage(dc), 0);
     EXPECT_LE(EndDoc(dc), 0);
     EXPECT_LE(start(dc, "/no/such/folder/job.pdf"), 0);
@@ -83,5 +89,5 @@ TEST(PrintingTest, WhatGoesWrongIsTold)
     EndPage(dc);
     EXPECT_LE(EndDoc(dc), 0);
     DeleteDC(dc);
-    EXPECT_EQ(nullptr, CreateDCA("WINSPOOL", "no such printer", nullptr, nullptr));
+    EXPECT_EQ(nullptr, winapi::createPrinterContext("no such printer", nullptr, nullptr));
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <thread>
 #include <vector>
 
@@ -34,7 +35,7 @@ TEST_F(Queue, PostedMessagesComeInOrderBeforePaintsAndTimers)
     recorder.only({"USER", "PAINT", "TIMER"});
     SetTimer(top, 9, 10, nullptr);
     InvalidateRect(top, nullptr, FALSE);
-    Sleep(30);
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
     PostMessageA(top, WM_USER, 1, 0);
     PostMessageA(top, WM_USER, 2, 0);
     MSG message;
@@ -45,7 +46,7 @@ TEST_F(Queue, PostedMessagesComeInOrderBeforePaintsAndTimers)
     EXPECT_EQ(recorder.take(), "t.USER(1) t.USER(2) t.PAINT t.TIMER(9)");
     EXPECT_TRUE(KillTimer(top, 9));
     EXPECT_FALSE(KillTimer(top, 9));
-    Sleep(30);
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
     EXPECT_EQ(recorder.served(), "");
 }
 

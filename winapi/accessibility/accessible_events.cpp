@@ -1,5 +1,7 @@
 // Events of windows, passed on to hooks and, through Qt, to screen readers.
 #include "accessible_element.h"
+
+#include "clock.h"
 #include "rooms_above.h"
 
 #include <QAccessible>
@@ -100,7 +102,7 @@ void NotifyWinEvent(DWORD event, HWND handle, LONG objectId, LONG child)
         return;
     for (const EventHook& hook : std::vector(hooks())) {
         if (event >= hook.first && event <= hook.last)
-            hook.procedure(hook.handle, event, handle, objectId, child, GetCurrentThreadId(), GetTickCount());
+            hook.procedure(hook.handle, event, handle, objectId, child, GetCurrentThreadId(), tickCount());
     }
     if (objectId == OBJID_CLIENT && QAccessible::isActive() && isAlive(*window))
         tellDesktop(event, *window, child);

@@ -4,6 +4,8 @@
 #include "control.h"
 #include "focus.h"
 #include "geometry.h"
+#include "shapes.h"
+#include "system_colors.h"
 #include "window_class.h"
 
 #include <iterator>
@@ -198,13 +200,13 @@ void Button::drawLabel(HDC dc, RECT rect, UINT format)
 
 void Button::paintPush(HDC dc, RECT rect)
 {
-    FillRect(dc, &rect, GetSysColorBrush(m_state.pushed ? COLOR_3DLIGHT : COLOR_BTNFACE));
-    FrameRect(dc, &rect, GetSysColorBrush(COLOR_BTNSHADOW));
+    FillRect(dc, &rect, systemBrush(m_state.pushed ? COLOR_3DLIGHT : COLOR_BTNFACE));
+    FrameRect(dc, &rect, systemBrush(COLOR_BTNSHADOW));
     drawLabel(dc, rect, DT_CENTER | DT_VCENTER);
     if (!m_state.focused)
         return;
     constexpr int kFocusInset = 3;
-    InflateRect(&rect, -kFocusInset, -kFocusInset);
+    rect = toRect(toQRect(rect).adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset));
     DrawFocusRect(dc, &rect);
 }
 
@@ -217,8 +219,8 @@ void Button::paintCheck(HDC dc, RECT rect)
     box.top += (rect.bottom - rect.top - kBoxSize) / 2;
     box.right = box.left + kBoxSize;
     box.bottom = box.top + kBoxSize;
-    FillRect(dc, &box, GetSysColorBrush(COLOR_WINDOW));
-    FrameRect(dc, &box, GetSysColorBrush(COLOR_BTNSHADOW));
+    FillRect(dc, &box, systemBrush(COLOR_WINDOW));
+    FrameRect(dc, &box, systemBrush(COLOR_BTNSHADOW));
     if (m_state.check != BST_UNCHECKED)
         drawTick(dc, box);
     rect.left += kBoxSize + kGap;
@@ -232,7 +234,9 @@ void Button::drawTick(HDC dc, const RECT& box)
     const POINT corners[] = {
         {box.left + 3, box.top + 6}, {box.left + 5, box.top + 9}, {box.left + 10, box.top + 3}};
     const HGDIOBJ oldPen = SelectObject(dc, CreatePen(PS_SOLID, 2, GetSysColor(COLOR_BTNTEXT)));
-    Polyline(dc, corners, static_cast<int>(std::size(corners)));
+    MoveToEx(dc, corners[0].x, corners[0].y, nullptr);
+    for (const POINT& corner : corners)
+        LineTo(dc, corner.x, corner.y);
     DeleteObject(SelectObject(dc, oldPen));
 }
 

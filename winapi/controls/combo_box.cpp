@@ -190,7 +190,7 @@ LRESULT Combo::giveText(const QString& text, LPARAM buffer, int size) const
         return 0;
     auto* const target = reinterpret_cast<LPSTR>(buffer);
     lstrcpynA(target, text.toUtf8().constData(), size);
-    return lstrlenA(target);
+    return static_cast<LRESULT>(qstrlen(target));
 }
 
 void Combo::paint()

@@ -1,12 +1,14 @@
 #include "control.h"
 
+#include "drawing_objects.h"
 #include "geometry.h"
+#include "system_colors.h"
 
 namespace winapi {
 
 HFONT fontOr(HFONT font)
 {
-    return font ? font : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+    return font ? font : windowFont();
 }
 
 ControlContext::ControlContext(HWND window, HFONT font)
@@ -38,7 +40,7 @@ void fillByParent(const Window& control, HDC dc, UINT colorMessage)
     auto brush = reinterpret_cast<HBRUSH>(SendMessageA(control.parent->handle, colorMessage,
                                                        reinterpret_cast<WPARAM>(dc),
                                                        reinterpret_cast<LPARAM>(control.handle)));
-    FillRect(dc, &rect, brush ? brush : GetSysColorBrush(COLOR_BTNFACE));
+    FillRect(dc, &rect, brush ? brush : systemBrush(COLOR_BTNFACE));
 }
 
 void notifyCommand(const Window& control, WORD code)

@@ -310,7 +310,7 @@ LRESULT Edit::giveText(WPARAM size, LPARAM buffer)
         return 0;
     auto* const target = reinterpret_cast<LPSTR>(buffer);
     lstrcpynA(target, toBytes(field().text()).constData(), static_cast<int>(size));
-    return lstrlenA(target);
+    return static_cast<LRESULT>(qstrlen(target));
 }
 
 void Edit::type(char character)

@@ -2,11 +2,13 @@
 #include "list_box.h"
 
 #include "application.h"
+#include "context.h"
 #include "control.h"
 #include "control_widget.h"
 #include "focus.h"
 #include "geometry.h"
 #include "keyboard.h"
+#include "system_colors.h"
 #include "window_class.h"
 
 #include <QScrollBar>
@@ -333,16 +335,14 @@ void ListBox::paint()
 {
     const ControlPaint context(hwnd(), m_state.font);
     const RECT whole = toRect(m_window.clientRect());
-    FillRect(context.dc(), &whole, GetSysColorBrush(COLOR_WINDOW));
-    const int saved = SaveDC(context.dc());
-    const RECT area = toRect(rows());
-    IntersectClipRect(context.dc(), area.left, area.top, area.right, area.bottom);
-    for (int index = top(); index < count() && rowRect(index).top() < area.bottom; ++index)
-        drawRow(context.dc(), index);
-    RestoreDC(context.dc(), saved);
+    FillRect(context.dc(), &whole, systemBrush(COLOR_WINDOW));
     m_state.widget.paint(context.dc());
     if (rowsArea(m_window) != m_window.clientRect())
-        FrameRect(context.dc(), &whole, GetSysColorBrush(COLOR_BTNSHADOW));
+        FrameRect(context.dc(), &whole, systemBrush(COLOR_BTNSHADOW));
+    const QRect area = rows();
+    findContext(context.dc())->clipTo(area);
+    for (int index = top(); index < count() && rowRect(index).top() <= area.bottom(); ++index)
+        drawRow(context.dc(), index);
 }
 
 void ListBox::drawRow(HDC dc, int index)
@@ -361,7 +361,7 @@ void ListBox::drawRow(HDC dc, int index)
     }
     constexpr int margin = 2;
     RECT rect = toRect(rowRect(index));
-    FillRect(dc, &rect, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    FillRect(dc, &rect, systemBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     if (selected && m_state.focused)
         DrawFocusRect(dc, &rect);
     rect.left += margin;

@@ -16,7 +16,7 @@ struct StaticState : ControlState
 
 UINT formatFor(DWORD style)
 {
-    UINT format = DT_TOP;
+    UINT format = 0;
     switch (style & 0x1Fu) {
     case SS_CENTER:
         format |= DT_CENTER | DT_WORDBREAK;

@@ -1,6 +1,8 @@
 // The tools of a tool-tip control, and their texts.
 #include "tool_list.h"
 
+#include "resource_id.h"
+
 #include <algorithm>
 
 namespace winapi {
@@ -18,7 +20,7 @@ std::optional<Tool> toTool(const TOOLINFOA* info)
         return std::nullopt;
     Tool tool{info->uFlags, info->hwnd, info->uId, info->rect, {}};
     if (info->lpszText != LPSTR_TEXTCALLBACKA)
-        tool.text = info->lpszText && !IS_INTRESOURCE(info->lpszText) ? info->lpszText : "";
+        tool.text = info->lpszText && !isResourceId(info->lpszText) ? info->lpszText : "";
     return tool;
 }
 

@@ -24,9 +24,9 @@ QStringList filtersOf(LPCSTR pairs)
     QStringList filters;
     while (pairs && *pairs) {
         QString description = toText(pairs);
-        pairs += lstrlenA(pairs) + 1;
+        pairs += qstrlen(pairs) + 1;
         const QString patterns = toText(pairs).replace(';', ' ').replace("*.*", "*");
-        pairs += lstrlenA(pairs) + 1;
+        pairs += qstrlen(pairs) + 1;
         // Qt would take what stands in parentheses already for the patterns.
         description = description.section('(', 0, 0).trimmed();
         filters.append(description + " (" + patterns + ")");
@@ -37,8 +37,7 @@ QStringList filtersOf(LPCSTR pairs)
 void prepare(QFileDialog& chooser, const OPENFILENAMEA& request, bool save)
 {
     chooser.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    const bool mustExist = !save && (request.Flags & OFN_FILEMUSTEXIST);
-    chooser.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    chooser.setFileMode(QFileDialog::AnyFile);
     chooser.setOption(QFileDialog::DontConfirmOverwrite, !(request.Flags & OFN_OVERWRITEPROMPT));
     chooser.setDefaultSuffix(toText(request.lpstrDefExt));
     if (request.lpstrTitle)

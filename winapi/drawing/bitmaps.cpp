@@ -1,7 +1,7 @@
 // Bitmaps and the copying of pixels.
 //
-// A bitmap is measured in logical pixels, as its context is; on a dense screen it holds more of them, so that
-// what is drawn to it first is as sharp as what is drawn directly.
+// A bitmap is measured in logical pixels, as its context is. On a dense screen it holds several pixels for a
+// logical one, as the screen does, so that what goes through it stays sharp.
 #include "bitmaps.h"
 
 #include "context_painter.h"
@@ -38,7 +38,7 @@ QTransform toPixels(const Context& context)
            QTransform::fromScale(ratio, ratio);
 }
 
-// Each edge to the nearest pixel, as filling takes it.
+// Moves each edge to the nearest pixel, as filling does.
 QRect roundEdges(const QRectF& rect)
 {
     return QRect(rect.topLeft().toPoint(), rect.bottomRight().toPoint() - QPoint(1, 1));
@@ -46,7 +46,7 @@ QRect roundEdges(const QRectF& rect)
 
 bool isVisible(const Context& context, int x, int y)
 {
-    return context.image() && context.drawable().contains(context.toDevice().map(QPoint(x, y)));
+    return context.image() && context.visible().contains(context.toDevice().map(QPoint(x, y)));
 }
 
 // The part that a copy can be taken from, in logical coordinates.
@@ -56,11 +56,11 @@ QRect available(const Context& context)
 }
 
 // Larger bitmaps are refused, as by a system that is out of memory.
-constexpr int longestSide = 32767;
+constexpr int kLongestSide = 32767;
 
 HBITMAP makeBitmap(int width, int height, qreal devicePixelRatio)
 {
-    if (width < 0 || height < 0 || width > longestSide || height > longestSide)
+    if (width < 0 || height < 0 || width > kLongestSide || height > kLongestSide)
         return nullptr;
     if (width == 0 || height == 0)
         return defaultBitmap();

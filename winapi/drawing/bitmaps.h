@@ -5,7 +5,7 @@
 
 namespace winapi {
 
-// The bitmap that a new memory context holds. Every context has one of its own, but they share its handle.
+// The handle of the bitmap that a new memory context holds. Each context has a bitmap of its own under it.
 HBITMAP defaultBitmap();
 
 // A black image of so many logical pixels.

@@ -1,4 +1,4 @@
-// Device contexts: how they are made, saved and ended, and how their coordinates lie on a surface.
+// Device contexts: how they are made and ended, and where their coordinates lie on a surface.
 #include "context.h"
 
 #include "application.h"
@@ -42,17 +42,17 @@ private:
 };
 
 template <class Kind>
-Selected<Kind> stock(int index)
+Selected<Kind> selected(HGDIOBJ handle)
 {
-    return {GetStockObject(index), findObject<Kind>(GetStockObject(index))};
+    return {handle, findObject<Kind>(handle)};
 }
 
 DrawingState initialState()
 {
     DrawingState state;
-    state.pen = stock<Pen>(BLACK_PEN);
-    state.brush = stock<Brush>(WHITE_BRUSH);
-    state.font = stock<Font>(SYSTEM_FONT);
+    state.pen = selected<Pen>(blackPen());
+    state.brush = selected<Brush>(whiteBrush());
+    state.font = selected<Font>(systemFont());
     return state;
 }
 
@@ -115,26 +115,10 @@ void Context::selectBitmap(const Selected<Bitmap>& bitmap)
     if (isMemory())
         state.bitmap.object->selected = false;
     state.bitmap = bitmap;
-    applyBitmap();
-}
-
-void Context::applyBitmap()
-{
     state.bitmap.object->selected = true;
     m_owned = std::make_unique<BitmapSurface>(state.bitmap.object);
     m_surface = m_owned.get();
     m_visible = QRect({}, state.bitmap->image.deviceIndependentSize().toSize());
-}
-
-void Context::restore(int level)
-{
-    const bool memory = isMemory();
-    if (memory)
-        state.bitmap.object->selected = false;
-    state = saved[static_cast<std::size_t>(level - 1)];
-    saved.resize(static_cast<std::size_t>(level - 1));
-    if (memory)
-        applyBitmap();
 }
 
 QSizeF Context::scale() const
@@ -145,27 +129,21 @@ QSizeF Context::scale() const
 
 QTransform Context::toDevice() const
 {
-    return QTransform::fromTranslate(state.viewportOrigin.x(), state.viewportOrigin.y())
-        .scale(scale().width(), scale().height())
+    return QTransform::fromScale(scale().width(), scale().height())
         .translate(-state.windowOrigin.x(), -state.windowOrigin.y());
 }
 
 QPointF Context::gridShift() const
 {
-    // Far less than a pixel, it lets a half always go up, whatever small errors come in between.
-    constexpr qreal tieBreak = 1.0 / 1024;
+    // Far less than a pixel: it makes halves go up even where a rounding error took something off them.
+    constexpr qreal kTieBreak = 1.0 / 1024;
     const qreal ratio = m_surface->device().devicePixelRatio();
     if (ratio == std::floor(ratio))
         return {};
     const QPointF start = (m_gridOrigin - toDevice().map(QPointF())) * ratio;
     const auto pastPixel = [](qreal place) { return place - std::floor(place + 0.5); };
     const QPointF shift = isMemory() ? QPointF(pastPixel(start.x()), pastPixel(start.y())) : QPointF();
-    return (shift + QPointF(tieBreak, tieBreak)) / ratio;
-}
-
-QRegion Context::drawable() const
-{
-    return state.clip ? visible() & *state.clip : visible();
+    return (shift + QPointF(kTieBreak, kTieBreak)) / ratio;
 }
 
 }
@@ -195,35 +173,4 @@ HDC CreateCompatibleDC(HDC dc)
 BOOL DeleteDC(HDC dc)
 {
     return contexts().remove(dc) != nullptr;
-}
-
-int SaveDC(HDC dc)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return 0;
-    context->saved.push_back(context->state);
-    return static_cast<int>(context->saved.size());
-}
-
-BOOL RestoreDC(HDC dc, int level)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return FALSE;
-    const int count = static_cast<int>(context->saved.size());
-    const int target = level < 0 ? count + level + 1 : level;
-    if (target < 1 || target > count)
-        return FALSE;
-    context->restore(target);
-    return TRUE;
-}
-
-DWORD GetObjectType(HGDIOBJ handle)
-{
-    if (const auto context = findContext(static_cast<HDC>(handle)))
-        return context->isMemory() ? OBJ_MEMDC : OBJ_DC;
-    const auto object = findObject(handle);
-    constexpr DWORD kinds[] = {OBJ_PEN, OBJ_BRUSH, OBJ_FONT, OBJ_BITMAP, OBJ_REGION};
-    return object ? kinds[object->index()] : 0;
 }

@@ -9,12 +9,10 @@
 #include <QTransform>
 
 #include <memory>
-#include <optional>
-#include <vector>
 
 namespace winapi {
 
-// An object that a context holds: it lives on while selected, even when its handle is released.
+// An object that is selected into a context. It lives on there even when its handle is released.
 template <class Kind>
 struct Selected
 {
@@ -24,7 +22,7 @@ struct Selected
     const Kind* operator->() const { return object.get(); }
 };
 
-// What SaveDC keeps.
+// What is selected and set.
 struct DrawingState
 {
     Selected<Pen> pen;
@@ -34,14 +32,11 @@ struct DrawingState
     COLORREF textColor = 0x000000;
     COLORREF backgroundColor = 0xFFFFFF;
     int backgroundMode = OPAQUE;
-    UINT textAlign = TA_LEFT | TA_TOP;
     QPoint position; // logical
     int mapMode = MM_TEXT;
     QPoint windowOrigin;
-    QPoint viewportOrigin;
-    QSize windowExtent{1, 1};    // so many logical units are as long as
-    QSize viewportExtent{1, 1};  // so many pixels
-    std::optional<QRegion> clip; // device units; none: all that is visible
+    QSize windowExtent{1, 1};   // so many logical units are as long as
+    QSize viewportExtent{1, 1}; // so many pixels
 };
 
 class Context
@@ -57,7 +52,6 @@ public:
     Context& operator=(const Context&) = delete;
 
     DrawingState state;
-    std::vector<DrawingState> saved;
 
     Surface& surface() const { return *m_surface; }
     bool isMemory() const { return state.bitmap.object != nullptr; }
@@ -65,25 +59,22 @@ public:
     QImage* image() const;
 
     void selectBitmap(const Selected<Bitmap>& bitmap);
-    void restore(int level);
 
     // From logical units to device units (the origin of the context is device 0, 0), and on to the surface.
     QTransform toDevice() const;
     QPoint origin() const { return m_origin; }
     QPoint gridOrigin() const { return m_gridOrigin + m_origin; }
-    // Where a logical pixel is not a whole number of the screen's, drawing is moved by less than one, so that
-    // a memory context rounds to pixels as the surface does that it is compatible with.
+    // How far drawing is moved, by less than a pixel, on a screen that has 1.5 pixels, say, for a logical
+    // one: so that a memory context rounds to pixels as the surface does that it is compatible with.
     QPointF gridShift() const;
     // Device units a logical unit.
     QSizeF scale() const;
 
     // Where drawing shows, in device units.
-    QRegion drawable() const;
     QRegion visible() const { return m_visible.translated(-m_origin); }
+    void clipTo(const QRect& area) { m_visible &= area.translated(m_origin); }
 
 private:
-    void applyBitmap();
-
     std::unique_ptr<Surface> m_owned;
     Surface* m_surface;
     QPoint m_origin;
@@ -94,8 +85,8 @@ private:
 HDC addContext(std::shared_ptr<Context> context);
 std::shared_ptr<Context> findContext(HDC dc);
 
-// Makes a context whose origin lies at `origin` of the surface and that draws inside `clip` only (both in
-// logical pixels of the surface). Released by destroyContext. The surface outlives the context.
+// Makes a context whose origin lies at `origin` of the surface and that draws inside `clip` only, both in
+// logical pixels of the surface. It is released by destroyContext; the surface outlives it.
 HDC createContext(Surface& surface, QPoint origin, const QRegion& clip);
 void destroyContext(HDC dc);
 

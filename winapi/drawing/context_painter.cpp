@@ -1,4 +1,4 @@
-// Draws on what a context stands for.
+// The painter that each drawing call paints with.
 #include "context_painter.h"
 
 namespace winapi {
@@ -6,7 +6,7 @@ namespace winapi {
 ContextPainter::ContextPainter(Context& context, const QRect& touched)
     : m_context(context), m_touched(context.toDevice().mapRect(touched).translated(context.origin()))
 {
-    const QRegion clip = context.drawable().translated(context.origin());
+    const QRegion clip = context.visible().translated(context.origin());
     m_touched &= clip.boundingRect();
     if (m_touched.isEmpty())
         return;

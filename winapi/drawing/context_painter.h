@@ -1,4 +1,4 @@
-// Draws on what a context stands for.
+// The painter that each drawing call paints with.
 #pragma once
 
 #include "context.h"
@@ -6,7 +6,7 @@
 
 namespace winapi {
 
-// Draws in logical coordinates, clipped as the context says, for the time of one call.
+// Paints on the surface of a context, in logical coordinates, where the context shows. Lives for one call.
 class ContextPainter
 {
 public:
@@ -18,12 +18,12 @@ public:
 
     QPainter* operator->() const { return m_painter; }
     QPainter& operator*() const { return *m_painter; }
-    // False where the call can't change anything that shows.
+    // False if nothing that the call draws would show.
     explicit operator bool() const { return m_painter != nullptr; }
 
 private:
     Context& m_context;
-    QRect m_touched; // pixels of the surface
+    QRect m_touched; // logical pixels of the surface
     std::unique_ptr<QPainter> m_own;
     QPainter* m_painter = nullptr;
 };

@@ -3,6 +3,7 @@
 #include "overload.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace winapi;
 
@@ -24,7 +25,7 @@ HGDIOBJ selectBitmap(Context& context, const Selected<Bitmap>& bitmap)
     return old;
 }
 
-// Stores `value` and gives what held before; `failure` where there is no such context.
+// Stores `value` and gives the value before it, or `failure` if there is no such context.
 template <class Value, class Argument>
 Value exchangeState(HDC dc, Value DrawingState::*member, Argument value, Value failure)
 {
@@ -32,30 +33,14 @@ Value exchangeState(HDC dc, Value DrawingState::*member, Argument value, Value f
     return context ? std::exchange(context->state.*member, static_cast<Value>(value)) : failure;
 }
 
-template <class Value>
-Value readState(HDC dc, Value DrawingState::*member, Value failure)
-{
-    const auto context = findContext(dc);
-    return context ? context->state.*member : failure;
-}
-
-BOOL moveOrigin(HDC dc, QPoint DrawingState::*member, QPoint origin, POINT* old)
+BOOL setPoint(HDC dc, QPoint DrawingState::*member, QPoint point, POINT* old)
 {
     const auto context = findContext(dc);
     if (!context)
         return FALSE;
-    const QPoint before = std::exchange(context->state.*member, origin);
+    const QPoint before = std::exchange(context->state.*member, point);
     if (old)
         *old = {before.x(), before.y()};
-    return TRUE;
-}
-
-BOOL readOrigin(HDC dc, QPoint DrawingState::*member, POINT* origin)
-{
-    const auto context = findContext(dc);
-    if (!context || !origin)
-        return FALSE;
-    *origin = {(context->state.*member).x(), (context->state.*member).y()};
     return TRUE;
 }
 
@@ -75,7 +60,7 @@ BOOL setExtent(HDC dc, QSize DrawingState::*member, QSize extent, SIZE* old)
     const QSize before = context->state.*member;
     if (old)
         *old = {before.width(), before.height()};
-    // With pixels as units the extents are fixed, which is no failure.
+    // While a logical unit is a pixel, the extents stay 1, and the call succeeds.
     if (context->state.mapMode != MM_ANISOTROPIC)
         return TRUE;
     if (extent.width() == 0 || extent.height() == 0)
@@ -106,24 +91,14 @@ BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old)
     return setExtent(dc, &DrawingState::viewportExtent, {width, height}, old);
 }
 
-BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old)
-{
-    return moveOrigin(dc, &DrawingState::viewportOrigin, {x, y}, old);
-}
-
-BOOL GetViewportOrgEx(HDC dc, POINT* origin)
-{
-    return readOrigin(dc, &DrawingState::viewportOrigin, origin);
-}
-
 BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old)
 {
-    return moveOrigin(dc, &DrawingState::windowOrigin, {x, y}, old);
+    return setPoint(dc, &DrawingState::windowOrigin, {x, y}, old);
 }
 
-BOOL GetWindowOrgEx(HDC dc, POINT* origin)
+BOOL MoveToEx(HDC dc, int x, int y, POINT* old)
 {
-    return readOrigin(dc, &DrawingState::windowOrigin, origin);
+    return setPoint(dc, &DrawingState::position, {x, y}, old);
 }
 
 BOOL DPtoLP(HDC dc, POINT* points, int count)
@@ -142,7 +117,8 @@ COLORREF SetBkColor(HDC dc, COLORREF color)
 
 COLORREF GetBkColor(HDC dc)
 {
-    return readState(dc, &DrawingState::backgroundColor, CLR_INVALID);
+    const auto context = findContext(dc);
+    return context ? context->state.backgroundColor : CLR_INVALID;
 }
 
 int SetBkMode(HDC dc, int mode)
@@ -152,29 +128,9 @@ int SetBkMode(HDC dc, int mode)
     return exchangeState(dc, &DrawingState::backgroundMode, mode, 0);
 }
 
-int GetBkMode(HDC dc)
-{
-    return readState(dc, &DrawingState::backgroundMode, 0);
-}
-
 COLORREF SetTextColor(HDC dc, COLORREF color)
 {
     return exchangeState(dc, &DrawingState::textColor, color, CLR_INVALID);
-}
-
-COLORREF GetTextColor(HDC dc)
-{
-    return readState(dc, &DrawingState::textColor, CLR_INVALID);
-}
-
-UINT SetTextAlign(HDC dc, UINT align)
-{
-    return exchangeState(dc, &DrawingState::textAlign, align, GDI_ERROR);
-}
-
-UINT GetTextAlign(HDC dc)
-{
-    return readState(dc, &DrawingState::textAlign, GDI_ERROR);
 }
 
 HGDIOBJ SelectObject(HDC dc, HGDIOBJ handle)
@@ -187,36 +143,11 @@ HGDIOBJ SelectObject(HDC dc, HGDIOBJ handle)
         using Kind = std::remove_reference_t<decltype(kind)>;
         return Selected<Kind>{handle, std::shared_ptr<Kind>(object, &kind)};
     };
-    return std::visit(
-        Overload{
-            [&](Pen& pen) { return select(context->state.pen, selected(pen)); },
-            [&](Brush& brush) { return select(context->state.brush, selected(brush)); },
-            [&](Font& font) { return select(context->state.font, selected(font)); },
-            [&](Bitmap& bitmap) { return selectBitmap(*context, selected(bitmap)); },
-            // A region is no object to be put back later: the result tells what kind of region it is.
-            [&](Region&) {
-                return reinterpret_cast<HGDIOBJ>(
-                    static_cast<LONG_PTR>(SelectClipRgn(dc, static_cast<HRGN>(handle))));
-            },
-        },
-        *object);
-}
-
-HGDIOBJ GetCurrentObject(HDC dc, UINT kind)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return nullptr;
-    switch (kind) {
-    case OBJ_PEN:
-        return context->state.pen.handle;
-    case OBJ_BRUSH:
-        return context->state.brush.handle;
-    case OBJ_FONT:
-        return context->state.font.handle;
-    case OBJ_BITMAP:
-        return context->state.bitmap.handle;
-    default:
-        return nullptr;
-    }
+    return std::visit(Overload{
+                          [&](Pen& pen) { return select(context->state.pen, selected(pen)); },
+                          [&](Brush& brush) { return select(context->state.brush, selected(brush)); },
+                          [&](Font& font) { return select(context->state.font, selected(font)); },
+                          [&](Bitmap& bitmap) { return selectBitmap(*context, selected(bitmap)); },
+                      },
+                      *object);
 }

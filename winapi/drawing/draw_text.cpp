@@ -1,4 +1,4 @@
-// Formatted text: lines, breaking, alignment and the underlined letter.
+// DrawText: the breaking of a text into lines, and their placing, cutting and underlined letters.
 #include "context_painter.h"
 #include "text.h"
 
@@ -25,7 +25,7 @@ struct Layout
     int height() const { return lineHeight * static_cast<int>(lines.size()); }
 };
 
-// Takes the ampersands out that mark a letter: "&x" underlines x, "&&" is one ampersand, and so is one at the
+// Takes out the ampersands that mark letters: "&x" underlines x, "&&" is one ampersand, and so is "&" at the
 // end.
 Line takePrefixes(const QString& text)
 {
@@ -85,11 +85,11 @@ void shorten(Line& line, const TextMeasure& measure, int width)
 {
     if (measure.width(line.text) <= width)
         return;
-    static const QString dots = "...";
+    static const QString kDots = "...";
     qsizetype kept = line.text.size();
-    while (kept > 0 && measure.width(line.text.left(kept) + dots) > width)
+    while (kept > 0 && measure.width(line.text.left(kept) + kDots) > width)
         --kept;
-    line.text = line.text.left(kept) + dots;
+    line.text = line.text.left(kept) + kDots;
     if (line.underlined >= kept)
         line.underlined = -1;
 }
@@ -100,7 +100,7 @@ Layout layOut(const QString& text, UINT format, const TextMeasure& measure, int 
     if ((format & DT_WORDBREAK) && !(format & DT_SINGLELINE))
         texts = breakLines(texts, measure, width);
     Layout layout;
-    layout.lineHeight = measure.height() + (format & DT_EXTERNALLEADING ? measure.leading() : 0);
+    layout.lineHeight = measure.height();
     for (const QString& one : texts) {
         Line line = makeLine(one, format);
         if (format & DT_END_ELLIPSIS)
@@ -124,9 +124,7 @@ int textTop(const Layout& layout, const RECT& rect, UINT format)
 {
     if (!(format & DT_SINGLELINE))
         return rect.top;
-    if (format & DT_VCENTER)
-        return rect.top + (rect.bottom - rect.top) / 2 - layout.height() / 2;
-    return format & DT_BOTTOM ? rect.bottom - layout.height() : rect.top;
+    return format & DT_VCENTER ? rect.top + (rect.bottom - rect.top) / 2 - layout.height() / 2 : rect.top;
 }
 
 void underline(QPainter& painter, const Context& context, QPoint position, const Line& line)
@@ -140,17 +138,11 @@ void underline(QPainter& painter, const Context& context, QPoint position, const
 
 void drawLayout(Context& context, const Layout& layout, const RECT& rect, UINT format)
 {
-    const TextMeasure measure(context);
-    const int top = textTop(layout, rect, format);
-    const QRect extent(rect.left, top, rect.right - rect.left, layout.height());
-    const int overhang = std::max(0, layout.width - extent.width());
-    const QRect touched = touchedByText(extent.adjusted(-overhang, 0, overhang, 0), measure);
-    ContextPainter painter(context, format & DT_NOCLIP ? touched : toQRect(rect));
+    ContextPainter painter(context, toQRect(rect));
     if (!painter)
         return;
-    if (!(format & DT_NOCLIP))
-        painter->setClipRect(toQRect(rect), Qt::IntersectClip);
-    int y = top;
+    painter->setClipRect(toQRect(rect), Qt::IntersectClip);
+    int y = textTop(layout, rect, format);
     for (const Line& line : layout.lines) {
         const QPoint position(lineLeft(line, rect, format), y);
         drawTextLine(*painter, context, position, line.text);

@@ -6,8 +6,6 @@
 #include <QColor>
 #include <QFont>
 #include <QImage>
-#include <QPen>
-#include <QRegion>
 
 #include <memory>
 #include <variant>
@@ -16,14 +14,12 @@ namespace winapi {
 
 struct Pen
 {
-    int style;
     int width;
     COLORREF color;
 };
 
 struct Brush
 {
-    UINT style;
     COLORREF color;
 };
 
@@ -36,18 +32,14 @@ struct Font
 struct Bitmap
 {
     QImage image;
-    bool selected = false; // in some context; no second one may draw on it
+    bool selected = false; // in one context; no second one may draw on it
 };
 
-struct Region
-{
-    QRegion region;
-};
+using Object = std::variant<Pen, Brush, Font, Bitmap>;
 
-using Object = std::variant<Pen, Brush, Font, Bitmap, Region>;
-
+// Null when there are as many objects as Windows lets a program have.
 HGDIOBJ addObject(Object object);
-// Of the system: DeleteObject leaves it alone.
+// An object of the system: DeleteObject leaves it alone.
 HGDIOBJ addPermanentObject(Object object);
 std::shared_ptr<Object> findObject(HGDIOBJ handle);
 
@@ -60,7 +52,15 @@ std::shared_ptr<Kind> findObject(HGDIOBJ handle)
     return kind ? std::shared_ptr<Kind>(object, kind) : nullptr;
 }
 
-// The brush of `handle`; a small number stands for a system colour's index plus 1. Null if there is none.
+// What a new context holds.
+HPEN blackPen();
+HBRUSH whiteBrush();
+HFONT systemFont();
+// What texts of windows are written in, unless they say otherwise.
+HFONT windowFont();
+
+// The brush of `handle`. A small number stands for the brush of a system colour: the colour's index plus 1.
+// Null if there is no such brush.
 std::shared_ptr<Brush> findBrush(HBRUSH handle);
 
 QColor toColor(COLORREF color);

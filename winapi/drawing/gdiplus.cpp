@@ -1,10 +1,8 @@
-// The flat GDI+ interface.
+// The drawing of GDI+: graphics on a context, and the filling of ellipses.
 #include "gdiplus_session.h"
 
 #include "context_painter.h"
 #include "handle_table.h"
-
-#include <unordered_set>
 
 using namespace winapi;
 
@@ -21,12 +19,6 @@ struct Fill
     QColor color;
 };
 
-std::unordered_set<ULONG_PTR>& sessions()
-{
-    static std::unordered_set<ULONG_PTR> tokens;
-    return tokens;
-}
-
 HandleTable<void*, Graphics>& graphicsTable()
 {
     static HandleTable<void*, Graphics> table;
@@ -39,16 +31,10 @@ HandleTable<void*, Fill>& fills()
     return table;
 }
 
-bool isSmooth(Gdiplus::SmoothingMode mode)
-{
-    return mode == Gdiplus::SmoothingModeHighQuality || mode == Gdiplus::SmoothingModeAntiAlias;
-}
-
 template <class Object>
 Gdiplus::GpStatus remove(HandleTable<void*, Object>& table, void* handle)
 {
-    return winapi::whenGdiPlusRuns(
-        [&] { return table.remove(handle) ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
+    return whenGdiPlusRuns([&] { return table.remove(handle) ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
 }
 
 Gdiplus::GpStatus fillEllipse(void* graphicsHandle, void* brushHandle, const QRect& area)
@@ -63,7 +49,7 @@ Gdiplus::GpStatus fillEllipse(void* graphicsHandle, void* brushHandle, const QRe
     ContextPainter painter(*context, area.adjusted(-1, -1, 1, 1));
     if (!painter)
         return Gdiplus::Ok;
-    painter->setRenderHint(QPainter::Antialiasing, isSmooth(graphics->smoothing));
+    painter->setRenderHint(QPainter::Antialiasing, graphics->smoothing == Gdiplus::SmoothingModeAntiAlias);
     painter->setPen(Qt::NoPen);
     painter->setBrush(brush->color);
     painter->drawEllipse(QRectF(area));
@@ -72,34 +58,7 @@ Gdiplus::GpStatus fillEllipse(void* graphicsHandle, void* brushHandle, const QRe
 
 }
 
-namespace winapi {
-
-bool isGdiPlusRunning()
-{
-    return !sessions().empty();
-}
-
-}
-
-namespace Gdiplus {
-
-GpStatus GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input, GdiplusStartupOutput*)
-{
-    if (!token || !input)
-        return InvalidParameter;
-    if (input->GdiplusVersion < 1 || input->GdiplusVersion > 2)
-        return UnsupportedGdiplusVersion;
-    *token = nextHandleValue();
-    sessions().insert(*token);
-    return Ok;
-}
-
-void GdiplusShutdown(ULONG_PTR token)
-{
-    sessions().erase(token);
-}
-
-namespace DllExports {
+namespace Gdiplus::DllExports {
 
 GpStatus GdipCreateFromHDC(HDC dc, GpGraphics** graphics)
 {
@@ -122,7 +81,7 @@ GpStatus GdipSetSmoothingMode(GpGraphics* handle, SmoothingMode mode)
 {
     return whenGdiPlusRuns([&] {
         const auto graphics = graphicsTable().find(handle);
-        if (!graphics || mode < SmoothingModeDefault || mode > SmoothingModeAntiAlias)
+        if (!graphics || (mode != SmoothingModeDefault && mode != SmoothingModeAntiAlias))
             return InvalidParameter;
         graphics->smoothing = mode;
         return Ok;
@@ -149,5 +108,4 @@ GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, IN
     return whenGdiPlusRuns([&] { return fillEllipse(graphics, brush, {x, y, width, height}); });
 }
 
-}
 }

@@ -1,8 +1,8 @@
 // The pictures of GDI+: a copy of a bitmap, and its writing as a PNG file.
 #include "gdiplus_session.h"
 
-#include "handle_table.h"
 #include "drawing_objects.h"
+#include "handle_table.h"
 
 #include <QImageWriter>
 

@@ -1,4 +1,4 @@
-// Whether the program has started GDI+, which every flat function asks first.
+// Whether the program has started GDI+. Every other GDI+ call asks that first.
 #pragma once
 
 #include "gdiplus.h"
@@ -7,7 +7,7 @@ namespace winapi {
 
 bool isGdiPlusRunning();
 
-// The status of `call`, which runs only between start and shutdown.
+// Runs `call` and gives its status, but only between start and shutdown.
 template <class Call>
 Gdiplus::GpStatus whenGdiPlusRuns(Call call)
 {

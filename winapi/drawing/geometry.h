@@ -23,6 +23,11 @@ inline QRect toQRect(const RECT& rect)
             QPoint(clampPlace(rect.right) - 1, clampPlace(rect.bottom) - 1)};
 }
 
+inline bool isEmpty(const RECT& rect)
+{
+    return rect.left >= rect.right || rect.top >= rect.bottom;
+}
+
 inline RECT toRect(const QRect& rect)
 {
     return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};

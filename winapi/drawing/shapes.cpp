@@ -9,29 +9,11 @@
 
 namespace winapi {
 
-void eraseRect(HDC dc, const RECT& rect, HBRUSH brush)
-{
-    FillRect(dc, &rect, brush);
-}
-
 namespace {
-
-constexpr int dotLength = 3; // of a dotted pen, and of the gaps between
 
 bool isThin(const Pen& pen)
 {
     return pen.width <= 1;
-}
-
-bool isVisible(const Pen& pen)
-{
-    return pen.style != PS_NULL;
-}
-
-// Wide pens are always solid.
-bool isDotted(const Pen& pen)
-{
-    return isThin(pen) && pen.style == PS_DOT;
 }
 
 QPen toWidePen(const Pen& pen)
@@ -45,7 +27,7 @@ QPointF middle(QPoint pixel)
     return QPointF(pixel) + QPointF(0.5, 0.5);
 }
 
-// Calls `visit` with each pixel from `from` up to and without `to`.
+// Calls `visit` with each pixel from `from` up to and without `to` (Bresenham, 1965).
 template <class Visit>
 void walkLine(QPoint from, QPoint to, Visit visit)
 {
@@ -77,18 +59,8 @@ QRect straightLine(QPoint from, QPoint to)
                  QPoint(std::max(from.x(), last.x()), std::max(from.y(), last.y())));
 }
 
-void drawDottedLine(QPainter& painter, const DrawingState& state, QPoint from, QPoint to)
-{
-    int position = 0;
-    walkLine(from, to, [&](QPoint pixel) {
-        const bool gap = position++ / dotLength % 2 != 0;
-        if (!gap || state.backgroundMode == OPAQUE)
-            painter.fillRect(QRect(pixel, QSize(1, 1)),
-                             toColor(gap ? state.backgroundColor : state.pen->color));
-    });
-}
-
-// Lines are equally thick everywhere, also where a logical pixel is not a whole number of the screen's.
+// The line in whole pixels of the screen, so that all lines are equally thick, even if a logical pixel is 1.5
+// of them.
 QRectF evenLine(const QRect& line, qreal devicePixelRatio)
 {
     const qreal thickness = std::floor(devicePixelRatio) / devicePixelRatio;
@@ -114,8 +86,6 @@ void drawThinLine(QPainter& painter, const DrawingState& state, QPoint from, QPo
 {
     const QColor color = toColor(state.pen->color);
     const qreal ratio = painter.device()->devicePixelRatioF();
-    if (isDotted(*state.pen.object))
-        return drawDottedLine(painter, state, from, to);
     if (from.x() == to.x() || from.y() == to.y())
         return painter.fillRect(evenLine(straightLine(from, to), ratio), color);
     if (ratio > 1)
@@ -125,7 +95,7 @@ void drawThinLine(QPainter& painter, const DrawingState& state, QPoint from, QPo
 
 void drawLine(QPainter& painter, const DrawingState& state, QPoint from, QPoint to)
 {
-    if (from == to || !isVisible(*state.pen.object))
+    if (from == to)
         return;
     if (isThin(*state.pen.object))
         return drawThinLine(painter, state, from, to);
@@ -140,21 +110,11 @@ QRect touchedBy(const QRect& area, const Pen& pen)
     return area.normalized().adjusted(-margin, -margin, margin, margin);
 }
 
-QBrush toQBrush(const Brush& brush)
-{
-    return brush.style == BS_NULL ? QBrush(Qt::NoBrush) : QBrush(toColor(brush.color));
-}
-
-QPoint toPoint(const POINT& point)
-{
-    return QPoint(point.x, point.y);
-}
-
 QPolygon toPolygon(std::span<const POINT> points)
 {
     QPolygon polygon;
     for (const POINT& point : points)
-        polygon << toPoint(point);
+        polygon << QPoint(point.x, point.y);
     return polygon;
 }
 
@@ -206,17 +166,6 @@ void invert(QPainter& painter, const QRect& rect)
 
 using namespace winapi;
 
-BOOL MoveToEx(HDC dc, int x, int y, POINT* old)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return FALSE;
-    const QPoint before = std::exchange(context->state.position, QPoint(x, y));
-    if (old)
-        *old = {before.x(), before.y()};
-    return TRUE;
-}
-
 BOOL LineTo(HDC dc, int x, int y)
 {
     const auto context = findContext(dc);
@@ -227,18 +176,6 @@ BOOL LineTo(HDC dc, int x, int y)
     ContextPainter painter(*context, touchedBy(QRect(from, to), *context->state.pen.object));
     if (painter)
         drawLine(*painter, context->state, from, to);
-    return TRUE;
-}
-
-BOOL Polyline(HDC dc, const POINT* points, int count)
-{
-    const auto context = findContext(dc);
-    if (!context || !points || count < 2)
-        return FALSE;
-    const QPolygon polygon = toPolygon({points, static_cast<std::size_t>(count)});
-    ContextPainter painter(*context, touchedBy(polygon.boundingRect(), *context->state.pen.object));
-    if (painter)
-        drawLines(*painter, context->state, polygon);
     return TRUE;
 }
 
@@ -253,7 +190,7 @@ BOOL Polygon(HDC dc, const POINT* points, int count)
     if (!painter)
         return TRUE;
     painter->setPen(Qt::NoPen);
-    painter->setBrush(toQBrush(*context->state.brush.object));
+    painter->setBrush(toColor(context->state.brush->color));
     // The outline runs along the middle of its pixels.
     painter->drawPolygon(QPolygonF(polygon).translated(middle({})));
     drawLines(*painter, context->state, polygon);
@@ -266,36 +203,30 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom)
     if (!context)
         return FALSE;
     const DrawingState& state = context->state;
-    QRect area = between(left, top, right, bottom);
+    const QRect area = between(left, top, right, bottom);
     if (area.width() < 2 || area.height() < 2)
         return TRUE;
-    // Without an outline a rectangle ends one pixel earlier.
-    if (!isVisible(*state.pen.object))
-        area.adjust(0, 0, -1, -1);
     ContextPainter painter(*context, touchedBy(area, *state.pen.object));
     if (!painter)
         return TRUE;
-    painter->fillRect(area, toQBrush(*state.brush.object));
+    painter->fillRect(area, toColor(state.brush->color));
     drawLines(*painter, state, corners(area));
     return TRUE;
 }
 
-BOOL Ellipse(HDC dc, int left, int top, int right, int bottom)
+void winapi::drawEllipse(HDC dc, const RECT& rect)
 {
     const auto context = findContext(dc);
     if (!context)
-        return FALSE;
+        return;
     const DrawingState& state = context->state;
-    const QRect area = between(left, top, right, bottom);
-    ContextPainter painter(*context, touchedBy(area, *state.pen.object));
-    if (!painter || area.isEmpty())
-        return TRUE;
-    const bool outlined = isVisible(*state.pen.object);
-    const qreal inset = outlined ? 0.5 : 0;
-    painter->setPen(outlined ? toWidePen(*state.pen.object) : QPen(Qt::NoPen));
-    painter->setBrush(toQBrush(*state.brush.object));
-    painter->drawEllipse(QRectF(area).adjusted(inset, inset, -inset, -inset));
-    return TRUE;
+    const QRectF area = toQRect(rect);
+    ContextPainter painter(*context, touchedBy(area.toRect(), *state.pen.object));
+    if (!painter)
+        return;
+    painter->setPen(toWidePen(*state.pen.object));
+    painter->setBrush(toColor(state.brush->color));
+    painter->drawEllipse(area.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 int FillRect(HDC dc, const RECT* rect, HBRUSH handle)
@@ -307,7 +238,7 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH handle)
     const QRect area = filledArea(*rect);
     ContextPainter painter(*context, area);
     if (painter)
-        painter->fillRect(area, toQBrush(*brush));
+        painter->fillRect(area, toColor(brush->color));
     return 1;
 }
 
@@ -315,31 +246,19 @@ int FrameRect(HDC dc, const RECT* rect, HBRUSH handle)
 {
     const auto context = findContext(dc);
     const auto brush = findObject<Brush>(handle);
-    if (!context || !rect || !brush || IsRectEmpty(rect))
+    if (!context || !rect || !brush || isEmpty(*rect))
         return 0;
     const QRect area = toQRect(*rect);
     ContextPainter painter(*context, area);
-    if (painter && brush->style != BS_NULL)
+    if (painter)
         fillFrame(*painter, area, toColor(brush->color));
     return 1;
-}
-
-BOOL InvertRect(HDC dc, const RECT* rect)
-{
-    const auto context = findContext(dc);
-    if (!context || !rect)
-        return FALSE;
-    const QRect area = toQRect(*rect);
-    ContextPainter painter(*context, area);
-    if (painter)
-        invert(*painter, area);
-    return TRUE;
 }
 
 BOOL DrawFocusRect(HDC dc, const RECT* rect)
 {
     const auto context = findContext(dc);
-    if (!context || !rect || IsRectEmpty(rect))
+    if (!context || !rect || isEmpty(*rect))
         return FALSE;
     const QRect area = toQRect(*rect);
     ContextPainter painter(*context, area);

@@ -1,4 +1,4 @@
-// What a device context draws on: the meeting place of windows and drawing.
+// What a device context draws on: the image of a window or a bitmap, or a printer.
 #pragma once
 
 #include "windef.h"
@@ -16,13 +16,13 @@ class Surface
 public:
     virtual ~Surface() = default;
 
-    // A QImage for windows and memory; painted on by one call at a time, never held open by a context.
+    // A QImage for windows and bitmaps. Each call paints with a painter of its own.
     virtual QPaintDevice& device() = 0;
 
     // The painter that a printer keeps open through a page; windows and memory have none.
     virtual QPainter* heldPainter() { return nullptr; }
 
-    // What GetDeviceCaps tells of the device; of the screen, where nothing else is said.
+    // What GetDeviceCaps tells of the device: of the screen, unless a surface says otherwise.
     virtual int capability(int index) const;
 
     // Called after each drawing call with the part that it may have changed, in logical pixels of the

@@ -1,11 +1,10 @@
-// Fonts, the measures of text, and single lines of it.
+// Fonts, the measures of text, and the drawing of single lines.
 #include "text.h"
 
 #include "application.h"
 #include "context_painter.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace winapi {
@@ -20,32 +19,25 @@ QStringList familiesFor(const QString& face)
         const char* face;
         const char* families;
     };
-    static constexpr const char* sans = "Liberation Sans,Arial,DejaVu Sans";
-    static constexpr Substitute substitutes[] = {
-        {"", sans},
-        {"System", sans},
-        {"MS Sans Serif", sans},
-        {"MS Shell Dlg", sans},
-        {"MS Shell Dlg 2", sans},
-        {"Tahoma", sans},
-        {"Segoe UI", sans},
-        {"Arial", sans},
+    constexpr const char* kSans = "Liberation Sans,Arial,DejaVu Sans";
+    constexpr Substitute kSubstitutes[] = {
+        {"", kSans},
+        {"System", kSans},
+        {"MS Sans Serif", kSans},
+        {"MS Shell Dlg", kSans},
+        {"MS Shell Dlg 2", kSans},
+        {"Tahoma", kSans},
+        {"Segoe UI", kSans},
+        {"Arial", kSans},
         {"Times New Roman", "Liberation Serif,DejaVu Serif"},
         {"Courier New", "Liberation Mono,DejaVu Sans Mono"},
     };
     QStringList families(face);
-    for (const Substitute& substitute : substitutes)
+    for (const Substitute& substitute : kSubstitutes)
         if (face.compare(QLatin1String(substitute.face), Qt::CaseInsensitive) == 0)
             families += QString::fromLatin1(substitute.families).split(',');
     families.removeAll(QString());
     return families;
-}
-
-QFont::StyleHint styleHint(BYTE pitchAndFamily)
-{
-    if ((pitchAndFamily & 0xF0) == FF_MODERN || (pitchAndFamily & 0x03) == FIXED_PITCH)
-        return QFont::TypeWriter;
-    return (pitchAndFamily & 0xF0) == FF_ROMAN ? QFont::Serif : QFont::SansSerif;
 }
 
 int lineHeightAt(QFont font, int pixelSize)
@@ -58,8 +50,8 @@ int lineHeightAt(QFont font, int pixelSize)
 // The largest size of the letters at which a line is no higher than asked for.
 int pixelSizeForLine(const QFont& font, int height)
 {
-    constexpr int sample = 1000;
-    int size = std::max(1, height * sample / lineHeightAt(font, sample) - 1);
+    constexpr int kSample = 1000;
+    int size = std::max(1, height * kSample / lineHeightAt(font, kSample) - 1);
     while (lineHeightAt(font, size + 1) <= height)
         ++size;
     return size;
@@ -67,11 +59,11 @@ int pixelSizeForLine(const QFont& font, int height)
 
 void setHeight(QFont& font, LONG height)
 {
-    constexpr int defaultHeight = 16;
+    constexpr int kDefaultHeight = 16;
     if (height < 0)
         font.setPixelSize(-height);
     else
-        font.setPixelSize(pixelSizeForLine(font, height == 0 ? defaultHeight : height));
+        font.setPixelSize(pixelSizeForLine(font, height == 0 ? kDefaultHeight : height));
 }
 
 QFont scaledFont(QFont font, qreal scale)
@@ -80,40 +72,16 @@ QFont scaledFont(QFont font, qreal scale)
     return font;
 }
 
-// Text that is used to find the average width of a letter, as Windows does.
+// The letters whose average width Windows tells as that of a font.
 const QString& alphabet()
 {
-    static const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    return letters;
+    static const QString kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return kLetters;
 }
 
 int averageWidth(const TextMeasure& measure)
 {
     return (measure.width(alphabet()) / 26 + 1) / 2;
-}
-
-// The upper left corner of a line that is placed at `reference`, as the alignment says.
-QPoint aligned(QPoint reference, UINT align, int width, const TextMeasure& measure)
-{
-    const UINT horizontal = align & TA_CENTER;
-    if (horizontal == TA_CENTER)
-        reference.rx() -= width / 2;
-    else if (horizontal == TA_RIGHT)
-        reference.rx() -= width;
-    const UINT vertical = align & TA_BASELINE;
-    if (vertical == TA_BASELINE)
-        reference.ry() -= measure.ascent();
-    else if (vertical == TA_BOTTOM)
-        reference.ry() -= measure.height();
-    return reference;
-}
-
-// Where the next text goes when texts are placed one behind the other.
-void advancePosition(DrawingState& state, int width)
-{
-    const UINT horizontal = state.textAlign & TA_CENTER;
-    if ((state.textAlign & TA_UPDATECP) && horizontal != TA_CENTER)
-        state.position.rx() += horizontal == TA_RIGHT ? -width : width;
 }
 
 void fillBackground(Context& context, const RECT& rect)
@@ -122,21 +90,6 @@ void fillBackground(Context& context, const RECT& rect)
     ContextPainter painter(context, area);
     if (painter)
         painter->fillRect(area, toColor(context.state.backgroundColor));
-}
-
-void placeText(Context& context, QPoint position, const QString& text, const QRect* clip)
-{
-    const TextMeasure measure(context);
-    const int width = measure.width(text);
-    const QPoint reference = context.state.textAlign & TA_UPDATECP ? context.state.position : position;
-    const QPoint corner = aligned(reference, context.state.textAlign, width, measure);
-    advancePosition(context.state, width);
-    ContextPainter painter(context, touchedByText(QRect(corner, QSize(width, measure.height())), measure));
-    if (!painter)
-        return;
-    if (clip)
-        painter->setClipRect(*clip, Qt::IntersectClip);
-    drawTextLine(*painter, context, corner, text);
 }
 
 }
@@ -148,11 +101,12 @@ QFont toFont(const LOGFONTA& description)
     QFont font;
     font.setFamilies(familiesFor(QString::fromUtf8(description.lfFaceName, static_cast<qsizetype>(length))));
     // Grey letters on whole pixels, hinted and without kerning, so that text is as wide as its letters.
-    const auto strategy = QFont::PreferAntialias | QFont::NoSubpixelAntialias;
-    font.setStyleHint(styleHint(description.lfPitchAndFamily), static_cast<QFont::StyleStrategy>(strategy));
+    constexpr auto kStrategy =
+        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias);
+    font.setStyleHint(QFont::SansSerif, kStrategy);
     font.setHintingPreference(QFont::PreferFullHinting);
     font.setKerning(false);
-    if (description.lfWeight != FW_DONTCARE)
+    if (description.lfWeight != 0)
         font.setWeight(static_cast<QFont::Weight>(std::clamp<LONG>(description.lfWeight, 1, 1000)));
     font.setItalic(description.lfItalic != 0);
     font.setUnderline(description.lfUnderline != 0);
@@ -177,12 +131,6 @@ QString toText(LPCSTR text, int length)
     return text ? QString::fromUtf8(text, length).replace(u'\t', u' ') : QString();
 }
 
-QRect touchedByText(const QRect& area, const TextMeasure& measure)
-{
-    const int overhang = measure.height();
-    return area.adjusted(-overhang, 0, overhang, 0);
-}
-
 void drawTextLine(QPainter& painter, const Context& context, QPoint position, const QString& text)
 {
     const DrawingState& state = context.state;
@@ -204,23 +152,12 @@ void drawTextLine(QPainter& painter, const Context& context, QPoint position, co
 
 using namespace winapi;
 
-BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length)
-{
-    return length >= 0 && ExtTextOutA(dc, x, y, 0, nullptr, text, static_cast<UINT>(length), nullptr);
-}
-
-BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length, const INT*)
+BOOL ExtTextOutA(HDC dc, int, int, UINT options, const RECT* rect, LPCSTR, UINT length, const INT*)
 {
     const auto context = findContext(dc);
-    if (!context || (length > 0 && !text))
+    if (!context || options != ETO_OPAQUE || !rect || length != 0)
         return FALSE;
-    if ((options & ETO_OPAQUE) && rect)
-        fillBackground(*context, *rect);
-    if (length == 0)
-        return TRUE;
-    const QRect clip = rect ? toQRect(*rect) : QRect();
-    placeText(*context, {x, y}, toText(text, static_cast<int>(length)),
-              (options & ETO_CLIPPED) && rect ? &clip : nullptr);
+    fillBackground(*context, *rect);
     return TRUE;
 }
 
@@ -260,18 +197,4 @@ BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
     result->tmStruckOut = font.strikeOut();
     result->tmCharSet = context->state.font->description.lfCharSet;
     return TRUE;
-}
-
-int GetTextFaceA(HDC dc, int size, LPSTR name)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return 0;
-    const QByteArray family = QFontInfo(context->state.font->font).family().toUtf8();
-    if (!name)
-        return static_cast<int>(family.size()) + 1;
-    if (size <= 0)
-        return 0;
-    qstrncpy(name, family.constData(), static_cast<std::size_t>(size));
-    return static_cast<int>(std::strlen(name));
 }

@@ -10,7 +10,8 @@
 
 namespace winapi {
 
-// The font as it is drawn, in pixels of the device, and its measures in logical units.
+// The font of a context: its measures in logical units, and the font that Qt draws with, in pixels of the
+// device.
 class TextMeasure
 {
 public:
@@ -22,7 +23,7 @@ public:
     int height() const { return ascent() + descent(); }
     int leading() const { return std::max(0, toLogical(m_metrics.leading())); }
     int maxWidth() const { return toLogical(m_metrics.maxWidth()); }
-    // From the base line to the line below the letters, and how thick that is.
+    // Where an underline lies below the base line, and how thick it is.
     int underlinePosition() const { return toLogical(m_metrics.underlinePos()); }
     int lineWidth() const { return std::max(1, toLogical(m_metrics.lineWidth())); }
 
@@ -37,16 +38,14 @@ private:
     QFontMetrics m_metrics;
 };
 
-// The font that Qt has for a description.
+// The font of Qt that comes nearest to a description.
 QFont toFont(const LOGFONTA& description);
 
-// The 8-bit text of a call, with blanks for tabs; `length` -1 counts up to its end.
+// The text of a call, with blanks for tabs. `length` -1: up to its null.
 QString toText(LPCSTR text, int length);
 
-// Draws one line with its upper left corner at `position`, on the background that the context asks for.
+// Draws one line with its upper left corner at `position`, on a background of its own if the context is
+// opaque.
 void drawTextLine(QPainter& painter, const Context& context, QPoint position, const QString& text);
-
-// What a line may touch: letters may lean out of their own width.
-QRect touchedByText(const QRect& area, const TextMeasure& measure);
 
 }

@@ -1,4 +1,4 @@
-// The dialogs of the system: printer, colour, file.
+// The dialogs of the system that ask for a printer, a colour or a file.
 #pragma once
 
 #include "windef.h"
@@ -9,8 +9,6 @@
 #define PD_PAGENUMS 0x00000002
 #define PD_NOSELECTION 0x00000004
 #define PD_NOPAGENUMS 0x00000008
-#define PD_PRINTTOFILE 0x00000020
-#define PD_NOWARNING 0x00000080
 #define PD_RETURNDC 0x00000100
 #define PD_RETURNDEFAULT 0x00000400
 #define PD_USEDEVMODECOPIES 0x00040000
@@ -19,11 +17,9 @@
 #define CDERR_STRUCTSIZE 0x0001
 #define CDERR_INITIALIZATION 0x0002
 #define PDERR_RETDEFFAILURE 0x1003
-#define PDERR_GETDEVMODEFAIL 0x1005
 #define PDERR_INITFAILURE 0x1006
 #define PDERR_NODEVICES 0x1007
 #define PDERR_NODEFAULTPRN 0x1008
-#define PDERR_CREATEICFAILURE 0x100A
 #define PDERR_PRINTERNOTFOUND 0x100B
 
 using LPPRINTHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
@@ -51,8 +47,6 @@ struct PRINTDLGA
     HGLOBAL hPrintTemplate;
     HGLOBAL hSetupTemplate;
 };
-using PRINTDLG = PRINTDLGA;
-using LPPRINTDLGA = PRINTDLGA*;
 
 struct DEVNAMES
 {
@@ -87,8 +81,6 @@ struct CHOOSECOLORA
     LPCCHOOKPROC lpfnHook;
     LPCSTR lpTemplateName;
 };
-using CHOOSECOLOR = CHOOSECOLORA;
-using LPCHOOSECOLORA = CHOOSECOLORA*;
 
 // Asks for a colour. FALSE when cancelled or failed.
 WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog);
@@ -99,9 +91,6 @@ WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog);
 
 #define OFN_OVERWRITEPROMPT 0x00000002
 #define OFN_HIDEREADONLY 0x00000004
-#define OFN_NOCHANGEDIR 0x00000008
-#define OFN_PATHMUSTEXIST 0x00000800
-#define OFN_FILEMUSTEXIST 0x00001000
 #define OFN_EXPLORER 0x00080000
 
 #define FNERR_BUFFERTOOSMALL 0x3003
@@ -135,8 +124,6 @@ struct OPENFILENAMEA
     DWORD dwReserved;
     DWORD FlagsEx;
 };
-using OPENFILENAME = OPENFILENAMEA;
-using LPOPENFILENAMEA = OPENFILENAMEA*;
 
 // Ask for a file to open or to save to. FALSE when cancelled or failed.
 WINUSERAPI BOOL GetOpenFileNameA(OPENFILENAMEA* dialog);

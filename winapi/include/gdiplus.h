@@ -1,11 +1,9 @@
-// The flat GDI+ interface, as far as it is used: anti-aliased filling, and pictures as files.
+// The part of GDI+ that is used: smooth ellipses, and bitmaps as picture files.
 //
-// As on Windows, GDI+ must be started by the program; until then every call gives GdiplusNotInitialized.
+// As on Windows, the program has to start GDI+. Until then every other call gives GdiplusNotInitialized.
 #pragma once
 
 #include "windef.h"
-
-#define GDIPCONST const
 
 namespace Gdiplus {
 
@@ -20,15 +18,10 @@ enum GpStatus
     UnsupportedGdiplusVersion = 17,
     GdiplusNotInitialized = 18,
 };
-using Status = GpStatus;
 
 enum SmoothingMode
 {
-    SmoothingModeInvalid = -1,
     SmoothingModeDefault = 0,
-    SmoothingModeHighSpeed = 1,
-    SmoothingModeHighQuality = 2,
-    SmoothingModeNone = 3,
     SmoothingModeAntiAlias = 4,
 };
 
@@ -62,10 +55,10 @@ WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush);
 WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
                                     INT height);
 
-// A copy of the bitmap's pixels; to be given to GdipDisposeImage. The palette is not used.
+// Copies the pixels of the bitmap; GdipDisposeImage releases the copy. The palette is not used.
 WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image);
 WINGDIAPI GpStatus GdipDisposeImage(GpImage* image);
-// Writes a picture file; the one encoder there is writes PNG. The parameters are not used.
+// Writes a picture file. There is one encoder, for PNG; the parameters are not used.
 WINGDIAPI GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder,
                                        const EncoderParameters* parameters);
 

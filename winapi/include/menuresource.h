@@ -1,5 +1,5 @@
-// Menus that a module brings along. On Windows they are part of the module's file; here the build turns their
-// source into a table that makes itself known while the module loads.
+// Menus that a module brings along. On Windows they are part of the module's file. Here the build turns their
+// source into a table, which registers itself while the module loads.
 #pragma once
 
 #include "windef.h"
@@ -12,8 +12,7 @@ struct MenuResourceItem
     LPCSTR text;
 };
 
-// `items` must live as long as the module that holds it, which is also the one that LoadMenu finds the menu
-// in.
+// `items` must live as long as the module that holds it. LoadMenu finds the menu in that module.
 WINBASEAPI void RegisterMenuResource(UINT id, const MenuResourceItem* items, int count);
 
 // Registers one menu while the module loads.

@@ -1,11 +1,11 @@
-// Objects that count their references, and the text and the variant that their calls pass.
+// Objects that count their references, and the texts and variants that their calls pass.
 #pragma once
 
 #include "winbase.h"
 
 #include <cstring>
 
-// ---- results of calls
+// ---- Results of calls.
 
 #define E_NOTIMPL (static_cast<HRESULT>(0x80004001u))
 #define E_NOINTERFACE (static_cast<HRESULT>(0x80004002u))
@@ -13,7 +13,7 @@
 #define CO_E_OBJNOTCONNECTED (static_cast<HRESULT>(0x800401FDu))
 #define DISP_E_MEMBERNOTFOUND (static_cast<HRESULT>(0x80020003u))
 
-// ---- interfaces
+// ---- Interfaces.
 
 #define STDMETHODCALLTYPE
 
@@ -59,23 +59,21 @@ struct IDispatch : IUnknown
                                              UINT* badArgument) = 0;
 };
 
-// ---- text. Its length stands before it; null is an empty text.
+// ---- Texts, which know their length. Null is an empty text. SysFreeString releases one.
 
 using BSTR = OLECHAR*;
 
-WINBASEAPI BSTR WINAPI SysAllocString(const OLECHAR* text);
 WINBASEAPI BSTR WINAPI SysAllocStringLen(const OLECHAR* text, UINT length);
 WINBASEAPI void WINAPI SysFreeString(BSTR text);
 WINBASEAPI UINT WINAPI SysStringLen(BSTR text);
 
-// ---- variants
+// ---- Variants: a number or an object.
 
 using VARTYPE = USHORT;
 enum VARENUM
 {
     VT_EMPTY = 0,
     VT_I4 = 3,
-    VT_BSTR = 8,
     VT_DISPATCH = 9
 };
 
@@ -93,5 +91,5 @@ struct VARIANT
 };
 
 WINBASEAPI void WINAPI VariantInit(VARIANT* variant);
-// Gives back what the variant holds.
+// Releases what the variant holds, and empties it.
 WINBASEAPI HRESULT WINAPI VariantClear(VARIANT* variant);

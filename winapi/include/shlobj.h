@@ -1,11 +1,10 @@
-// The user's folders.
+// The folders of the user.
 #pragma once
 
 #include "windef.h"
 #include "winerror.h"
 
 #define CSIDL_APPDATA 0x001A
-#define CSIDL_FLAG_CREATE 0x8000
 #define SHGFP_TYPE_CURRENT 0u
 
 // Gives the folder of the user's application data: $XDG_DATA_HOME, else ~/.local/share. `path` holds MAX_PATH

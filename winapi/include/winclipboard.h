@@ -1,16 +1,14 @@
-// The clipboard: plain text only.
+// The clipboard, which holds plain text only.
 #pragma once
 
 #include "windef.h"
 
-#define CF_TEXT 1u
 #define CF_UNICODETEXT 13u
 
 WINUSERAPI BOOL WINAPI OpenClipboard(HWND owner);
 WINUSERAPI BOOL WINAPI CloseClipboard();
 WINUSERAPI BOOL WINAPI EmptyClipboard();
-// Takes the memory over when it succeeds.
+// `memory`: from GlobalAlloc, a text that ends in a null. The clipboard owns it if the call succeeds.
 WINUSERAPI HANDLE WINAPI SetClipboardData(UINT format, HANDLE memory);
-// The memory stays the clipboard's and is valid until it is closed.
+// The memory belongs to the clipboard and is valid until the clipboard is closed. Null if there is no text.
 WINUSERAPI HANDLE WINAPI GetClipboardData(UINT format);
-WINUSERAPI BOOL WINAPI IsClipboardFormatAvailable(UINT format);

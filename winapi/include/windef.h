@@ -8,12 +8,8 @@
 #define WINAPI
 #define CALLBACK
 #define APIENTRY
-#define PASCAL
-#define WINGDIPAPI
-#define CONST const
-#define VOID void
 
-// Every call is an exported C function, as on Windows.
+// As on Windows, each call is a C function that the library exports.
 #define WINBASEAPI extern "C" __attribute__((visibility("default")))
 #define WINUSERAPI WINBASEAPI
 #define WINGDIAPI WINBASEAPI
@@ -29,7 +25,6 @@
 using BOOL = int;
 using BYTE = unsigned char;
 using CHAR = char;
-using UCHAR = unsigned char;
 using SHORT = short;
 using USHORT = unsigned short;
 using WORD = std::uint16_t;
@@ -40,7 +35,6 @@ using ULONG = std::uint32_t;
 using DWORD = std::uint32_t;
 using LONGLONG = long long;
 using ULONGLONG = unsigned long long;
-using DWORD64 = std::uint64_t;
 using INT_PTR = std::intptr_t;
 using UINT_PTR = std::uintptr_t;
 using LONG_PTR = std::intptr_t;
@@ -50,21 +44,14 @@ using SIZE_T = ULONG_PTR;
 using WCHAR = char16_t; // 16 bits, unlike this platform's wchar_t
 using LPVOID = void*;
 using LPCVOID = const void*;
-using PVOID = void*;
 using LPSTR = char*;
 using LPCSTR = const char*;
 using LPTSTR = char*;
 using LPCTSTR = const char*;
-using TCHAR = char;
 using LPWSTR = WCHAR*;
 using LPCWSTR = const WCHAR*;
-using LPBYTE = BYTE*;
-using LPWORD = WORD*;
 using LPDWORD = DWORD*;
-using PDWORD = DWORD*;
-using LPINT = int*;
 using LPBOOL = BOOL*;
-using FLOAT = float;
 using WPARAM = UINT_PTR;
 using LPARAM = LONG_PTR;
 using LRESULT = LONG_PTR;
@@ -72,7 +59,6 @@ using ATOM = WORD;
 using COLORREF = DWORD; // 0x00BBGGRR
 using HRESULT = LONG;
 using LCID = DWORD;
-using LANGID = WORD;
 using LCTYPE = DWORD;
 
 #define DECLARE_HANDLE(name)                                                                                 \
@@ -97,19 +83,13 @@ DECLARE_HANDLE(HBITMAP);
 DECLARE_HANDLE(HRGN);
 DECLARE_HANDLE(HPALETTE);
 DECLARE_HANDLE(HHOOK);
-DECLARE_HANDLE(HMONITOR);
-DECLARE_HANDLE(HACCEL);
 using HMODULE = HINSTANCE;
 using HCURSOR = HICON;
 using HGLOBAL = HANDLE;
-using HLOCAL = HANDLE;
-using HKL = HANDLE;
 
 #define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)))
 
-using FARPROC = INT_PTR (*)();
 using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
-using DLGPROC = INT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
 using HOOKPROC = LRESULT (*)(int, WPARAM, LPARAM);
 using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
 
@@ -131,10 +111,7 @@ struct RECT
     LONG bottom;
 };
 using LPPOINT = POINT*;
-using PPOINT = POINT*;
-using LPSIZE = SIZE*;
 using LPRECT = RECT*;
-using PRECT = RECT*;
 using LPCRECT = const RECT*;
 
 struct GUID
@@ -149,15 +126,11 @@ using CLSID = GUID;
 #define LOWORD(l) (static_cast<WORD>(static_cast<DWORD_PTR>(l) & 0xffff))
 #define HIWORD(l) (static_cast<WORD>((static_cast<DWORD_PTR>(l) >> 16) & 0xffff))
 #define LOBYTE(w) (static_cast<BYTE>(static_cast<DWORD_PTR>(w) & 0xff))
-#define HIBYTE(w) (static_cast<BYTE>((static_cast<DWORD_PTR>(w) >> 8) & 0xff))
-#define MAKEWORD(a, b)                                                                                       \
-    (static_cast<WORD>(static_cast<BYTE>(a) | (static_cast<WORD>(static_cast<BYTE>(b)) << 8)))
 #define MAKELONG(a, b)                                                                                       \
     (static_cast<LONG>(static_cast<DWORD>(static_cast<WORD>(a)) |                                            \
                        (static_cast<DWORD>(static_cast<WORD>(b)) << 16)))
 #define MAKEWPARAM(l, h) (static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(l, h))))
 #define MAKELPARAM(l, h) (static_cast<LPARAM>(static_cast<DWORD>(MAKELONG(l, h))))
-#define MAKELRESULT(l, h) (static_cast<LRESULT>(static_cast<DWORD>(MAKELONG(l, h))))
 #define GET_X_LPARAM(lp) (static_cast<int>(static_cast<short>(LOWORD(lp))))
 #define GET_Y_LPARAM(lp) (static_cast<int>(static_cast<short>(HIWORD(lp))))
 
@@ -167,5 +140,3 @@ using CLSID = GUID;
 #define GetRValue(rgb) (LOBYTE(rgb))
 #define GetGValue(rgb) (LOBYTE((rgb) >> 8))
 #define GetBValue(rgb) (LOBYTE((rgb) >> 16))
-
-#define UNREFERENCED_PARAMETER(P) (static_cast<void>(P))

@@ -1,4 +1,4 @@
-// Error codes of the calls, and results of the shell's.
+// Errors that GetLastError gives (ERROR_...), and results of calls that return an HRESULT.
 #pragma once
 
 #include "windef.h"
@@ -24,20 +24,17 @@
 #define ERROR_FILE_EXISTS 80u
 #define ERROR_CANNOT_MAKE 82u
 #define ERROR_INVALID_PARAMETER 87u
-#define ERROR_BROKEN_PIPE 109u
 #define ERROR_DISK_FULL 112u
 #define ERROR_INSUFFICIENT_BUFFER 122u
 #define ERROR_INVALID_NAME 123u
 #define ERROR_MOD_NOT_FOUND 126u
 #define ERROR_NEGATIVE_SEEK 131u
 #define ERROR_DIR_NOT_EMPTY 145u
-#define ERROR_BUSY 170u
 #define ERROR_ALREADY_EXISTS 183u
 #define ERROR_FILENAME_EXCED_RANGE 206u
 #define ERROR_DIRECTORY 267u
 #define ERROR_NOT_OWNER 288u
 #define ERROR_INVALID_FLAGS 1004u
-#define ERROR_NO_UNICODE_TRANSLATION 1113u
 #define ERROR_IO_DEVICE 1117u
 #define ERROR_MR_MID_NOT_FOUND 317u
 #define ERROR_INVALID_WINDOW_HANDLE 1400u

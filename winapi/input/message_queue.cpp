@@ -2,6 +2,7 @@
 #include "message_queue.h"
 
 #include "application.h"
+#include "clock.h"
 #include "keyboard.h"
 #include "mouse.h"
 #include "timer.h"
@@ -299,7 +300,7 @@ void postInput(Input input)
 MSG makeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const QPoint place = pointerPlace();
-    return {window, message, wParam, lParam, GetTickCount(), {place.x(), place.y()}};
+    return {window, message, wParam, lParam, tickCount(), {place.x(), place.y()}};
 }
 
 void discardMessagesOf(const Window& window)
@@ -321,7 +322,7 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     }
     {
         const std::lock_guard lock(inbox().mutex);
-        inbox().messages.push_back({window, message, wParam, lParam, GetTickCount(), {}});
+        inbox().messages.push_back({window, message, wParam, lParam, tickCount(), {}});
     }
     wakeQueue();
     return TRUE;
@@ -374,8 +375,7 @@ LRESULT DispatchMessageA(const MSG* message)
     if (!message)
         return 0;
     if (message->message == WM_TIMER && message->lParam) {
-        reinterpret_cast<TIMERPROC>(message->lParam)(message->hwnd, WM_TIMER, message->wParam,
-                                                     GetTickCount());
+        reinterpret_cast<TIMERPROC>(message->lParam)(message->hwnd, WM_TIMER, message->wParam, tickCount());
         return 0;
     }
     if (!message->hwnd)

@@ -13,9 +13,8 @@ namespace winapi {
 
 namespace {
 
-constexpr UINT stateFlags = MF_GRAYED | MF_DISABLED | MF_CHECKED | MF_HILITE;
-constexpr UINT typeFlags = MF_SEPARATOR | MF_OWNERDRAW | MF_MENUBREAK | MF_MENUBARBREAK;
-constexpr UINT notFound = static_cast<UINT>(-1);
+constexpr UINT kStateFlags = MF_GRAYED | MF_DISABLED | MF_CHECKED;
+constexpr UINT kNotFound = static_cast<UINT>(-1);
 
 HandleTable<HMENU, Menu>& menus()
 {
@@ -23,7 +22,7 @@ HandleTable<HMENU, Menu>& menus()
     return table;
 }
 
-// An item where it stands: its menu may be a submenu of the one that was asked.
+// Where an item stands. Its menu may be a submenu of the menu that was asked.
 struct Place
 {
     std::shared_ptr<Menu> menu;
@@ -58,15 +57,15 @@ std::optional<Place> findItem(HMENU handle, UINT item, UINT flags)
     else if (item < menu->items.size())
         place = Place{menu, item};
     if (!place)
-        SetLastError(ERROR_MENU_ITEM_NOT_FOUND);
+        fail(ERROR_MENU_ITEM_NOT_FOUND);
     return place;
 }
 
 MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
 {
     MenuItem item;
-    item.type = flags & typeFlags;
-    item.state = flags & stateFlags;
+    item.type = flags & MF_SEPARATOR;
+    item.state = flags & kStateFlags;
     if (flags & MF_POPUP)
         item.subMenu = reinterpret_cast<HMENU>(id);
     else
@@ -78,12 +77,12 @@ MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
     return item;
 }
 
-// Gives the item's old state within `mask`.
+// Sets the bits of `mask` in the state of the item to those of `flags`, and gives the bits before.
 UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
 {
     const auto place = findItem(handle, item, flags);
     if (!place)
-        return notFound;
+        return kNotFound;
     UINT& state = place->item().state;
     const UINT before = state & mask;
     state = (state & ~mask) | (flags & mask);
@@ -96,7 +95,7 @@ std::shared_ptr<Menu> findMenu(HMENU handle)
 {
     auto menu = menus().find(handle);
     if (!menu)
-        SetLastError(ERROR_INVALID_MENU_HANDLE);
+        fail(ERROR_INVALID_MENU_HANDLE);
     return menu;
 }
 
@@ -130,16 +129,11 @@ BOOL DestroyMenu(HMENU handle)
     return TRUE;
 }
 
-BOOL IsMenu(HMENU menu)
-{
-    return findMenu(menu) != nullptr;
-}
-
 BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
 {
     const auto menu = findMenu(handle);
     MenuItem item = makeItem(flags, id, text);
-    if (!menu || (item.subMenu && !IsMenu(item.subMenu)))
+    if (!menu || (item.subMenu && !findMenu(item.subMenu)))
         return FALSE;
     menu->items.push_back(std::move(item));
     return TRUE;
@@ -176,14 +170,14 @@ int GetMenuItemCount(HMENU handle)
 UINT GetMenuItemID(HMENU menu, int position)
 {
     const auto place = findItem(menu, static_cast<UINT>(position), MF_BYPOSITION);
-    return !place || place->item().subMenu ? notFound : place->item().id;
+    return !place || place->item().subMenu ? kNotFound : place->item().id;
 }
 
 UINT GetMenuState(HMENU menu, UINT item, UINT flags)
 {
     const auto place = findItem(menu, item, flags);
     if (!place)
-        return notFound;
+        return kNotFound;
     const MenuItem& found = place->item();
     if (!found.subMenu)
         return found.flags();

@@ -1,4 +1,4 @@
-// Menus as the calls see them.
+// Menus, for those who show or load them.
 #pragma once
 
 #include "winmenu.h"
@@ -18,7 +18,7 @@ struct MenuItem
     std::string text;
 
     bool isSeparator() const { return (type & MF_SEPARATOR) != 0; }
-    // The flags that messages and GetMenuState tell of an item that opens no menu.
+    // What messages tell of the item, and GetMenuState unless the item opens a menu.
     UINT flags() const { return type | state | (subMenu ? MF_POPUP : 0); }
 };
 
@@ -27,7 +27,7 @@ struct Menu
     std::vector<MenuItem> items;
 };
 
-// Null, and the last error set, when there is no such menu.
+// Null, and the last error set, if there is no such menu.
 std::shared_ptr<Menu> findMenu(HMENU handle);
 HMENU addMenu(Menu menu);
 

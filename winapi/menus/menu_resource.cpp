@@ -1,8 +1,9 @@
-// Resources: the menus that modules have registered.
+// The menus that modules have registered, and how a menu is made from its resource.
 #include "menuresource.h"
 
 #include "errors.h"
 #include "menu.h"
+#include "resource_id.h"
 #include "winerror.h"
 
 #include <dlfcn.h>
@@ -46,10 +47,10 @@ const Resource* findResource(HMODULE module, UINT id)
 
 UINT toId(LPCSTR name)
 {
-    return IS_INTRESOURCE(name) ? static_cast<UINT>(reinterpret_cast<ULONG_PTR>(name)) : 0;
+    return isResourceId(name) ? static_cast<UINT>(reinterpret_cast<ULONG_PTR>(name)) : 0;
 }
 
-// Makes the items of one depth from the front of `items`, and takes them off.
+// Makes a menu of the items at the front of `items` that are as deep as the first, and takes them off.
 HMENU buildMenu(std::span<const MenuResourceItem>& items)
 {
     const HMENU menu = CreatePopupMenu();
@@ -79,17 +80,15 @@ HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type)
 {
     const Resource* resource = type == RT_MENU ? findResource(module, toId(name)) : nullptr;
     if (!resource)
-        fail(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return fail(ERROR_RESOURCE_NAME_NOT_FOUND, nullptr);
     return reinterpret_cast<HRSRC>(const_cast<Resource*>(resource));
 }
 
 HMENU LoadMenuA(HINSTANCE module, LPCSTR name)
 {
     const Resource* resource = findResource(module, toId(name));
-    if (!resource || resource->items.empty()) {
-        fail(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
+    if (!resource || resource->items.empty())
+        return fail(ERROR_RESOURCE_NAME_NOT_FOUND, nullptr);
     auto items = resource->items;
     return buildMenu(items);
 }

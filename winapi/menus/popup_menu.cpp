@@ -1,4 +1,4 @@
-// The showing of a menu: a Qt menu in its own loop, and the messages that its owner hears.
+// Shows a menu as a menu of Qt, and tells its owner what happens.
 #include "application.h"
 #include "errors.h"
 #include "menu.h"
@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <algorithm>
 #include <vector>
 
 namespace winapi {
@@ -21,12 +22,11 @@ namespace {
 struct Showing
 {
     HWND owner;
-    bool silent; // the owner hears nothing
     UINT chosen = 0;
 
     void tell(UINT message, WPARAM wParam, LPARAM lParam) const
     {
-        if (!silent && IsWindow(owner))
+        if (IsWindow(owner))
             SendMessageA(owner, message, wParam, lParam);
     }
 };
@@ -98,7 +98,7 @@ private:
         return subMenu;
     }
 
-    // Qt tells a menu of its submenus' items as well.
+    // Qt also tells a menu about the items of its submenus.
     void tellSelection(QAction* action)
     {
         if (!actions().contains(action))
@@ -150,42 +150,22 @@ QPointer<PopupMenu>& shown()
     return menu;
 }
 
-QPoint cornerFor(const QMenu& menu, UINT flags, QPoint place)
-{
-    const QSize size = menu.sizeHint();
-    if (flags & TPM_CENTERALIGN)
-        place.rx() -= size.width() / 2;
-    else if (flags & TPM_RIGHTALIGN)
-        place.rx() -= size.width();
-    if (flags & TPM_VCENTERALIGN)
-        place.ry() -= size.height() / 2;
-    else if (flags & TPM_BOTTOMALIGN)
-        place.ry() -= size.height();
-    return place;
-}
-
+// 0 for a key that a menu has no use for.
 int toQtKey(WPARAM key)
 {
-    switch (key) {
-    case VK_UP:
-        return Qt::Key_Up;
-    case VK_DOWN:
-        return Qt::Key_Down;
-    case VK_LEFT:
-        return Qt::Key_Left;
-    case VK_RIGHT:
-        return Qt::Key_Right;
-    case VK_HOME:
-        return Qt::Key_Home;
-    case VK_END:
-        return Qt::Key_End;
-    case VK_RETURN:
-        return Qt::Key_Return;
-    case VK_ESCAPE:
-        return Qt::Key_Escape;
-    default:
-        return 0;
-    }
+    struct Key
+    {
+        WPARAM windows;
+        int qt;
+    };
+    constexpr Key kKeys[] = {
+        {VK_UP, Qt::Key_Up},         {VK_DOWN, Qt::Key_Down},     {VK_LEFT, Qt::Key_Left},
+        {VK_RIGHT, Qt::Key_Right},   {VK_HOME, Qt::Key_Home},     {VK_END, Qt::Key_End},
+        {VK_RETURN, Qt::Key_Return}, {VK_ESCAPE, Qt::Key_Escape},
+    };
+    const auto* found = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                     [key](const Key& known) { return known.windows == key; });
+    return found == std::end(kKeys) ? 0 : found->qt;
 }
 
 void sendKey(int key, const QString& text)
@@ -216,6 +196,7 @@ LRESULT filterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
+// While this lives, the messages of the menu's loop go through filterMenuMessage.
 class MenuFilter
 {
 public:
@@ -230,14 +211,14 @@ private:
     HHOOK m_hook;
 };
 
-void show(PopupMenu& popup, UINT flags, QPoint place)
+void show(PopupMenu& popup, QPoint place)
 {
     const MenuFilter filter;
-    popup.exec(cornerFor(popup, flags, place));
+    popup.exec(place);
 }
 
 // False when there is nothing to show.
-bool runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
+bool runMenu(HMENU menu, QPoint place, Showing& showing)
 {
     PopupMenu popup(menu, showing);
     shown() = &popup;
@@ -246,7 +227,7 @@ bool runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
     popup.prepare(0);
     const bool filled = !popup.isEmpty();
     if (filled)
-        show(popup, flags, place);
+        show(popup, place);
     else
         showing.tell(WM_UNINITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0);
     showing.tell(WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
@@ -254,6 +235,12 @@ bool runMenu(HMENU menu, UINT flags, QPoint place, Showing& showing)
     return filled;
 }
 
+}
+
+void endMenu()
+{
+    if (shown())
+        shown()->close();
 }
 
 }
@@ -269,26 +256,21 @@ using namespace winapi;
 
 BOOL TrackPopupMenu(HMENU menu, UINT flags, int x, int y, int, HWND owner, const RECT*)
 {
-    if (!IsMenu(menu))
-        return fail(ERROR_INVALID_MENU_HANDLE);
+    if (flags != 0)
+        return fail(ERROR_INVALID_FLAGS);
+    if (!findMenu(menu))
+        return FALSE;
     if (!IsWindow(owner))
         return fail(ERROR_INVALID_WINDOW_HANDLE);
     if (shown())
         return fail(ERROR_POPUP_ALREADY_ACTIVE);
     application();
-    Showing showing{owner, (flags & TPM_NONOTIFY) != 0};
-    const bool wasShown = runMenu(menu, flags, {x, y}, showing);
+    Showing showing{owner};
+    const bool wasShown = runMenu(menu, {x, y}, showing);
     SetLastError(ERROR_SUCCESS);
     if (!wasShown)
         return FALSE;
-    if (flags & TPM_RETURNCMD)
-        return static_cast<BOOL>(showing.chosen);
-    if (showing.chosen != 0 && !showing.silent)
+    if (showing.chosen != 0)
         PostMessageA(owner, WM_COMMAND, showing.chosen, 0);
     return TRUE;
-}
-
-BOOL EndMenu()
-{
-    return shown() && shown()->close();
 }

@@ -1,4 +1,4 @@
-// The print dialog.
+// The dialog that asks for a printer.
 #include "commdlg.h"
 
 #include "application.h"
@@ -18,7 +18,7 @@ namespace {
 
 QString nameOf(const QPrinter& printer)
 {
-    return printer.outputFormat() == QPrinter::PdfFormat ? pdfPrinterName : printer.printerName();
+    return printer.outputFormat() == QPrinter::PdfFormat ? kPdfPrinterName : printer.printerName();
 }
 
 HGLOBAL makeBlock(const void* data, std::size_t size)
@@ -77,7 +77,7 @@ BOOL tellChoice(const QPrinter& printer, PRINTDLGA& dialog)
     return dialog.hDC ? TRUE : failDialog(PDERR_INITFAILURE);
 }
 
-// What the dialog begins with: what it was left at the last time, if the caller has kept that.
+// The dialog begins with the choice of the last time, if the caller has kept it.
 void applyChoice(QPrinter& printer, const PRINTDLGA& dialog)
 {
     if (!dialog.hDevMode)
@@ -86,8 +86,7 @@ void applyChoice(QPrinter& printer, const PRINTDLGA& dialog)
     GlobalUnlock(dialog.hDevMode);
 }
 
-// The printer to a file stands among the printers, so that a request without the box for it has that one
-// still.
+// Printing to a file is always offered, as one of the printers, also where the caller wants no box for it.
 bool ask(QPrinter& printer, const PRINTDLGA& request)
 {
     QPrintDialog dialog(&printer);

@@ -1,4 +1,4 @@
-// Printers and print jobs.
+// Printers as devices to draw on, and print jobs.
 #include "printing.h"
 
 #include "application.h"
@@ -20,14 +20,7 @@ int printerCapability(const QPrinter& printer, int index)
     const QPageLayout layout = printer.pageLayout();
     const QRect paper = layout.fullRectPixels(printer.resolution());
     const QRect page = layout.paintRectPixels(printer.resolution());
-    const QRectF size = layout.paintRect(QPageLayout::Millimeter);
     switch (index) {
-    case TECHNOLOGY:
-        return DT_RASPRINTER;
-    case HORZSIZE:
-        return qRound(size.width());
-    case VERTSIZE:
-        return qRound(size.height());
     case HORZRES:
         return page.width();
     case VERTRES:
@@ -43,18 +36,12 @@ int printerCapability(const QPrinter& printer, int index)
     case LOGPIXELSX:
     case LOGPIXELSY:
         return printer.resolution();
-    case BITSPIXEL:
-        return 24;
-    case PLANES:
-        return 1;
-    case NUMCOLORS:
-        return -1;
     default:
         return 0;
     }
 }
 
-// A printer with its job. A page keeps a painter open, which is what the drawing calls use.
+// A printer with its job. While a page is open, the drawing calls use the painter of the job.
 class PrinterSurface : public Surface
 {
 public:
@@ -114,15 +101,15 @@ private:
         return file.fileName().isEmpty() || file.open(QIODevice::WriteOnly);
     }
 
-    // The writing of a file reports no failure, but one that stopped too soon lacks its end.
+    // Qt reports no failure of writing a file, but a file whose writing failed lacks its end.
     bool isComplete() const
     {
         if (m_printer.outputFormat() != QPrinter::PdfFormat)
             return m_printer.printerState() != QPrinter::Error;
-        constexpr qint64 tail = 16;
+        constexpr qint64 kTail = 16;
         QFile file(m_printer.outputFileName());
         return file.open(QIODevice::ReadOnly) && !file.isSequential() &&
-               file.seek(std::max<qint64>(0, file.size() - tail)) && file.read(tail).contains("%%EOF");
+               file.seek(std::max<qint64>(0, file.size() - kTail)) && file.read(kTail).contains("%%EOF");
     }
 
     QPrinter m_printer;
@@ -139,7 +126,7 @@ PrinterSurface* surfaceOf(HDC dc)
 
 bool choosePrinter(QPrinter& printer, const QString& name, const QString& port)
 {
-    if (name == pdfPrinterName) {
+    if (name == kPdfPrinterName) {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(port);
         return true;
@@ -150,7 +137,7 @@ bool choosePrinter(QPrinter& printer, const QString& name, const QString& port)
     return true;
 }
 
-// All that the printer can reach counts as its page.
+// Makes the page as large as the printer can print on.
 void widenPage(QPrinter& printer)
 {
     const bool toFile = printer.outputFormat() == QPrinter::PdfFormat;
@@ -159,10 +146,7 @@ void widenPage(QPrinter& printer)
 
 int jobResult(bool done, DWORD error)
 {
-    if (done)
-        return 1;
-    SetLastError(error);
-    return SP_ERROR;
+    return done ? 1 : fail(error, SP_ERROR);
 }
 
 }
@@ -172,10 +156,8 @@ HDC createPrinterContext(const char* name, const char* port, const DEVMODEA* mod
     application();
     auto surface = std::make_unique<PrinterSurface>();
     QPrinter& printer = surface->printer();
-    if (!choosePrinter(printer, QString::fromUtf8(name), QString::fromUtf8(port))) {
-        fail(ERROR_INVALID_PRINTER_NAME);
-        return nullptr;
-    }
+    if (!choosePrinter(printer, QString::fromUtf8(name), QString::fromUtf8(port)))
+        return fail(ERROR_INVALID_PRINTER_NAME, nullptr);
     if (mode)
         applyMode(printer, *mode);
     widenPage(printer);
@@ -215,13 +197,6 @@ void applyMode(QPrinter& printer, const DEVMODEA& mode)
 }
 
 using namespace winapi;
-
-HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR port, const DEVMODEA* mode)
-{
-    if (driver && qstricmp(driver, "DISPLAY") == 0)
-        return createScreenContext();
-    return device ? createPrinterContext(device, port, mode) : nullptr;
-}
 
 int StartDocA(HDC dc, const DOCINFOA* document)
 {

@@ -1,4 +1,4 @@
-// Printers, as contexts and the print dialog share them.
+// Printers, for contexts and for the print dialog.
 #pragma once
 
 #include "wingdi.h"
@@ -10,13 +10,13 @@ class QPrinter;
 namespace winapi {
 
 // The printer that stands in where the system has none, and writes a file.
-inline const QString pdfPrinterName = QStringLiteral("Print to File (PDF)");
+inline const QString kPdfPrinterName = QStringLiteral("Print to File (PDF)");
 
-// A context for the printer of this name, writing to the file `port` if that is a printer to a file. Null if
-// there is no such printer.
+// A context for the printer of this name. The printer that stands in writes to the file `port`. `mode` may be
+// null. Gives null, and sets the last error, if there is no such printer.
 HDC createPrinterContext(const char* name, const char* port, const DEVMODEA* mode);
 
-// The paper and the resolution of a printer, out and in.
+// The paper, the copies and the resolution of a printer: what they are, and what they shall be.
 DEVMODEA modeOf(const QPrinter& printer, const QString& name);
 void applyMode(QPrinter& printer, const DEVMODEA& mode);
 

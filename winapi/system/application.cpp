@@ -1,3 +1,4 @@
+// Finds or makes the Qt application that all windows need.
 #include "application.h"
 
 namespace winapi {
@@ -10,7 +11,7 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// Never destroyed: windows and objects of the program may outlive static destruction.
+// Never destroyed: windows of the program may be left when its static objects are destroyed.
 QApplication& makeApplication()
 {
     static int argc = 1;

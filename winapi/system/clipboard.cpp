@@ -1,7 +1,7 @@
-// The clipboard of Qt, as plain text.
+// The clipboard: Qt's, of which only plain text is used.
 #include "application.h"
 #include "errors.h"
-#include "winbase.h"
+#include "memory.h"
 #include "winclipboard.h"
 
 #include <QClipboard>
@@ -14,39 +14,22 @@ using namespace winapi;
 namespace {
 
 bool isOpen = false;
-HGLOBAL lentText = nullptr; // what GetClipboardData gave out
-
-bool isText(UINT format)
-{
-    return format == CF_UNICODETEXT || format == CF_TEXT;
-}
+HGLOBAL lentText = nullptr; // what GetClipboardData gave last
 
 // Up to the null that ends the text, or the end of the memory.
-QString textOfMemory(UINT format, HANDLE memory)
+QString textOfMemory(HANDLE memory)
 {
-    const SIZE_T size = GlobalSize(memory);
-    if (format == CF_UNICODETEXT) {
-        const auto* text = static_cast<const char16_t*>(memory);
-        return QString::fromUtf16(text, std::find(text, text + size / 2, u'\0') - text);
-    }
-    const auto* text = static_cast<const char*>(memory);
-    return QString::fromUtf8(text, std::find(text, text + size, '\0') - text);
+    const auto* text = static_cast<const char16_t*>(memory);
+    return QString::fromUtf16(text, std::find(text, text + sizeOfMemory(memory) / 2, u'\0') - text);
 }
 
-HGLOBAL toMemory(const void* text, std::size_t size)
+HGLOBAL toMemory(const QString& text)
 {
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+    const std::size_t length = static_cast<std::size_t>(text.size()) + 1;
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, length * sizeof(WCHAR));
     if (memory)
-        std::copy_n(static_cast<const char*>(text), size, static_cast<char*>(memory));
+        std::copy_n(text.utf16(), length, static_cast<ushort*>(memory));
     return memory;
-}
-
-HGLOBAL toMemory(UINT format, const QString& text)
-{
-    if (format == CF_UNICODETEXT)
-        return toMemory(text.utf16(), (static_cast<std::size_t>(text.size()) + 1) * sizeof(WCHAR));
-    const QByteArray utf8 = text.toUtf8();
-    return toMemory(utf8.constData(), static_cast<std::size_t>(utf8.size()) + 1);
 }
 
 void freeLentText()
@@ -91,9 +74,9 @@ HANDLE SetClipboardData(UINT format, HANDLE memory)
 {
     if (!requireOpen())
         return nullptr;
-    if (!isText(format) || !memory)
-        return fail(ERROR_INVALID_PARAMETER), nullptr;
-    QApplication::clipboard()->setText(textOfMemory(format, memory));
+    if (format != CF_UNICODETEXT || !memory)
+        return fail(ERROR_INVALID_PARAMETER, nullptr);
+    QApplication::clipboard()->setText(textOfMemory(memory));
     GlobalFree(memory);
     return memory;
 }
@@ -103,14 +86,9 @@ HANDLE GetClipboardData(UINT format)
     if (!requireOpen())
         return nullptr;
     const QString text = QApplication::clipboard()->text();
-    if (text.isEmpty() || !isText(format))
+    if (text.isEmpty() || format != CF_UNICODETEXT)
         return nullptr;
     freeLentText();
-    lentText = toMemory(format, text);
+    lentText = toMemory(text);
     return lentText;
-}
-
-BOOL IsClipboardFormatAvailable(UINT format)
-{
-    return isText(format) && !application().clipboard()->text().isEmpty();
 }

@@ -1,4 +1,4 @@
-// 8-bit text is UTF-8; 16-bit text is UTF-16.
+// Conversion between 8-bit text, which is UTF-8, and 16-bit text, which is UTF-16; copying of 8-bit text.
 #include "errors.h"
 #include "winnls.h"
 
@@ -19,8 +19,8 @@ bool isSurrogate(char32_t ch)
     return ch >= 0xD800 && ch <= 0xDFFF;
 }
 
-// Takes one character off the text; kInvalid for bytes that are no UTF-8.
-char32_t takeUtf8(std::string_view& text)
+// Takes one character off the beginning of the text. Gives kInvalid for bytes that are no UTF-8.
+char32_t take(std::string_view& text)
 {
     struct Form
     {
@@ -47,7 +47,7 @@ char32_t takeUtf8(std::string_view& text)
     return valid && !isSurrogate(ch) ? ch : kInvalid;
 }
 
-char32_t takeUtf16(std::u16string_view& text)
+char32_t take(std::u16string_view& text)
 {
     const char32_t first = text.front();
     text.remove_prefix(1);
@@ -79,19 +79,9 @@ void append(std::string& text, char32_t ch)
         text += static_cast<char>(0x80 | (ch >> (6 * i) & 0x3F));
 }
 
-char32_t take(std::string_view& text)
-{
-    return takeUtf8(text);
-}
-
-char32_t take(std::u16string_view& text)
-{
-    return takeUtf16(text);
-}
-
-// Converts and copies to the caller, as both calls do.
+// What both calls do: converts, and copies the result to the caller if it fits.
 template <class From, class To>
-int convert(const From* text, int size, To* result, int resultSize, bool strict)
+int convert(const From* text, int size, To* result, int resultSize)
 {
     if (!text || size == 0 || size < -1 || resultSize < 0)
         return fail(ERROR_INVALID_PARAMETER);
@@ -100,8 +90,6 @@ int convert(const From* text, int size, To* result, int resultSize, bool strict)
     std::basic_string<To> converted;
     while (!rest.empty()) {
         const char32_t ch = take(rest);
-        if (ch == kInvalid && strict)
-            return fail(ERROR_NO_UNICODE_TRANSLATION);
         append(converted, ch == kInvalid ? kReplacement : ch);
     }
 
@@ -116,22 +104,17 @@ int convert(const From* text, int size, To* result, int resultSize, bool strict)
 
 }
 
-int MultiByteToWideChar(UINT, DWORD flags, LPCSTR text, int size, LPWSTR wide, int wideSize)
+int MultiByteToWideChar(UINT, DWORD, LPCSTR text, int size, LPWSTR wide, int wideSize)
 {
-    return convert(text, size, wide, wideSize, flags & MB_ERR_INVALID_CHARS);
+    return convert(text, size, wide, wideSize);
 }
 
-int WideCharToMultiByte(UINT, DWORD flags, LPCWSTR wide, int wideSize, LPSTR text, int size, LPCSTR,
+int WideCharToMultiByte(UINT, DWORD, LPCWSTR wide, int wideSize, LPSTR text, int size, LPCSTR,
                         LPBOOL usedDefaultChar)
 {
     if (usedDefaultChar)
         *usedDefaultChar = FALSE;
-    return convert(wide, wideSize, text, size, flags & WC_ERR_INVALID_CHARS);
-}
-
-UINT GetACP()
-{
-    return CP_UTF8;
+    return convert(wide, wideSize, text, size);
 }
 
 LPSTR lstrcpynA(LPSTR destination, LPCSTR source, int size)
@@ -142,9 +125,4 @@ LPSTR lstrcpynA(LPSTR destination, LPCSTR source, int size)
     std::memmove(destination, source, length);
     destination[length] = '\0';
     return destination;
-}
-
-int lstrlenA(LPCSTR text)
-{
-    return text ? static_cast<int>(std::strlen(text)) : 0;
 }

@@ -1,3 +1,4 @@
+// The last error of each thread, the texts of errors, and the Windows error for each errno value.
 #include "errors.h"
 
 #include <algorithm>
@@ -76,7 +77,6 @@ constexpr ErrorText kErrorTexts[] = {
     {ERROR_ALREADY_EXISTS, "The object exists already."},
     {ERROR_FILENAME_EXCED_RANGE, "The name is too long."},
     {ERROR_NOT_OWNER, "The mutex is held by another thread."},
-    {ERROR_NO_UNICODE_TRANSLATION, "The text has characters that cannot be converted."},
     {ERROR_IO_DEVICE, "The device failed."},
     {ERROR_INVALID_WINDOW_HANDLE, "The handle does not belong to a window."},
     {ERROR_CLIPBOARD_NOT_OPEN, "The clipboard is not open."},
@@ -107,6 +107,8 @@ BOOL failWithErrno()
 
 }
 
+using namespace winapi;
+
 DWORD GetLastError()
 {
     return lastError;
@@ -119,19 +121,19 @@ void SetLastError(DWORD error)
 
 DWORD FormatMessageA(DWORD flags, LPCVOID, DWORD messageId, DWORD, LPSTR buffer, DWORD size, va_list*)
 {
-    if (flags & FORMAT_MESSAGE_ALLOCATE_BUFFER || !(flags & FORMAT_MESSAGE_FROM_SYSTEM))
-        return winapi::fail(ERROR_INVALID_PARAMETER), 0;
+    if (!(flags & FORMAT_MESSAGE_FROM_SYSTEM))
+        return fail(ERROR_INVALID_PARAMETER, 0u);
     const auto* found =
         std::find_if(std::begin(kErrorTexts), std::end(kErrorTexts),
                      [messageId](const ErrorText& entry) { return entry.error == messageId; });
     if (found == std::end(kErrorTexts))
-        return winapi::fail(ERROR_MR_MID_NOT_FOUND), 0;
+        return fail(ERROR_MR_MID_NOT_FOUND, 0u);
 
-    // A message ends its line, unless lines are not wanted.
+    // The text is a line of its own, unless the caller wants no line breaks.
     std::string text = found->text;
     text += flags & FORMAT_MESSAGE_MAX_WIDTH_MASK ? " " : "\r\n";
     if (text.size() >= size)
-        return winapi::fail(ERROR_INSUFFICIENT_BUFFER), 0;
+        return fail(ERROR_INSUFFICIENT_BUFFER, 0u);
     std::memcpy(buffer, text.c_str(), text.size() + 1);
     return static_cast<DWORD>(text.size());
 }

@@ -1,4 +1,4 @@
-// Files on the calls of POSIX.
+// Files and directories, by the calls of POSIX.
 #include "descriptor.h"
 #include "errors.h"
 #include "kernel_object.h"
@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 
@@ -51,7 +50,8 @@ bool isDirectory(const char* path)
     return ::stat(path, &status) == 0 && isDirectory(status);
 }
 
-// The superuser may write to any file; the mark decides all the same, as it does on Windows.
+// The permission bits decide, as the read-only mark does on Windows, though the superuser may write to any
+// file.
 bool isReadOnly(const char* path)
 {
     struct stat status;
@@ -64,7 +64,7 @@ bool isProtected(const char* path)
     return isDirectory(path) || isReadOnly(path);
 }
 
-// Windows tells a missing file from a missing directory.
+// POSIX has one error for a missing file and a missing directory, Windows has two.
 BOOL failOnPath(const char* path)
 {
     if (errno == ENOENT && !isDirectory(parentOf(path).c_str()))
@@ -72,7 +72,7 @@ BOOL failOnPath(const char* path)
     return failWithErrno();
 }
 
-// The handle is a good one, so a bad descriptor was opened for the other direction.
+// The descriptor is open, so EBADF means that it was opened only for reading, or only for writing.
 BOOL failOnTransfer()
 {
     return errno == EBADF ? fail(ERROR_ACCESS_DENIED) : failWithErrno();
@@ -80,7 +80,7 @@ BOOL failOnTransfer()
 
 int openFlags(DWORD access, DWORD disposition)
 {
-    constexpr int kDisposition[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0, O_CREAT, O_TRUNC};
+    constexpr int kDisposition[] = {0, O_CREAT | O_EXCL, O_CREAT | O_TRUNC, 0};
     const bool write = access & GENERIC_WRITE;
     const bool read = access & GENERIC_READ;
     const int mode = !write ? O_RDONLY : read ? O_RDWR : O_WRONLY;
@@ -99,7 +99,7 @@ Descriptor openDescriptor(LPCSTR path, int flags)
 bool syncDirectory(const std::string& path)
 {
     const Descriptor directory = openDescriptor(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    // Some file systems keep no directory that could be synchronised.
+    // EINVAL: the file system has nothing to synchronise there.
     return directory.isOpen() && (::fsync(directory.get()) == 0 || errno == EINVAL);
 }
 
@@ -116,11 +116,11 @@ HANDLE CreateFileA(LPCSTR path, DWORD access, DWORD, LPSECURITY_ATTRIBUTES, DWOR
                    HANDLE templateFile)
 {
     if (!path || !*path)
-        return fail(ERROR_PATH_NOT_FOUND), INVALID_HANDLE_VALUE;
-    if (disposition < CREATE_NEW || disposition > TRUNCATE_EXISTING)
-        return fail(ERROR_INVALID_PARAMETER), INVALID_HANDLE_VALUE;
+        return fail(ERROR_PATH_NOT_FOUND, INVALID_HANDLE_VALUE);
+    if (disposition < CREATE_NEW || disposition > OPEN_EXISTING)
+        return fail(ERROR_INVALID_PARAMETER, INVALID_HANDLE_VALUE);
     if (disposition != CREATE_NEW && (isDirectory(path) || (access & GENERIC_WRITE && isReadOnly(path))))
-        return fail(ERROR_ACCESS_DENIED), INVALID_HANDLE_VALUE;
+        return fail(ERROR_ACCESS_DENIED, INVALID_HANDLE_VALUE);
 
     Descriptor file = openDescriptor(path, openFlags(access, disposition));
     if (!file.isOpen()) {
@@ -178,7 +178,7 @@ BOOL SetFilePointerEx(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER positi
     const auto* object = objectFromHandle<FileObject>(file);
     if (!object)
         return FALSE;
-    if (from > FILE_END)
+    if (from >= std::size(kFrom))
         return fail(ERROR_INVALID_PARAMETER);
     const off_t result = ::lseek(object->descriptor(), distance.QuadPart, kFrom[from]);
     if (result < 0)
@@ -217,7 +217,7 @@ DWORD GetFinalPathNameByHandleA(HANDLE file, LPSTR path, DWORD size, DWORD)
     const std::string link = "/proc/self/fd/" + std::to_string(object->descriptor());
     const ssize_t length = ::readlink(link.c_str(), target, sizeof(target));
     if (length < 0)
-        return failWithErrno(), 0;
+        return failWithErrno(0u);
     if (static_cast<DWORD>(length) >= size)
         return static_cast<DWORD>(length) + 1;
     std::memcpy(path, target, static_cast<std::size_t>(length));
@@ -246,7 +246,7 @@ BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags)
     return syncDirectory(parentOf(to)) ? TRUE : failWithErrno();
 }
 
-// A link has attributes of its own, except that it counts as a directory if it leads to one.
+// A link is not followed, except that one that leads to a directory counts as a directory too.
 DWORD GetFileAttributesA(LPCSTR path)
 {
     struct stat status;
@@ -282,23 +282,4 @@ BOOL CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES)
     if (::mkdir(path, 0777) == 0)
         return TRUE;
     return errno == ENOENT ? fail(ERROR_PATH_NOT_FOUND) : failWithErrno();
-}
-
-BOOL RemoveDirectoryA(LPCSTR path)
-{
-    if (::rmdir(path) == 0)
-        return TRUE;
-    return errno == ENOTDIR ? fail(ERROR_DIRECTORY) : failOnPath(path);
-}
-
-DWORD GetTempPathA(DWORD size, LPSTR buffer)
-{
-    const char* directory = std::getenv("TMPDIR");
-    std::string path = directory && *directory ? directory : "/tmp";
-    if (path.back() != '/')
-        path += '/';
-    if (path.size() >= size)
-        return static_cast<DWORD>(path.size()) + 1;
-    std::memcpy(buffer, path.c_str(), path.size() + 1);
-    return static_cast<DWORD>(path.size());
 }

@@ -1,9 +1,7 @@
+// Where a user's programs keep their data.
 #include "shlobj.h"
 
-#include "winbase.h"
-
 #include <pwd.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -20,7 +18,7 @@ std::string homeDirectory()
     return user && user->pw_dir ? user->pw_dir : "";
 }
 
-// A relative $XDG_DATA_HOME is to be ignored.
+// The XDG Base Directory Specification has a relative $XDG_DATA_HOME ignored.
 std::string dataDirectory()
 {
     if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data == '/')

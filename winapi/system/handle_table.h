@@ -1,4 +1,4 @@
-// Handles that are never used twice, so that one that was released is found out and not taken for another.
+// Tables of objects by handle. A handle is never given out twice, so a released one is known to be bad.
 #pragma once
 
 #include "windef.h"
@@ -9,10 +9,12 @@
 
 namespace winapi {
 
-// Above the small numbers that stand for system colours and resource ids.
+// Smaller numbers stand for system colours, resource ids and the like.
+constexpr ULONG_PTR kFirstHandle = 0x10000;
+
 inline ULONG_PTR nextHandleValue()
 {
-    static ULONG_PTR last = 0x10000;
+    static ULONG_PTR last = kFirstHandle;
     return last += 4;
 }
 

@@ -1,3 +1,4 @@
+// Waiting for a handle's object, and closing it.
 #include "kernel_object.h"
 
 #include "errors.h"
@@ -8,8 +9,7 @@ namespace winapi {
 
 DWORD KernelObject::wait(DWORD)
 {
-    fail(ERROR_INVALID_HANDLE);
-    return WAIT_FAILED;
+    return fail(ERROR_INVALID_HANDLE, WAIT_FAILED);
 }
 
 }

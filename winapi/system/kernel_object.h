@@ -10,14 +10,15 @@ class KernelObject
 public:
     virtual ~KernelObject() = default;
 
-    // Lets go of what the object holds and says whether that worked; ERROR_SUCCESS if so.
+    // Gives back what the object holds. ERROR_SUCCESS, or why that failed.
     virtual DWORD close() { return ERROR_SUCCESS; }
 
-    // WaitForSingleObject.
+    // What WaitForSingleObject does. An object that cannot be waited for gives WAIT_FAILED.
     virtual DWORD wait(DWORD milliseconds);
 };
 
-// The object of a handle, or null, with the last error, if the handle is none or leads to another kind.
+// The object of a handle. Null, and the last error set, if the handle is bad or its object is of another
+// kind.
 template <class Object>
 Object* objectFromHandle(HANDLE handle)
 {

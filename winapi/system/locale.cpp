@@ -1,4 +1,4 @@
-// Locale data from Qt.
+// Names of days and months, date formats and the first day of the week, from Qt.
 #include "errors.h"
 #include "winnls.h"
 
@@ -18,7 +18,8 @@ QLocale localeFromName(LPCWSTR name)
     return QLocale(QString::fromUtf16(name).replace('-', '_'));
 }
 
-// The number of a name in a run of them, from 1; 0 for another type.
+// LOCALE_SDAYNAME1 begins a run of 7 types, and so on: the place in the run, from 1; 0 for a type outside of
+// it.
 int numberInRun(LCTYPE type, LCTYPE first, int count)
 {
     return type >= first && type < first + static_cast<LCTYPE>(count) ? static_cast<int>(type - first) + 1
@@ -45,27 +46,11 @@ QString localeInfo(const QLocale& locale, LCTYPE type, bool genitive)
         return locale.dateFormat(QLocale::LongFormat);
     case LOCALE_SSHORTDATE:
         return locale.dateFormat(QLocale::ShortFormat);
-    case LOCALE_SNAME:
-        return locale.bcp47Name();
     case LOCALE_IFIRSTDAYOFWEEK:
         return QString::number(locale.firstDayOfWeek() - Qt::Monday);
     default:
         return {};
     }
-}
-
-// A number takes the place of two characters.
-int copyNumber(const QString& info, LPWSTR data, int size)
-{
-    constexpr int kCharacters = sizeof(DWORD) / sizeof(WCHAR);
-    if (size != 0 && size < kCharacters)
-        return fail(ERROR_INSUFFICIENT_BUFFER);
-    if (size != 0) {
-        const DWORD number = info.toUInt();
-        data[0] = static_cast<WCHAR>(number & 0xFFFF);
-        data[1] = static_cast<WCHAR>(number >> 16);
-    }
-    return kCharacters;
 }
 
 int copyText(const QString& info, LPWSTR data, int size)
@@ -86,12 +71,11 @@ int GetLocaleInfoEx(LPCWSTR localeName, LCTYPE type, LPWSTR data, int size)
     if (localeName && !IsValidLocaleName(localeName))
         return fail(ERROR_INVALID_PARAMETER);
     const bool genitive = type & LOCALE_RETURN_GENITIVE_NAMES;
-    const bool number = type & LOCALE_RETURN_NUMBER;
-    const LCTYPE plainType = type & ~(LOCALE_RETURN_GENITIVE_NAMES | LOCALE_RETURN_NUMBER);
+    const LCTYPE plainType = type & ~LOCALE_RETURN_GENITIVE_NAMES;
     const QString info = localeInfo(localeFromName(localeName), plainType, genitive);
     if (info.isNull())
         return fail(ERROR_INVALID_FLAGS);
-    return number ? copyNumber(info, data, size) : copyText(info, data, size);
+    return copyText(info, data, size);
 }
 
 // Qt falls back to the C locale for a name that it does not know.

@@ -1,7 +1,13 @@
-// Memory handed over by handle. The size stands before the block, whose address is the handle.
+// Memory that is handed over by handle. The handle is the address of the block, and the block's size stands
+// before it.
+#include "memory.h"
+
 #include "errors.h"
 
+#include <cstddef>
 #include <cstdlib>
+
+using namespace winapi;
 
 namespace {
 
@@ -17,14 +23,17 @@ Header* headerOf(HGLOBAL memory)
 
 }
 
-HGLOBAL GlobalAlloc(UINT flags, SIZE_T bytes)
+SIZE_T winapi::sizeOfMemory(HGLOBAL memory)
 {
-    if (bytes > SIZE_MAX - sizeof(Header))
-        return winapi::fail(ERROR_NOT_ENOUGH_MEMORY), nullptr;
-    const SIZE_T size = sizeof(Header) + bytes;
-    auto* header = static_cast<Header*>(flags & GMEM_ZEROINIT ? std::calloc(1, size) : std::malloc(size));
+    return headerOf(memory)->size;
+}
+
+HGLOBAL GlobalAlloc(UINT, SIZE_T bytes)
+{
+    const bool fits = bytes <= SIZE_MAX - sizeof(Header);
+    auto* const header = fits ? static_cast<Header*>(std::malloc(sizeof(Header) + bytes)) : nullptr;
     if (!header)
-        return winapi::fail(ERROR_NOT_ENOUGH_MEMORY), nullptr;
+        return fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     header->size = bytes;
     return header + 1;
 }
@@ -45,14 +54,4 @@ BOOL GlobalUnlock(HGLOBAL)
 {
     SetLastError(ERROR_SUCCESS);
     return FALSE; // no lock is left
-}
-
-SIZE_T GlobalSize(HGLOBAL memory)
-{
-    return memory ? headerOf(memory)->size : 0;
-}
-
-HLOCAL LocalFree(HLOCAL memory)
-{
-    return GlobalFree(memory);
 }

@@ -1,5 +1,5 @@
-// Loaded modules. A handle is the address at which the module was loaded, as on Windows; "name.dll" is
-// libname.so.
+// Finds loaded modules: the program and its libraries. A handle is the address at which the module was
+// loaded, as on Windows; "name.dll" is libname.so.
 #include "errors.h"
 
 #include <link.h>
@@ -65,7 +65,7 @@ HMODULE GetModuleHandleA(LPCSTR name)
 BOOL GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module)
 {
     *module = nullptr;
-    // A module is not counted, so only what leaves the count alone can be served.
+    // Nothing is counted here, so a caller who wants the module counted is refused.
     if (flags != GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT)
         return fail(ERROR_INVALID_PARAMETER);
     *module = GetModuleHandleA(name);

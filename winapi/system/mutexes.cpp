@@ -38,7 +38,7 @@ Deadline deadlineIn(DWORD milliseconds)
     return Clock::now() + std::chrono::milliseconds(milliseconds);
 }
 
-// The lock that excludes other processes.
+// The lock that keeps other processes out.
 class LockFile
 {
 public:
@@ -49,7 +49,7 @@ public:
         const int operation = deadline ? LOCK_EX | LOCK_NB : LOCK_EX;
         while (::flock(m_file.get(), operation) != 0) {
             if (errno != EINTR && errno != EWOULDBLOCK)
-                return failWithErrno(), WAIT_FAILED;
+                return failWithErrno(WAIT_FAILED);
             if (deadline && Clock::now() >= *deadline)
                 return WAIT_TIMEOUT;
             if (deadline)
@@ -69,7 +69,7 @@ public:
     }
 
 private:
-    // A mark that cannot be made costs the news of a holder's death, and nothing else.
+    // If the mark cannot be made, the next holder is not told of this one's death; all else works.
     void mark(bool held) { static_cast<void>(::ftruncate(m_file.get(), held ? 1 : 0) == 0); }
 
     Descriptor m_file;
@@ -219,7 +219,7 @@ std::string runtimeDirectory()
     return own ? path : std::string();
 }
 
-// A file name for any name of a mutex, and for no two the same.
+// Turns the name of a mutex into a file name; no two names share one.
 std::string encodeName(std::string_view name)
 {
     constexpr char kDigits[] = "0123456789abcdef";
@@ -238,11 +238,11 @@ std::optional<LockFile> openLockFile(std::string_view name)
 {
     const std::string directory = runtimeDirectory();
     if (directory.empty())
-        return fail(ERROR_ACCESS_DENIED), std::nullopt;
+        return fail(ERROR_ACCESS_DENIED, std::nullopt);
     Descriptor file(::open((directory + '/' + encodeName(name)).c_str(),
                            O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!file.isOpen())
-        return failWithErrno(), std::nullopt;
+        return failWithErrno(std::nullopt);
     return LockFile(std::move(file));
 }
 
@@ -250,7 +250,7 @@ std::optional<LockFile> openLockFile(std::string_view name)
 class Registry
 {
 public:
-    // Null, with the last error, if the name is refused.
+    // Null, and the last error set, if the name is refused.
     std::shared_ptr<MutexState> open(std::string_view name, bool& isNew)
     {
         const std::lock_guard guard(m_guard);
@@ -278,18 +278,19 @@ Registry& registry()
     return instance;
 }
 
-// The name without the prefix of the session, which is the default; a backslash elsewhere leads nowhere.
+// The name without "Local\\", which is the default. A backslash elsewhere would be a directory, and there is
+// none.
 std::optional<std::string_view> sessionName(std::string_view name)
 {
     constexpr std::string_view kSession = "Local\\";
     constexpr std::string_view kAllSessions = "Global\\";
     if (name.size() > MAX_PATH)
-        return fail(ERROR_FILENAME_EXCED_RANGE), std::nullopt;
+        return fail(ERROR_FILENAME_EXCED_RANGE, std::nullopt);
     if (name.starts_with(kSession))
         name.remove_prefix(kSession.size());
     const std::size_t start = name.starts_with(kAllSessions) ? kAllSessions.size() : 0;
     if (name.find('\\', start) != std::string_view::npos)
-        return fail(ERROR_PATH_NOT_FOUND), std::nullopt;
+        return fail(ERROR_PATH_NOT_FOUND, std::nullopt);
     return name;
 }
 

@@ -1,10 +1,10 @@
-// The text and the variants of calls on objects.
+// The texts and the variants that the calls of objects pass.
 #include "oleauto.h"
 
 #include <cstdlib>
-#include <string>
+#include <cstring>
 
-// The length in bytes stands before the characters, a null behind them.
+// The length in bytes stands before the characters, and a null behind them.
 BSTR SysAllocStringLen(const OLECHAR* text, UINT length)
 {
     const DWORD bytes = length * static_cast<DWORD>(sizeof(OLECHAR));
@@ -15,12 +15,6 @@ BSTR SysAllocStringLen(const OLECHAR* text, UINT length)
     if (text)
         std::memcpy(memory + sizeof bytes, text, bytes);
     return reinterpret_cast<BSTR>(memory + sizeof bytes);
-}
-
-BSTR SysAllocString(const OLECHAR* text)
-{
-    return text ? SysAllocStringLen(text, static_cast<UINT>(std::char_traits<OLECHAR>::length(text)))
-                : nullptr;
 }
 
 void SysFreeString(BSTR text)
@@ -44,9 +38,7 @@ void VariantInit(VARIANT* variant)
 
 HRESULT VariantClear(VARIANT* variant)
 {
-    if (variant->vt == VT_BSTR)
-        SysFreeString(variant->bstrVal);
-    else if (variant->vt == VT_DISPATCH && variant->pdispVal)
+    if (variant->vt == VT_DISPATCH && variant->pdispVal)
         variant->pdispVal->Release();
     VariantInit(variant);
     return S_OK;

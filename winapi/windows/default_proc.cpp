@@ -6,7 +6,11 @@
 #include "mouse.h"
 #include "oleacc.h"
 #include "placement.h"
+#include "rooms_above.h"
 #include "shapes.h"
+#include "system_colors.h"
+
+#include <cstring>
 
 using namespace winapi;
 
@@ -27,7 +31,7 @@ LRESULT giveText(const Window& window, WPARAM size, LPARAM buffer)
         return 0;
     auto* const target = reinterpret_cast<LPSTR>(buffer);
     lstrcpynA(target, window.text.c_str(), static_cast<int>(size));
-    return lstrlenA(target);
+    return static_cast<LRESULT>(std::strlen(target));
 }
 
 void tellPlacing(const Window& window, const WINDOWPOS& pos)
@@ -46,7 +50,8 @@ LRESULT erase(const Window& window, HDC dc)
     const HBRUSH brush = window.windowClass->info.hbrBackground;
     if (!brush)
         return FALSE;
-    eraseRect(dc, toRect(window.clientRect()), brush);
+    const RECT area = toRect(window.clientRect());
+    FillRect(dc, &area, brush);
     return TRUE;
 }
 
@@ -86,7 +91,7 @@ LRESULT controlColors(HDC dc)
 {
     SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
     SetBkColor(dc, GetSysColor(COLOR_BTNFACE));
-    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+    return reinterpret_cast<LRESULT>(systemBrush(COLOR_BTNFACE));
 }
 
 LRESULT toParent(const Window& window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -125,7 +130,7 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEACTIVATE:
         return mouseActivate(*window, wParam, lParam);
     case WM_CANCELMODE:
-        EndMenu();
+        endMenu();
         releaseCapture(handle);
         return 0;
     case WM_NCHITTEST:

@@ -13,7 +13,8 @@ struct Window;
 // `controls`: registers the classes of the system's controls.
 void registerSystemClasses();
 
-// `menus`: closes the menu that is open for the window, or for one below it.
+// `menus`: closes the menu that is open, if one is; only one of the window or of one below it.
+void endMenu();
 void endMenuOf(const Window& window);
 
 // `accessibility`: makes Qt show the child windows below the widget of each top-level window. May be called

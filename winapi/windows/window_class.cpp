@@ -1,6 +1,7 @@
 // Window classes, those of programs and those of the system.
 #include "window_class.h"
 
+#include "resource_id.h"
 #include "rooms_above.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ ClassTable& tableWithSystemClasses()
 ATOM addClass(ClassTable& classes, const WNDCLASSEXA& info)
 {
     // Windows keep no bytes for their class.
-    if (!info.lpszClassName || IS_INTRESOURCE(info.lpszClassName) || !info.lpfnWndProc || info.cbWndExtra) {
+    if (!info.lpszClassName || isResourceId(info.lpszClassName) || !info.lpfnWndProc || info.cbWndExtra) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
@@ -71,7 +72,7 @@ WindowClassPtr findClass(LPCSTR nameOrAtom)
     const auto& classes = tableWithSystemClasses().byName;
     if (!nameOrAtom)
         return nullptr;
-    if (!IS_INTRESOURCE(nameOrAtom)) {
+    if (!isResourceId(nameOrAtom)) {
         const auto found = classes.find(lowered(nameOrAtom));
         return found == classes.end() ? nullptr : found->second;
     }
@@ -135,5 +136,5 @@ int GetClassNameA(HWND window, LPSTR buffer, int size)
     if (!found || !buffer || size <= 0)
         return 0;
     lstrcpynA(buffer, found->windowClass->name.c_str(), size);
-    return lstrlenA(buffer);
+    return static_cast<int>(std::strlen(buffer));
 }

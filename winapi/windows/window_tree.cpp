@@ -1,7 +1,10 @@
 // The tree of windows: which stands in which, in which order, and where on the screen.
 #include "window_tree.h"
 
+#include "application.h"
 #include "host_widget.h"
+
+#include <QScreen>
 
 #include <algorithm>
 
@@ -15,7 +18,7 @@ WindowPtr makeDesktop()
     window->style = WS_VISIBLE;
     window->procedure = DefWindowProcA;
     window->windowClass = std::make_shared<WindowClass>();
-    window->rect = QRect(0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
+    window->rect = QRect({}, application().primaryScreen()->size());
     return window;
 }
 

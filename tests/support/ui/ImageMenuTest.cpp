@@ -114,7 +114,7 @@ TEST_F(ImageMenuTest, TargetSetsEachItemThatItHasAHandlerFor)
     EXPECT_FALSE(IsGrey(ID_OPTIONS_PRINT));
     const HMENU hMenu = pMenu->m_hMenu;
     pMenu.reset();
-    EXPECT_FALSE(::IsMenu(hMenu));
+    EXPECT_EQ(::GetMenuItemCount(hMenu), -1);
 }
 
 TEST_F(ImageMenuTest, FailuresAreTold)

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <future>
 #include <thread>
@@ -108,7 +109,7 @@ TEST_F(Mutex, IsFreedByTheDeathOfItsHolder)
 #endif
     auto run = std::async(std::launch::async, [&command] { return std::system(command.c_str()); });
     for (int i = 0; i < 2000 && !std::filesystem::exists(taken); ++i)
-        Sleep(10);
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     ASSERT_TRUE(std::filesystem::exists(taken));
     EXPECT_EQ(WaitForSingleObject(mutex, 30), static_cast<DWORD>(WAIT_TIMEOUT)) << "held by a process";
     directory.Write("die", "");

@@ -2,9 +2,11 @@
 // when it finds the file of the third.
 #include <MTMutex.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 int main(int argc, char** argv)
 {
@@ -15,6 +17,6 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     std::ofstream(argv[2]).close();
     for (int i = 0; i < 3000 && !std::filesystem::exists(argv[3]); ++i)
-        Sleep(10);
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     std::_Exit(EXIT_SUCCESS);
 }

@@ -1,11 +1,12 @@
-// Time, and who is running.
+// The time of day, the time since some start, and the ids of the process and its threads.
+#include "clock.h"
+
 #include "winbase.h"
 
 #include <unistd.h>
 
 #include <chrono>
 #include <ctime>
-#include <thread>
 
 void GetLocalTime(LPSYSTEMTIME time)
 {
@@ -21,21 +22,10 @@ void GetLocalTime(LPSYSTEMTIME time)
              static_cast<WORD>(local.tm_sec),         static_cast<WORD>(millis)};
 }
 
-ULONGLONG GetTickCount64()
+DWORD winapi::tickCount()
 {
     using namespace std::chrono;
-    return static_cast<ULONGLONG>(
-        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
-}
-
-DWORD GetTickCount()
-{
-    return static_cast<DWORD>(GetTickCount64());
-}
-
-void Sleep(DWORD milliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    return static_cast<DWORD>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
 }
 
 DWORD GetCurrentProcessId()
