@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+
 class Canvas : public CDC
 {
 public:
@@ -25,12 +27,13 @@ public:
     template <class Predicate>
     CRect FindInk(const CRect& rect, Predicate isInk) const
     {
-        CRect rcInk;
-        for (int y = rect.top; y < rect.bottom; ++y)
-            for (int x = rect.left; x < rect.right; ++x)
+        CRect rcInk(rect.right, rect.bottom, rect.left, rect.top);
+        for (LONG y = rect.top; y < rect.bottom; ++y)
+            for (LONG x = rect.left; x < rect.right; ++x)
                 if (isInk(GetPixel(x, y)))
-                    ::UnionRect(&rcInk, &rcInk, CRect(x, y, x + 1, y + 1));
-        return rcInk;
+                    rcInk = CRect(std::min(rcInk.left, x), std::min(rcInk.top, y),
+                                  std::max(rcInk.right, x + 1), std::max(rcInk.bottom, y + 1));
+        return rcInk.left < rcInk.right ? rcInk : CRect();
     }
     CRect FindInk(COLORREF crPaper = RGB(255, 255, 255)) const
     {

@@ -3,19 +3,20 @@
 
 #include <windows.h>
 #include <gtest/gtest.h>
+#include <algorithm>
 #include <string>
 #include <vector>
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF black = RGB(0, 0, 0);
-constexpr COLORREF red = RGB(255, 0, 0);
-constexpr COLORREF green = RGB(0, 255, 0);
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
 
 class Canvas : public testing::Test
 {
 protected:
-    static constexpr int width = 60;
-    static constexpr int height = 30;
+    static constexpr int kWidth = 60;
+    static constexpr int kHeight = 30;
 
     Canvas()
     {
@@ -43,8 +44,15 @@ protected:
 
     void clear()
     {
-        const RECT all = {0, 0, width, height};
+        const RECT all = {0, 0, kWidth, kHeight};
         FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    }
+
+    void setPixel(int x, int y, COLORREF color)
+    {
+        const HBRUSH brush = keep(CreateSolidBrush(color));
+        const RECT pixel = {x, y, x + 1, y + 1};
+        FillRect(dc, &pixel, brush);
     }
 
     // One row: '.' white, '#' black, 'r' red, 'g' green, '?' any other colour.
@@ -59,32 +67,30 @@ protected:
     // The smallest rectangle that holds all that is not white.
     RECT drawn() const
     {
-        RECT found = {};
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x) {
-                const RECT pixel = {x, y, x + 1, y + 1};
-                const RECT before = found;
-                if (GetPixel(dc, x, y) != white)
-                    UnionRect(&found, &before, &pixel);
-            }
-        return found;
+        RECT found = {kWidth, kHeight, 0, 0};
+        for (LONG y = 0; y < kHeight; ++y)
+            for (LONG x = 0; x < kWidth; ++x)
+                if (GetPixel(dc, x, y) != kWhite)
+                    found = {std::min(found.left, x), std::min(found.top, y), std::max(found.right, x + 1),
+                             std::max(found.bottom, y + 1)};
+        return found.right > 0 ? found : RECT{};
     }
 
     HDC screen = GetDC(nullptr);
     HDC dc = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height); // what `dc` draws on
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, kWidth, kHeight); // what `dc` draws on
 
 private:
     static char letter(COLORREF color)
     {
         switch (color) {
-        case white:
+        case kWhite:
             return '.';
-        case black:
+        case kBlack:
             return '#';
-        case red:
+        case kRed:
             return 'r';
-        case green:
+        case kGreen:
             return 'g';
         default:
             return '?';

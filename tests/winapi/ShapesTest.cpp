@@ -22,8 +22,8 @@ protected:
             EXPECT_EQ(letters, row(y, left, right)) << "row " << y;
     }
 
-    HPEN redPen = keep(CreatePen(PS_SOLID, 1, red));
-    HBRUSH greenBrush = keep(CreateSolidBrush(green));
+    HPEN redPen = keep(CreatePen(PS_SOLID, 1, kRed));
+    HBRUSH greenBrush = keep(CreateSolidBrush(kGreen));
 };
 
 TEST_F(ShapesTest, ALineLeavesItsLastPointOutInEachDirection)

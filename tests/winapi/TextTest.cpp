@@ -25,17 +25,17 @@ protected:
 
     SIZE extent(const char* text) const
     {
-        SIZE size{};
-        GetTextExtentPoint32A(dc, text, static_cast<int>(std::strlen(text)), &size);
-        return size;
+        RECT rect{};
+        DrawTextA(dc, text, -1, &rect, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
+        return {rect.right, rect.bottom};
     }
 
     // Where the text lies: text and background in one colour.
     RECT place(const char* text, RECT rect, UINT format)
     {
         clear();
-        SetBkColor(dc, green);
-        SetTextColor(dc, green);
+        SetBkColor(dc, kGreen);
+        SetTextColor(dc, kGreen);
         DrawTextA(dc, text, -1, &rect, format);
         return drawn();
     }

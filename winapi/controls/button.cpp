@@ -4,7 +4,6 @@
 #include "control.h"
 #include "focus.h"
 #include "geometry.h"
-#include "shapes.h"
 #include "system_colors.h"
 #include "window_class.h"
 

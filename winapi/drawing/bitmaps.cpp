@@ -80,16 +80,6 @@ HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height)
     return context ? makeBitmap(width, height, context->surface().device().devicePixelRatio()) : nullptr;
 }
 
-COLORREF SetPixel(HDC dc, int x, int y, COLORREF color)
-{
-    const auto context = findContext(dc);
-    if (!context || !isVisible(*context, x, y))
-        return CLR_INVALID;
-    ContextPainter painter(*context, QRect(x, y, 1, 1));
-    painter->fillRect(x, y, 1, 1, toColor(color));
-    return color & 0xFFFFFF;
-}
-
 COLORREF GetPixel(HDC dc, int x, int y)
 {
     const auto context = findContext(dc);

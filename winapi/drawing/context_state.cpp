@@ -115,12 +115,6 @@ COLORREF SetBkColor(HDC dc, COLORREF color)
     return exchangeState(dc, &DrawingState::backgroundColor, color, CLR_INVALID);
 }
 
-COLORREF GetBkColor(HDC dc)
-{
-    const auto context = findContext(dc);
-    return context ? context->state.backgroundColor : CLR_INVALID;
-}
-
 int SetBkMode(HDC dc, int mode)
 {
     if (mode != TRANSPARENT && mode != OPAQUE)

@@ -6,8 +6,6 @@
 #include "system_colors.h"
 #include "text.h"
 
-#include <algorithm>
-#include <cstring>
 #include <unordered_set>
 
 namespace winapi {
@@ -33,7 +31,7 @@ HFONT makeFont(LONG height, LONG weight, const char* face)
     description.lfWeight = weight;
     description.lfCharSet = DEFAULT_CHARSET;
     qstrncpy(description.lfFaceName, face, LF_FACESIZE);
-    return static_cast<HFONT>(addPermanentObject(Font{description, toFont(description)}));
+    return static_cast<HFONT>(addPermanentObject(Font{description.lfCharSet, toFont(description)}));
 }
 
 }
@@ -111,16 +109,6 @@ BOOL DeleteObject(HGDIOBJ handle)
     return permanentObjects().contains(handle) || objects().remove(handle);
 }
 
-int GetObjectA(HANDLE handle, int size, LPVOID data)
-{
-    const auto font = findObject<Font>(handle);
-    if (!font || !data)
-        return font ? sizeof font->description : 0;
-    const int copied = std::clamp(size, 0, static_cast<int>(sizeof font->description));
-    std::memcpy(data, &font->description, static_cast<std::size_t>(copied));
-    return copied;
-}
-
 HPEN CreatePen(int style, int width, COLORREF color)
 {
     return style == PS_SOLID ? static_cast<HPEN>(addObject(Pen{std::abs(width), color})) : nullptr;
@@ -133,5 +121,5 @@ HBRUSH CreateSolidBrush(COLORREF color)
 
 HFONT CreateFontIndirectA(const LOGFONTA* font)
 {
-    return font ? static_cast<HFONT>(addObject(Font{*font, toFont(*font)})) : nullptr;
+    return font ? static_cast<HFONT>(addObject(Font{font->lfCharSet, toFont(*font)})) : nullptr;
 }

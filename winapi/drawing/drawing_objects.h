@@ -25,7 +25,7 @@ struct Brush
 
 struct Font
 {
-    LOGFONTA description;
+    BYTE charSet; // as asked for
     QFont font;
 };
 

@@ -1,6 +1,4 @@
 // Lines, frames and filled shapes, pixel by pixel as the Windows calls place them.
-#include "shapes.h"
-
 #include "context_painter.h"
 
 #include <cmath>
@@ -212,21 +210,6 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom)
     painter->fillRect(area, toColor(state.brush->color));
     drawLines(*painter, state, corners(area));
     return TRUE;
-}
-
-void winapi::drawEllipse(HDC dc, const RECT& rect)
-{
-    const auto context = findContext(dc);
-    if (!context)
-        return;
-    const DrawingState& state = context->state;
-    const QRectF area = toQRect(rect);
-    ContextPainter painter(*context, touchedBy(area.toRect(), *state.pen.object));
-    if (!painter)
-        return;
-    painter->setPen(toWidePen(*state.pen.object));
-    painter->setBrush(toColor(state.brush->color));
-    painter->drawEllipse(area.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 int FillRect(HDC dc, const RECT* rect, HBRUSH handle)

@@ -161,16 +161,6 @@ BOOL ExtTextOutA(HDC dc, int, int, UINT options, const RECT* rect, LPCSTR, UINT 
     return TRUE;
 }
 
-BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size)
-{
-    const auto context = findContext(dc);
-    if (!context || !size || length < 0 || (length > 0 && !text))
-        return FALSE;
-    const TextMeasure measure(*context);
-    *size = length == 0 ? SIZE{} : SIZE{measure.width(toText(text, length)), measure.height()};
-    return TRUE;
-}
-
 BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
 {
     const auto context = findContext(dc);
@@ -195,6 +185,6 @@ BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
     result->tmItalic = font.italic();
     result->tmUnderlined = font.underline();
     result->tmStruckOut = font.strikeOut();
-    result->tmCharSet = context->state.font->description.lfCharSet;
+    result->tmCharSet = context->state.font->charSet;
     return TRUE;
 }

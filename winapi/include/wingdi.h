@@ -148,9 +148,6 @@ WINGDIAPI BOOL DPtoLP(HDC dc, POINT* points, int count);
 WINGDIAPI HGDIOBJ GetStockObject(int index); // WHITE_BRUSH only
 WINGDIAPI HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
 WINGDIAPI BOOL DeleteObject(HGDIOBJ object);
-// Of fonts only: copies the LOGFONTA, as far as `size` bytes hold it, and gives the bytes copied, 0 for other
-// objects. Without `data`: the bytes needed.
-WINGDIAPI int GetObjectA(HANDLE object, int size, LPVOID data);
 WINGDIAPI HPEN CreatePen(int style, int width, COLORREF color); // PS_SOLID only; width 0 is 1 pixel
 WINGDIAPI HBRUSH CreateSolidBrush(COLORREF color);
 WINGDIAPI HFONT CreateFontIndirectA(const LOGFONTA* font);
@@ -158,7 +155,6 @@ WINGDIAPI HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
 
 // How a context draws. The setters return the value before.
 WINGDIAPI COLORREF SetBkColor(HDC dc, COLORREF color);
-WINGDIAPI COLORREF GetBkColor(HDC dc);
 WINGDIAPI int SetBkMode(HDC dc, int mode);
 WINGDIAPI COLORREF SetTextColor(HDC dc, COLORREF color);
 
@@ -167,7 +163,6 @@ WINGDIAPI BOOL MoveToEx(HDC dc, int x, int y, POINT* old);
 WINGDIAPI BOOL LineTo(HDC dc, int x, int y);
 WINGDIAPI BOOL Polygon(HDC dc, const POINT* points, int count);
 WINGDIAPI BOOL Rectangle(HDC dc, int left, int top, int right, int bottom);
-WINGDIAPI COLORREF SetPixel(HDC dc, int x, int y, COLORREF color);
 WINGDIAPI COLORREF GetPixel(HDC dc, int x, int y);
 WINGDIAPI BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
                       DWORD operation);
@@ -176,7 +171,6 @@ WINGDIAPI BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC sourc
 // Only fills `rect` with the background colour: the option has to be ETO_OPAQUE, and the length 0.
 WINGDIAPI BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length,
                            const INT* advances);
-WINGDIAPI BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size);
 WINGDIAPI BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* metrics);
 
 // Printing: a job of pages on a printer's context, which PrintDlg gives. Failure is 0 or less, and sets the
@@ -187,10 +181,8 @@ WINGDIAPI int AbortDoc(HDC dc);
 WINGDIAPI int StartPage(HDC dc);
 WINGDIAPI int EndPage(HDC dc);
 
-#define GetObject GetObjectA
 #define CreateFontIndirect CreateFontIndirectA
 #define ExtTextOut ExtTextOutA
-#define GetTextExtentPoint32 GetTextExtentPoint32A
 #define GetTextMetrics GetTextMetricsA
 #define StartDoc StartDocA
 
@@ -225,8 +217,6 @@ WINGDIAPI int EndPage(HDC dc);
 WINUSERAPI int GetSystemMetrics(int index);
 WINUSERAPI DWORD GetSysColor(int index);
 
-WINUSERAPI BOOL IntersectRect(RECT* target, const RECT* first, const RECT* second);
-WINUSERAPI BOOL UnionRect(RECT* target, const RECT* first, const RECT* second);
 WINUSERAPI BOOL PtInRect(const RECT* rect, POINT point);
 
 WINUSERAPI int FillRect(HDC dc, const RECT* rect, HBRUSH brush);

@@ -13,15 +13,12 @@
 #define MF_ENABLED 0x00000000
 #define MF_GRAYED 0x00000001
 #define MF_DISABLED 0x00000002
-#define MF_UNCHECKED 0x00000000
-#define MF_CHECKED 0x00000008
 #define MF_POPUP 0x00000010
 #define MF_STRING 0x00000000
 #define MF_HILITE 0x00000080
 #define MF_SEPARATOR 0x00000800
 
 // DestroyMenu releases a menu and its submenus.
-WINUSERAPI HMENU CreateMenu();
 WINUSERAPI HMENU CreatePopupMenu();
 WINUSERAPI HMENU LoadMenuA(HINSTANCE module, LPCSTR name);
 WINUSERAPI BOOL DestroyMenu(HMENU menu);
@@ -29,15 +26,14 @@ WINUSERAPI BOOL DestroyMenu(HMENU menu);
 // Items. `item` is the item's id, looked for in submenus too, or with MF_BYPOSITION its position, from 0. The
 // `id` of a new MF_POPUP item is the handle of its submenu.
 WINUSERAPI BOOL AppendMenuA(HMENU menu, UINT flags, UINT_PTR id, LPCSTR text);
-WINUSERAPI BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text);
 WINUSERAPI BOOL RemoveMenu(HMENU menu, UINT item, UINT flags); // leaves a submenu alive
 WINUSERAPI int GetMenuItemCount(HMENU menu);
 WINUSERAPI UINT GetMenuItemID(HMENU menu, int position);
 WINUSERAPI UINT GetMenuState(HMENU menu, UINT item, UINT flags);
 WINUSERAPI HMENU GetSubMenu(HMENU menu, int position);
 WINUSERAPI int GetMenuStringA(HMENU menu, UINT item, LPSTR text, int size, UINT flags);
+// Gives the state before, -1 if there is no such item.
 WINUSERAPI BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags);
-WINUSERAPI DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags);
 
 // Shows `menu` with its upper left corner at a place of the screen, and returns when the menu is closed:
 // whether it could be shown. A chosen item reaches `owner` by a posted WM_COMMAND. `flags` has to be 0.
@@ -48,6 +44,5 @@ WINBASEAPI HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type);
 
 #define LoadMenu LoadMenuA
 #define AppendMenu AppendMenuA
-#define ModifyMenu ModifyMenuA
 #define GetMenuString GetMenuStringA
 #define FindResource FindResourceA

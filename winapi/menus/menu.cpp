@@ -13,7 +13,7 @@ namespace winapi {
 
 namespace {
 
-constexpr UINT kStateFlags = MF_GRAYED | MF_DISABLED | MF_CHECKED;
+constexpr UINT kStateFlags = MF_GRAYED | MF_DISABLED;
 constexpr UINT kNotFound = static_cast<UINT>(-1);
 
 HandleTable<HMENU, Menu>& menus()
@@ -77,18 +77,6 @@ MenuItem makeItem(UINT flags, UINT_PTR id, LPCSTR text)
     return item;
 }
 
-// Sets the bits of `mask` in the state of the item to those of `flags`, and gives the bits before.
-UINT changeState(HMENU handle, UINT item, UINT flags, UINT mask)
-{
-    const auto place = findItem(handle, item, flags);
-    if (!place)
-        return kNotFound;
-    UINT& state = place->item().state;
-    const UINT before = state & mask;
-    state = (state & ~mask) | (flags & mask);
-    return before;
-}
-
 }
 
 std::shared_ptr<Menu> findMenu(HMENU handle)
@@ -99,23 +87,13 @@ std::shared_ptr<Menu> findMenu(HMENU handle)
     return menu;
 }
 
-HMENU addMenu(Menu menu)
-{
-    return menus().add(std::make_shared<Menu>(std::move(menu)));
-}
-
 }
 
 using namespace winapi;
 
-HMENU CreateMenu()
-{
-    return addMenu({});
-}
-
 HMENU CreatePopupMenu()
 {
-    return addMenu({});
+    return menus().add(std::make_shared<Menu>());
 }
 
 BOOL DestroyMenu(HMENU handle)
@@ -136,18 +114,6 @@ BOOL AppendMenuA(HMENU handle, UINT flags, UINT_PTR id, LPCSTR text)
     if (!menu || (item.subMenu && !findMenu(item.subMenu)))
         return FALSE;
     menu->items.push_back(std::move(item));
-    return TRUE;
-}
-
-BOOL ModifyMenuA(HMENU menu, UINT item, UINT flags, UINT_PTR id, LPCSTR text)
-{
-    const auto place = findItem(menu, item, flags);
-    if (!place)
-        return FALSE;
-    MenuItem modified = makeItem(flags, id, text);
-    if (place->item().subMenu && place->item().subMenu != modified.subMenu)
-        DestroyMenu(place->item().subMenu);
-    place->item() = std::move(modified);
     return TRUE;
 }
 
@@ -208,10 +174,11 @@ int GetMenuStringA(HMENU menu, UINT item, LPSTR text, int size, UINT flags)
 
 BOOL EnableMenuItem(HMENU menu, UINT item, UINT flags)
 {
-    return static_cast<BOOL>(changeState(menu, item, flags, MF_GRAYED | MF_DISABLED));
-}
-
-DWORD CheckMenuItem(HMENU menu, UINT item, UINT flags)
-{
-    return changeState(menu, item, flags, MF_CHECKED);
+    const auto place = findItem(menu, item, flags);
+    if (!place)
+        return -1;
+    UINT& state = place->item().state;
+    const UINT before = state & kStateFlags;
+    state = (state & ~kStateFlags) | (flags & kStateFlags);
+    return static_cast<BOOL>(before);
 }

@@ -29,6 +29,5 @@ struct Menu
 
 // Null, and the last error set, if there is no such menu.
 std::shared_ptr<Menu> findMenu(HMENU handle);
-HMENU addMenu(Menu menu);
 
 }

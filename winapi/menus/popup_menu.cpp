@@ -85,8 +85,6 @@ private:
         if (item.subMenu)
             action->setText(text);
         action->setEnabled(!(item.state & (MF_GRAYED | MF_DISABLED)));
-        action->setCheckable((item.state & MF_CHECKED) != 0);
-        action->setChecked(action->isCheckable());
         action->setData(item.subMenu ? static_cast<UINT>(position) : item.id);
         action->setProperty("flags", item.flags());
     }

@@ -7,7 +7,6 @@
 #include "oleacc.h"
 #include "placement.h"
 #include "rooms_above.h"
-#include "shapes.h"
 #include "system_colors.h"
 
 #include <cstring>

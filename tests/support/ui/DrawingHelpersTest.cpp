@@ -126,7 +126,7 @@ TEST(MemDCTest, ShowsItsPixelsAtItsEndAndNoOthers)
         CMemDC dc(&canvas, rcBuffer);
         ASSERT_TRUE(dc.m_bIsValid);
         dc.FillSolidRect(CRect(0, 0, 40, 40), kInk);
-        ::SetPixel(dc, 10, 12, RGB(255, 0, 0));
+        dc.FillSolidRect(CRect(10, 12, 11, 13), RGB(255, 0, 0));
         EXPECT_TRUE(canvas.FindInk().IsRectEmpty());
     }
     EXPECT_EQ(canvas.FindInk(), rcBuffer);
@@ -166,9 +166,9 @@ TEST(GraphicsUtilsTest, DefaultFontFitsTheLineAskedFor)
     ASSERT_TRUE(canvas.GetTextMetrics(&metrics));
     EXPECT_GE(metrics.tmHeight, 13);
     EXPECT_LE(metrics.tmHeight, 16);
-    SIZE size;
-    ASSERT_TRUE(::GetTextExtentPoint32A(canvas, "Wed", 3, &size));
-    EXPECT_NEAR(size.cx, 27, 4);
+    CRect rect;
+    ::DrawTextA(canvas, "Wed", 3, &rect, DT_CALCRECT | DT_SINGLELINE);
+    EXPECT_NEAR(rect.Width(), 27, 4);
     ::SelectObject(canvas.m_hDC, hOld);
 }
 

@@ -63,7 +63,9 @@ protected:
         const CDC& dc = *GetPrintDC();
         m_crText = crText;
         m_rcContent = GetPrintInfo()->m_rectDraw;
-        ::GetTextExtentPoint32A(dc, "30", 2, &m_sizeLine);
+        CRect rect;
+        ::DrawTextA(dc, "30", 2, &rect, DT_CALCRECT | DT_SINGLELINE);
+        m_sizeLine = rect.Size();
         m_sizePaper.cx = dc.GetDeviceCaps(PHYSICALWIDTH) * 1000 / dc.GetDeviceCaps(LOGPIXELSX);
         m_sizePaper.cy = dc.GetDeviceCaps(PHYSICALHEIGHT) * 1000 / dc.GetDeviceCaps(LOGPIXELSY);
     }
