@@ -1,6 +1,7 @@
 // Loads any bytes as the data file of one version (PATH_VERSION), and uses what was loaded.
 #include <CalendarSettings.h>
 #include <ZebrikUtils.h>
+#include <mutexes.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -36,6 +37,7 @@ public:
                  ("zeb17-fuzz-" + std::to_string(GetCurrentProcessId()));
         fs::create_directories(m_path);
         ZebrikUtils::SetDataDirectory(m_path.string().c_str());
+        winapi::setMutexHome(m_path.string());
         CalendarSettings::EnableToDoList();
     }
     ~Directory() { fs::remove_all(m_path); }

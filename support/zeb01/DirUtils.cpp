@@ -1,6 +1,7 @@
 // Paths as texts, and the making of directories.
 #include "DirUtils.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -8,11 +9,42 @@ namespace {
 constexpr char kSeparator = static_cast<char>(std::filesystem::path::preferred_separator);
 
 // The slash is a separator on every system.
-constexpr char kSeparators[] = {kSeparator, '/', '\0'};
+bool IsSeparator(char ch)
+{
+    return ch == kSeparator || ch == '/';
+}
+
+// The index of the first of the separators at the end of the path, its length if there are none. The second
+// byte of a character of two bytes may look like a separator, so the path is walked from its beginning.
+int FindEndSeparators(const CString& strPath)
+{
+    int nEnd = 0;
+    for (int i = 0; i < strPath.GetLength(); ++i) {
+        if (IsSeparator(strPath[i]))
+            continue;
+        if (IsDBCSLeadByte(static_cast<BYTE>(strPath[i])))
+            ++i;
+        nEnd = i + 1;
+    }
+    return std::min(nEnd, strPath.GetLength());
+}
 
 bool EndsInSeparator(const CString& strPath)
 {
-    return !strPath.IsEmpty() && strPath.Right(1).FindOneOf(kSeparators) == 0;
+    return FindEndSeparators(strPath) < strPath.GetLength();
+}
+
+// The length of the path without its last part, but with the separators before that.
+int FindLastPart(const CString& strPath)
+{
+    int nPart = 0;
+    for (int i = 0; i < strPath.GetLength(); ++i) {
+        if (IsSeparator(strPath[i]))
+            nPart = i + 1;
+        else if (IsDBCSLeadByte(static_cast<BYTE>(strPath[i])))
+            ++i;
+    }
+    return nPart;
 }
 
 bool IsDirectory(const CString& strPath)
@@ -21,24 +53,28 @@ bool IsDirectory(const CString& strPath)
     return dwAttributes != INVALID_FILE_ATTRIBUTES && dwAttributes & FILE_ATTRIBUTE_DIRECTORY;
 }
 
+bool MakeDirectory(const CString& strPath)
+{
+    // With attributes that hold no descriptor the directory is the user's alone where its parent does not
+    // decide.
+    SECURITY_ATTRIBUTES userAlone = {sizeof(userAlone), nullptr, FALSE};
+    return ::CreateDirectoryA(strPath, &userAlone) || IsDirectory(strPath);
+}
+
 }
 
 CString DirUtils::ParsePathFromFile(const CString& strPath)
 {
-    CString strDirectory = strPath;
-    while (!strDirectory.IsEmpty() && !EndsInSeparator(strDirectory))
-        strDirectory = strDirectory.Left(strDirectory.GetLength() - 1);
-
-    // "/" and "C:\" keep their separator; without it they would be other paths.
-    while (strDirectory.GetLength() > 1 && EndsInSeparator(strDirectory) &&
-           strDirectory.Right(2).GetAt(0) != ':')
-        strDirectory = strDirectory.Left(strDirectory.GetLength() - 1);
-    return strDirectory;
+    const CString strDirectory = strPath.Left(FindLastPart(strPath));
+    // "/" and "C:\" keep one separator; without it they would be other paths.
+    const int nEnd = FindEndSeparators(strDirectory);
+    const bool bRoot = nEnd == 0 || strDirectory[nEnd - 1] == ':';
+    return strDirectory.Left(bRoot ? nEnd + 1 : nEnd);
 }
 
 bool DirUtils::CreateDirectoryA(const CString& strPath)
 {
-    if (::CreateDirectoryA(strPath, nullptr) || IsDirectory(strPath))
+    if (MakeDirectory(strPath))
         return true;
     if (::GetLastError() != ERROR_PATH_NOT_FOUND)
         return false;
@@ -46,7 +82,7 @@ bool DirUtils::CreateDirectoryA(const CString& strPath)
     const CString strParent = ParsePathFromFile(strPath);
     if (strParent.IsEmpty() || strParent == strPath || !CreateDirectoryA(strParent))
         return false;
-    return ::CreateDirectoryA(strPath, nullptr) || IsDirectory(strPath);
+    return MakeDirectory(strPath);
 }
 
 CString DirUtils::JoinPath(const CString& strDirectory, const CString& strName)

@@ -1,4 +1,4 @@
-// Paths and directories.
+// Paths and directories. A path is read by characters, which may have two bytes.
 #pragma once
 
 #include <afx.h>
@@ -10,7 +10,8 @@ public:
     // name.
     static CString ParsePathFromFile(const CString& strPath);
 
-    // Creates the directory and all that are missing above it. True if it is there afterwards.
+    // Creates the directory and all that are missing above it, for the user alone unless the system has new
+    // directories take after those above them. True if it is there afterwards.
     static bool CreateDirectoryA(const CString& strPath);
 
     // The path of the file of that name in the directory; the bare name if strDirectory is empty.

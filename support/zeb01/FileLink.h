@@ -4,5 +4,11 @@
 #include <afx.h>
 
 // The path of the file that the link at strPath leads to. Any other path comes back as it is, and so does
-// that of a link that leads nowhere.
+// that of a link to what cannot be opened.
 CString FollowLink(const CString& strPath);
+
+// The path of an open file, without links; empty, with the last error, if the system knows none.
+CString GetPathOf(const CFile& file);
+
+// Whether a link stands at the path itself.
+bool IsLink(const CString& strPath);

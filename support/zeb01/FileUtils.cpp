@@ -7,6 +7,8 @@
 
 #include <WideText.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
@@ -19,7 +21,7 @@ CString ToUtf8(const CString& strText)
 
 CString JoinLines(const TextArray& lines, int nIndent)
 {
-    const CString strIndent(' ', nIndent);
+    const CString strIndent(' ', std::max(nIndent, 0));
     CString strContent;
     for (std::size_t i = 0; i < lines.GetSize(); ++i)
         strContent += strIndent + ToUtf8(lines.GetAt(i)) + kLineEnd;
@@ -30,8 +32,12 @@ CString JoinLines(const TextArray& lines, int nIndent)
 
 bool FileUtils::DoesFileExist(const CString& strPath)
 {
-    const DWORD dwAttributes = GetFileAttributesA(strPath);
-    return dwAttributes != INVALID_FILE_ATTRIBUTES && !(dwAttributes & FILE_ATTRIBUTE_DIRECTORY);
+    if (GetFileAttributesA(strPath) == INVALID_FILE_ATTRIBUTES)
+        return false;
+    CFileException error;
+    CFile file;
+    return !IsLink(strPath) || file.Open(strPath, CFile::modeRead, &error) ||
+           (error.m_cause != CFileException::fileNotFound && error.m_cause != CFileException::badPath);
 }
 
 bool FileUtils::EnsureFileIsWritable(const CString& strPath)

@@ -7,19 +7,34 @@
 // step; whatever fails before that, or if the process ends, the old file is whole. An object that ends
 // without Commit deletes the new file.
 //
-// Failures are CFileExceptions that tell the path of the old file. The constructor fails for a directory, a
-// device or a read-only file at that path. If the path is a link, the file that it leads to is replaced. The
-// new file gets the permissions of the old one.
+// Failures are CFileExceptions that tell the path of the old file. The constructor fails where the old file
+// could not be written to either: for a directory, a device, a read-only file, one that belongs to somebody
+// else, a link that leads nowhere. If the path is a link, the file that it leads to is replaced. The new file
+// gets the owner, the group and the permissions of the old one; where the system does not let it have them,
+// the constructor fails too.
+//
+// While a scanner or a backup holds the old file open, both operations try again for about a second.
 class ZEB17_EXPORT ReplacedFile : public CFile
 {
 public:
+    // What the file is for, which decides who may read it where there is no old file.
+    enum Purpose
+    {
+        Document, // whoever may read other new files of the user
+        UserData  // the user alone
+    };
+
     // Opens the file beside the one that it will replace, for writing.
-    explicit ReplacedFile(const CString& strPath);
+    explicit ReplacedFile(const CString& strPath, Purpose purpose = Document);
     ~ReplacedFile() override;
 
     // Flushes the new file to the disk, closes it and moves it into its place. Nothing can be written
     // afterwards.
     void Commit();
+
+    // Deletes what killed processes that were writing user data left beside the file of that path. The caller
+    // must hold the lock that all take who write there, since a file that is being written would go too.
+    static void DeleteLeftovers(const CString& strPath);
 
 private:
     CString m_strPlace;     // the path of the old file, behind a link if there is one

@@ -1,7 +1,8 @@
+// The named mutex of the system.
 #include "MTMutex.h"
 
 MTMutex::MTMutex(bool bInitiallyOwned, const char* szName, SECURITY_ATTRIBUTES* pSecurity)
-    : m_hMutex(CreateMutexA(pSecurity, bInitiallyOwned, szName))
+    : m_hMutex(CreateMutexA(pSecurity, bInitiallyOwned, szName)), m_dwCreationError(GetLastError())
 {
 }
 
@@ -11,13 +12,19 @@ MTMutex::~MTMutex()
         CloseHandle(m_hMutex);
 }
 
-bool MTMutex::Lock()
+DWORD MTMutex::Lock()
 {
     if (!m_hMutex)
-        return false;
-    // An abandoned mutex is held all the same; what it guards is written in one step, so it is whole.
-    const DWORD nResult = WaitForSingleObject(m_hMutex, INFINITE);
-    return nResult == WAIT_OBJECT_0 || nResult == WAIT_ABANDONED;
+        return m_dwCreationError;
+    switch (WaitForSingleObject(m_hMutex, kWaitLimit)) {
+    case WAIT_OBJECT_0:
+    case WAIT_ABANDONED: // what the mutex guards is written in one step, so it is whole
+        return ERROR_SUCCESS;
+    case WAIT_TIMEOUT:
+        return ERROR_SHARING_VIOLATION;
+    default:
+        return GetLastError();
+    }
 }
 
 void MTMutex::Unlock()

@@ -9,11 +9,13 @@
 class ZEB17_EXPORT MTMutex
 {
 public:
+    // How long Lock waits at most, in milliseconds: a save takes far less, and a window that waits for a
+    // holder that was stopped must not hang for good.
+    static constexpr DWORD kWaitLimit = 5000;
+
     // Creates the mutex of that name or opens the one that exists; a null name makes an unnamed one. With
-    // bInitiallyOwned a newly made one is held by the caller at once.
-    //
-    // If the system refuses (the name belongs to another kind of object, say), the object stands for no
-    // mutex: Lock gives false at once, and its users go on without mutual exclusion.
+    // bInitiallyOwned a newly made one is held by the caller at once. If the system refuses (the name belongs
+    // to another kind of object, say), every Lock gives the reason.
     MTMutex(bool bInitiallyOwned, const char* szName, SECURITY_ATTRIBUTES* pSecurity);
     ~MTMutex();
     MTMutex(const MTMutex&) = delete;
@@ -22,10 +24,13 @@ public:
     // Whether there is a mutex.
     bool IsValid() const { return m_hMutex != nullptr; }
 
-    // Waits until the mutex is the calling thread's. False if there is no mutex or the wait failed.
-    bool Lock();
+    // Waits until the mutex is the calling thread's, and gives ERROR_SUCCESS. Gives ERROR_SHARING_VIOLATION
+    // if somebody else still holds it after kWaitLimit, and another error of the system if there is no mutex
+    // or it cannot be taken.
+    DWORD Lock();
     void Unlock();
 
 private:
     HANDLE m_hMutex;
+    DWORD m_dwCreationError; // why there is no mutex
 };

@@ -4,11 +4,13 @@
 #include <new>
 
 std::atomic<std::size_t> g_nAllocated;
+std::atomic<long> g_nAllocationsLeft = -1;
 
 void* operator new(std::size_t nSize)
 {
     g_nAllocated += nSize;
-    if (void* p = std::malloc(nSize))
+    const bool bRefused = g_nAllocationsLeft >= 0 && --g_nAllocationsLeft == 0;
+    if (void* p = bRefused ? nullptr : std::malloc(nSize))
         return p;
     throw std::bad_alloc();
 }

@@ -45,6 +45,7 @@ constexpr SystemErrorCause kSystemErrorCauses[] = {
     {ERROR_FILE_EXISTS, CFileException::accessDenied},
     {ERROR_ALREADY_EXISTS, CFileException::accessDenied},
     {ERROR_INVALID_HANDLE, CFileException::invalidFile},
+    {ERROR_FILE_INVALID, CFileException::invalidFile},
     {ERROR_NEGATIVE_SEEK, CFileException::badSeek},
     {ERROR_WRITE_FAULT, CFileException::hardIO},
     {ERROR_READ_FAULT, CFileException::hardIO},

@@ -3,10 +3,11 @@
 
 #include "CException.h"
 
-// Every operation that fails throws a CFileException with the cause, the system's error and the path.
+// Every operation that fails throws a CFileException with the cause, the system's error and the path. A pipe
+// cannot be opened.
 //
-// While a file is open for reading, others may open it for reading too. While it is open for writing, nobody
-// else can open it.
+// A file that is open for reading asks the system that others may only read it, one that is open for writing
+// that nobody else opens it. Windows sees to that; on Linux nothing does.
 class ZEB17_EXPORT CFile : public CObject
 {
     DECLARE_DYNAMIC(CFile)

@@ -5,6 +5,7 @@
 
 enum class FileOperation
 {
+    Open,
     Create,
     Write,
     Flush,

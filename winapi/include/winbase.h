@@ -58,17 +58,23 @@ using LPOVERLAPPED = OVERLAPPED*;
 #define FILE_ATTRIBUTE_NORMAL 0x00000080u
 #define FILE_ATTRIBUTE_REPARSE_POINT 0x00000400u
 #define INVALID_FILE_ATTRIBUTES (static_cast<DWORD>(-1))
+#define FILE_TYPE_UNKNOWN 0u
+#define FILE_TYPE_DISK 1u
+#define FILE_TYPE_CHAR 2u
 #define FILE_CURRENT 1u
 #define MOVEFILE_REPLACE_EXISTING 0x00000001u
 #define MOVEFILE_WRITE_THROUGH 0x00000008u
 #define FILE_NAME_NORMALIZED 0x0u
 #define VOLUME_NAME_DOS 0x0u
 
-// A file counts as read-only if nobody may write to it. A new file takes its permissions from `templateFile`,
-// if one is given. Nothing keeps others from opening the file too, whatever the sharing mode.
+// A file without any write permission bit counts as read-only, whoever asks. CREATE_NEW gives the new file
+// the owner, the group and the permissions of `templateFile`, where one is given, or fails; what is made with
+// security attributes, which hold no descriptor, is the user's alone. Pipes are refused. Sharing modes are
+// not enforced.
 WINBASEAPI HANDLE WINAPI CreateFileA(LPCSTR path, DWORD access, DWORD shareMode,
                                      LPSECURITY_ATTRIBUTES security, DWORD disposition,
                                      DWORD flagsAndAttributes, HANDLE templateFile);
+WINBASEAPI DWORD WINAPI GetFileType(HANDLE file); // one of FILE_TYPE_XXX
 WINBASEAPI BOOL WINAPI ReadFile(HANDLE file, LPVOID buffer, DWORD count, LPDWORD read, LPOVERLAPPED);
 WINBASEAPI BOOL WINAPI WriteFile(HANDLE file, LPCVOID buffer, DWORD count, LPDWORD written, LPOVERLAPPED);
 WINBASEAPI BOOL WINAPI SetFilePointerEx(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER position,
@@ -77,11 +83,43 @@ WINBASEAPI BOOL WINAPI GetFileSizeEx(HANDLE file, PLARGE_INTEGER size);
 WINBASEAPI BOOL WINAPI FlushFileBuffers(HANDLE file);
 WINBASEAPI DWORD WINAPI GetFinalPathNameByHandleA(HANDLE file, LPSTR path, DWORD size, DWORD flags);
 WINBASEAPI BOOL WINAPI DeleteFileA(LPCSTR path);
+// With MOVEFILE_WRITE_THROUGH the directory is brought to the disk too; a failure of that is none of the
+// move.
 WINBASEAPI BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path);
 WINBASEAPI BOOL WINAPI SetFileAttributesA(LPCSTR path, DWORD attributes);
 WINBASEAPI BOOL WINAPI CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES security);
+
+struct FILETIME
+{
+    DWORD dwLowDateTime;
+    DWORD dwHighDateTime;
+};
+
+struct WIN32_FIND_DATAA
+{
+    DWORD dwFileAttributes;
+    FILETIME ftCreationTime;
+    FILETIME ftLastAccessTime;
+    FILETIME ftLastWriteTime;
+    DWORD nFileSizeHigh;
+    DWORD nFileSizeLow;
+    DWORD dwReserved0;
+    DWORD dwReserved1;
+    char cFileName[MAX_PATH];
+    char cAlternateFileName[14];
+};
+using LPWIN32_FIND_DATAA = WIN32_FIND_DATAA*;
+
+// The search tells attributes and names only.
+WINBASEAPI HANDLE WINAPI FindFirstFileA(LPCSTR pattern, LPWIN32_FIND_DATAA data);
+WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data);
+WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
+
 #define CreateFile CreateFileA
+#define FindFirstFile FindFirstFileA
+#define FindNextFile FindNextFileA
+#define WIN32_FIND_DATA WIN32_FIND_DATAA
 #define GetFinalPathNameByHandle GetFinalPathNameByHandleA
 #define DeleteFile DeleteFileA
 #define MoveFileEx MoveFileExA
@@ -89,7 +127,9 @@ WINBASEAPI BOOL WINAPI CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES secur
 #define SetFileAttributes SetFileAttributesA
 #define CreateDirectory CreateDirectoryA
 
-// ---- Mutexes. All processes of a user share a named mutex. A mutex is free again when its holder dies.
+// ---- Mutexes. A named one holds between the processes of one user and is freed when its holder dies.
+// Between processes it is a lock on a file below the user's home, which a wait makes: where that cannot be,
+// the wait fails, with ERROR_FILE_INVALID if something else stands in the place of the file.
 
 #define INFINITE 0xFFFFFFFFu
 #define WAIT_OBJECT_0 0u

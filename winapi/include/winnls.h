@@ -14,6 +14,7 @@ WINBASEAPI int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR tex
                                           int wideSize);
 WINBASEAPI int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideSize, LPSTR text,
                                           int size, LPCSTR defaultChar, LPBOOL usedDefaultChar);
+WINBASEAPI BOOL WINAPI IsDBCSLeadByte(BYTE byte); // false for every byte of UTF-8
 
 #define LOCALE_NAME_USER_DEFAULT (static_cast<LPCWSTR>(nullptr))
 #define LOCALE_SSHORTDATE 0x0000001Fu

@@ -117,6 +117,11 @@ int WideCharToMultiByte(UINT, DWORD, LPCWSTR wide, int wideSize, LPSTR text, int
     return convert(wide, wideSize, text, size);
 }
 
+BOOL IsDBCSLeadByte(BYTE)
+{
+    return FALSE;
+}
+
 LPSTR lstrcpynA(LPSTR destination, LPCSTR source, int size)
 {
     if (!destination || !source || size <= 0)

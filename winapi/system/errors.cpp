@@ -20,6 +20,7 @@ constexpr ErrnoError kErrnoErrors[] = {
     {EACCES, ERROR_ACCESS_DENIED},
     {EPERM, ERROR_ACCESS_DENIED},
     {EISDIR, ERROR_ACCESS_DENIED},
+    {ENXIO, ERROR_ACCESS_DENIED}, // a pipe or a socket
     {ETXTBSY, ERROR_SHARING_VIOLATION},
     {EBUSY, ERROR_SHARING_VIOLATION},
     {EEXIST, ERROR_ALREADY_EXISTS},
@@ -77,6 +78,7 @@ constexpr ErrorText kErrorTexts[] = {
     {ERROR_ALREADY_EXISTS, "The object exists already."},
     {ERROR_FILENAME_EXCED_RANGE, "The name is too long."},
     {ERROR_NOT_OWNER, "The mutex is held by another thread."},
+    {ERROR_FILE_INVALID, "Something else stands in the place of the file."},
     {ERROR_IO_DEVICE, "The device failed."},
     {ERROR_INVALID_WINDOW_HANDLE, "The handle does not belong to a window."},
     {ERROR_CLIPBOARD_NOT_OPEN, "The clipboard is not open."},

@@ -1,12 +1,31 @@
-// Where a user's programs keep their data.
+// Where a user's home is, and where programs keep their data.
+#include "folders.h"
+
 #include "shlobj.h"
+#include "winbase.h"
 
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <vector>
+
+namespace winapi {
+
+std::string homeOfUser()
+{
+    std::vector<char> texts(1024);
+    passwd entry;
+    passwd* found = nullptr;
+    while (::getpwuid_r(::geteuid(), &entry, texts.data(), texts.size(), &found) == ERANGE)
+        texts.resize(2 * texts.size());
+    return found && found->pw_dir ? found->pw_dir : "";
+}
+
+}
 
 namespace {
 
@@ -14,8 +33,7 @@ std::string homeDirectory()
 {
     if (const char* home = std::getenv("HOME"); home && *home == '/')
         return home;
-    const passwd* user = ::getpwuid(::getuid());
-    return user && user->pw_dir ? user->pw_dir : "";
+    return winapi::homeOfUser();
 }
 
 // The XDG Base Directory Specification has a relative $XDG_DATA_HOME ignored.

@@ -1,7 +1,11 @@
-// Mutexes. A named one is a lock on a file in the user's runtime directory, which the kernel frees when its
-// holder dies; the file is empty while nobody holds it, so that the next holder learns of such a death.
+// Mutexes. A named one is a lock on a file in a folder of the user's own, which the kernel frees when its
+// holder dies. The file is there while the mutex is held; one that a dead holder left tells the next holder
+// of that death.
+#include "mutexes.h"
+
 #include "descriptor.h"
 #include "errors.h"
+#include "folders.h"
 #include "kernel_object.h"
 
 #include <fcntl.h>
@@ -12,10 +16,10 @@
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
-#include <cstdlib>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,40 +42,147 @@ Deadline deadlineIn(DWORD milliseconds)
     return Clock::now() + std::chrono::milliseconds(milliseconds);
 }
 
-// The lock that keeps other processes out.
+std::string mutexHome; // empty: the user's
+
+// The folder of the lock files below the user's home. It goes with its last file.
+constexpr const char* kFolder = "/.zeb17-locks";
+
+std::string folderPath()
+{
+    const std::string home = mutexHome.empty() ? homeOfUser() : mutexHome;
+    return home.starts_with('/') ? home + kFolder : std::string();
+}
+
+// What stands at a place of ours and is not ours must not be locked, written or removed.
+bool failOnForeign()
+{
+    return fail(ERROR_FILE_INVALID);
+}
+
+// Whether only this user can put files there.
+bool isOwnFolder(int folder)
+{
+    struct stat status;
+    return ::fstat(folder, &status) == 0 && status.st_uid == ::geteuid() &&
+           !(status.st_mode & (S_IWGRP | S_IWOTH));
+}
+
+// Whether it is a file as this code makes them: the user's alone, under one name, with the mark at most.
+bool isOwnLockFile(const struct stat& status)
+{
+    return S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && !(status.st_mode & 0077) &&
+           status.st_nlink <= 1 && status.st_size <= 1;
+}
+
+// The lock that excludes other processes.
 class LockFile
 {
 public:
-    explicit LockFile(Descriptor file) : m_file(std::move(file)) {}
+    // `name`: of the file, without a folder.
+    explicit LockFile(std::string name) : m_name(std::move(name)) {}
 
     DWORD acquire(const Deadline& deadline)
     {
-        const int operation = deadline ? LOCK_EX | LOCK_NB : LOCK_EX;
-        while (::flock(m_file.get(), operation) != 0) {
-            if (errno != EINTR && errno != EWOULDBLOCK)
-                return failWithErrno(WAIT_FAILED);
-            if (deadline && Clock::now() >= *deadline)
-                return WAIT_TIMEOUT;
-            if (deadline)
-                std::this_thread::sleep_for(kPollInterval);
-        }
-        struct stat status;
-        const bool abandoned = ::fstat(m_file.get(), &status) == 0 && status.st_size > 0;
-        mark(true);
-        return abandoned ? WAIT_ABANDONED : WAIT_OBJECT_0;
+        DWORD result;
+        while ((result = tryAcquire()) == WAIT_TIMEOUT && (!deadline || Clock::now() < *deadline))
+            std::this_thread::sleep_for(kPollInterval);
+        if (result == WAIT_TIMEOUT || result == WAIT_FAILED)
+            close();
+        return result;
     }
 
+    // The file is removed before it is unlocked: who waits for the lock of a file without a name opens the
+    // file anew. That of an abandoned mutex stays.
     void release(bool abandoned)
     {
-        if (!abandoned)
-            mark(false);
-        ::flock(m_file.get(), LOCK_UN);
+        if (!abandoned && isInPlace()) {
+            ::unlinkat(m_folder.get(), m_name.c_str(), 0);
+            ::rmdir(m_folderPath.c_str()); // fails while there are other files in it
+        }
+        close();
     }
 
 private:
-    // If the mark cannot be made, the next holder is not told of this one's death; all else works.
-    void mark(bool held) { static_cast<void>(::ftruncate(m_file.get(), held ? 1 : 0) == 0); }
+    // WAIT_TIMEOUT: somebody else holds the lock.
+    DWORD tryAcquire()
+    {
+        do {
+            if (!m_file.isOpen() && !open())
+                return WAIT_FAILED;
+            if (::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
+                if (errno == EWOULDBLOCK || errno == EINTR)
+                    return WAIT_TIMEOUT;
+                return failWithErrno(WAIT_FAILED);
+            }
+            if (!isInPlace())
+                close();
+        } while (!m_file.isOpen());
 
+        struct stat status;
+        const bool abandoned = ::fstat(m_file.get(), &status) == 0 && status.st_size > 0;
+        // A mark that cannot be made costs the news of a holder's death, and nothing else.
+        static_cast<void>(::ftruncate(m_file.get(), 1) == 0);
+        return abandoned ? WAIT_ABANDONED : WAIT_OBJECT_0;
+    }
+
+    // A holder may remove the folder between the two steps, so they are tried again; but not for ever.
+    bool open()
+    {
+        constexpr int kTries = 100;
+        for (int i = 0; i < kTries; ++i) {
+            if (!openFolder())
+                return false;
+            m_file =
+                Descriptor(::openat(m_folder.get(), m_name.c_str(),
+                                    O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600));
+            if (m_file.isOpen() || errno != ENOENT)
+                break;
+        }
+        struct stat status;
+        if (m_file.isOpen())
+            return (::fstat(m_file.get(), &status) == 0 && isOwnLockFile(status)) || failOnForeign();
+        const int error = errno;
+        if (::fstatat(m_folder.get(), m_name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+            return failOnForeign();
+        return fail(errorFromErrno(error));
+    }
+
+    bool openFolder()
+    {
+        constexpr int kTries = 100;
+        m_folderPath = folderPath();
+        if (m_folderPath.empty())
+            return fail(ERROR_PATH_NOT_FOUND), false;
+        for (int i = 0; i < kTries; ++i) {
+            if (::mkdir(m_folderPath.c_str(), 0700) != 0 && errno != EEXIST)
+                return failWithErrno(), false;
+            m_folder =
+                Descriptor(::open(m_folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+            if (m_folder.isOpen() || errno != ENOENT)
+                break;
+        }
+        return (m_folder.isOpen() && isOwnFolder(m_folder.get())) || failOnForeign();
+    }
+
+    // Whether the file is still the one that others find under the name.
+    bool isInPlace() const
+    {
+        struct stat own;
+        struct stat found;
+        return ::fstat(m_file.get(), &own) == 0 &&
+               ::fstatat(m_folder.get(), m_name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0 &&
+               own.st_dev == found.st_dev && own.st_ino == found.st_ino;
+    }
+
+    void close()
+    {
+        m_file = Descriptor();
+        m_folder = Descriptor();
+    }
+
+    std::string m_name;
+    std::string m_folderPath;
+    Descriptor m_folder;
     Descriptor m_file;
 };
 
@@ -86,7 +197,8 @@ public:
         const Deadline deadline = deadlineIn(milliseconds);
         if (const DWORD result = acquireInProcess(deadline); result != WAIT_OBJECT_0 || m_depth > 1)
             return result;
-        const DWORD result = m_file ? m_file->acquire(deadline) : std::exchange(m_abandoned, WAIT_OBJECT_0);
+        const DWORD result =
+            m_file ? acquireFile(deadline) : std::exchange(m_abandoned, DWORD(WAIT_OBJECT_0));
         if (result == WAIT_TIMEOUT || result == WAIT_FAILED)
             releaseInProcess();
         return result;
@@ -137,6 +249,15 @@ private:
         return WAIT_OBJECT_0;
     }
 
+    DWORD acquireFile(const Deadline& deadline)
+    {
+        try {
+            return m_file->acquire(deadline);
+        } catch (const std::bad_alloc&) {
+            return fail(ERROR_NOT_ENOUGH_MEMORY, WAIT_FAILED);
+        }
+    }
+
     void releaseInProcess()
     {
         {
@@ -164,6 +285,9 @@ public:
             mutex->abandon();
     }
 
+    // Makes room for one more, so that `add` cannot fail.
+    void reserve() { m_held.reserve(m_held.size() + 1); }
+
     void add(const std::shared_ptr<MutexState>& mutex)
     {
         if (std::find(m_held.begin(), m_held.end(), mutex) == m_held.end())
@@ -185,6 +309,7 @@ public:
 
     DWORD wait(DWORD milliseconds) override
     {
+        heldByThread.reserve();
         const DWORD result = m_state->acquire(milliseconds);
         if (result == WAIT_OBJECT_0 || result == WAIT_ABANDONED)
             heldByThread.add(m_state);
@@ -204,22 +329,7 @@ private:
     std::shared_ptr<MutexState> m_state;
 };
 
-// A directory of this user alone, or an empty name.
-std::string runtimeDirectory()
-{
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime && *runtime)
-        return runtime;
-
-    const std::string path = "/tmp/winapi-mutexes-" + std::to_string(::getuid());
-    ::mkdir(path.c_str(), 0700);
-    struct stat status;
-    const bool own =
-        ::lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::getuid();
-    return own ? path : std::string();
-}
-
-// Turns the name of a mutex into a file name; no two names share one.
+// A file name for any name of a mutex, and for no two the same.
 std::string encodeName(std::string_view name)
 {
     constexpr char kDigits[] = "0123456789abcdef";
@@ -234,23 +344,10 @@ std::string encodeName(std::string_view name)
     return result;
 }
 
-std::optional<LockFile> openLockFile(std::string_view name)
-{
-    const std::string directory = runtimeDirectory();
-    if (directory.empty())
-        return fail(ERROR_ACCESS_DENIED, std::nullopt);
-    Descriptor file(::open((directory + '/' + encodeName(name)).c_str(),
-                           O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
-    if (!file.isOpen())
-        return failWithErrno(std::nullopt);
-    return LockFile(std::move(file));
-}
-
 // The named mutexes that are open in this process.
 class Registry
 {
 public:
-    // Null, and the last error set, if the name is refused.
     std::shared_ptr<MutexState> open(std::string_view name, bool& isNew)
     {
         const std::lock_guard guard(m_guard);
@@ -259,10 +356,7 @@ public:
         isNew = !mutex;
         if (mutex)
             return mutex;
-        auto file = openLockFile(name);
-        if (!file)
-            return nullptr;
-        mutex = std::make_shared<MutexState>(std::move(file));
+        mutex = std::make_shared<MutexState>(LockFile(encodeName(name)));
         entry = mutex;
         return mutex;
     }
@@ -303,6 +397,11 @@ std::shared_ptr<MutexState> openMutex(LPCSTR name, bool& isNew)
     return plainName ? registry().open(*plainName, isNew) : nullptr;
 }
 
+}
+
+void winapi::setMutexHome(const std::string& directory)
+{
+    mutexHome = directory;
 }
 
 HANDLE CreateMutexA(LPSECURITY_ATTRIBUTES, BOOL initialOwner, LPCSTR name)

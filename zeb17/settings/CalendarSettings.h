@@ -75,13 +75,15 @@ public:
     // the file has them, and the user's groups are replaced. False, with nothing changed, if there is no file
     // or it is empty.
     //
-    // Throws CFileException* if the file cannot be opened or read, CArchiveException* if it ends too early or
-    // holds an entry of an unknown form, and std::length_error if it counts more entries than a list can
-    // hold. What was read before that stays.
+    // Throws CFileException* if what stands at the path cannot be opened or read as a file, or if another
+    // process holds the lock of the data file for longer than a few seconds (the cause is then
+    // sharingViolation); CArchiveException* if the file ends too early or holds an entry of an unknown form;
+    // and std::length_error if it counts more entries than a list can hold. What was read before that stays.
     bool Load();
 
-    // Writes the data file anew in the newest form, and gives true. Throws CFileException* on failure. The
-    // old file stays as it was until the new one is whole and on the disk.
+    // Writes the data file anew in the newest form, and gives true. Throws CFileException* on failure, also
+    // if it cannot have the lock of the data file. The old file stays as it was until the new one is whole
+    // and on the disk.
     bool Save();
 
 protected:

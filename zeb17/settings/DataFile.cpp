@@ -1,10 +1,12 @@
 // Reading and writing the data file. docs/data-file.md describes its bytes.
 #include "CalendarSettings.h"
 
+#include <AppLogger.h>
 #include <DirUtils.h>
 #include <FileUtils.h>
 #include <MTAutoLock.h>
 #include <ReplacedFile.h>
+#include <SystemUtils.h>
 #include <ZebrikUtils.h>
 
 #include <algorithm>
@@ -25,6 +27,38 @@ constexpr CalendarSettings::Group kGroups[] = {GroupUS, GroupCanada, GroupNether
 
 // Files before version 4 have no to-do list.
 constexpr auto kGroupsBeforeToDo = std::span(kGroups).first<4>();
+
+[[noreturn]] void ThrowFileException(DWORD dwError, const CString& strPath)
+{
+    const auto lError = static_cast<LONG>(dwError);
+    AfxThrowFileException(CFileException::OsErrorToException(lError), lError, strPath);
+}
+
+// A reader does not go on where somebody holds the lock, or where something else stands in its place. Where
+// the system can make no lock at all, it does: a save replaces the file in one step, so what is read is
+// whole.
+void RequireLockToRead(const MTAutoLock& lock, const CString& strPath)
+{
+    const DWORD dwError = lock.GetError();
+    if (dwError == ERROR_SHARING_VIOLATION || dwError == ERROR_FILE_INVALID)
+        ThrowFileException(dwError, strPath);
+    if (dwError != ERROR_SUCCESS && AppLogger::m_pInstance)
+        AppLogger::m_pInstance->AddLine("{7C1D3A52-0B6E-4E0F-9A57-3D2B6F18C4E9}" +
+                                        SystemUtils::GetLastError(dwError));
+}
+
+void RequireLockToWrite(const MTAutoLock& lock, const CString& strPath)
+{
+    if (lock.GetError() != ERROR_SUCCESS)
+        ThrowFileException(lock.GetError(), strPath);
+}
+
+// A device is no data file: its content would be none, or have no end.
+void RequireFile(const CFile& file, const CString& strPath)
+{
+    if (GetFileType(file.m_hFile) != FILE_TYPE_DISK)
+        ThrowFileException(ERROR_ACCESS_DENIED, strPath);
+}
 
 void SkipWord(CArchive& archive)
 {
@@ -61,7 +95,9 @@ bool CalendarSettings::Load()
         return false;
 
     const MTAutoLock lock(m_pMutex.get());
+    RequireLockToRead(lock, strPath);
     CFile file(strPath, CFile::modeRead);
+    RequireFile(file, strPath);
     if (file.GetLength() == 0) {
         file.Close();
         return false;
@@ -93,7 +129,9 @@ bool CalendarSettings::Save()
         DirUtils::CreateDirectoryA(DirUtils::ParsePathFromFile(strPath));
 
     const MTAutoLock lock(m_pMutex.get());
-    ReplacedFile file(strPath);
+    RequireLockToWrite(lock, strPath);
+    ReplacedFile::DeleteLeftovers(strPath);
+    ReplacedFile file(strPath, ReplacedFile::UserData);
     CArchive archive(&file, CArchive::store, kBufferSize, nullptr);
     archive << kFileWord;
     SerializeSections(archive, kGroups);

@@ -9,6 +9,13 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+#endif
+
 using namespace std::string_literals;
 
 namespace {
@@ -85,12 +92,94 @@ TEST_F(Files, BehindLinksAreReplacedWithTheirPermissions)
     EXPECT_EQ(fs::status(m_directory.PathOf("real.dat")).permissions(),
               fs::perms::owner_read | fs::perms::owner_write);
 
-    fs::create_symlink("nowhere", m_directory.PathOf("dangling.dat"));
-    EXPECT_EQ(CauseOfReplacing(PathOf("dangling.dat"), "new"), CFileException::none);
-    EXPECT_EQ(m_directory.Read("dangling.dat"), "new");
-
     EXPECT_EQ(CauseOfReplacing("/dev/null", "new"), CFileException::accessDenied);
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+// Where the file can't be opened for writing, or can't keep its owner, another user must leave it as it is.
+TEST_F(Files, AreNotTakenFromTheirOwner)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can be other users";
+    namespace fs = std::filesystem;
+    constexpr uid_t kNobody = 65534;
+    constexpr int kWritten = CFileException::none;
+    constexpr int kDenied = CFileException::accessDenied;
+    const struct
+    {
+        const char* what;
+        uid_t owner;
+        mode_t mode;
+        uid_t directoryOwner;
+        mode_t directoryMode;
+        uid_t writer;
+        int cause;
+    } cases[] = {
+        {"of the superuser, unreadable", 0, 0600, 0, 0777, kNobody, kDenied},
+        {"of the superuser, readable", 0, 0644, 0, 0777, kNobody, kDenied},
+        {"of the superuser, writable", 0, 0666, 0, 0777, kNobody, kDenied},
+        {"own, in a directory of the superuser", kNobody, 0644, 0, 0755, kNobody, kDenied},
+        {"own, in a directory that can't be opened", kNobody, 0644, kNobody, 0300, kNobody, kDenied},
+        {"own, write-only", kNobody, 0200, kNobody, 0700, kNobody, kDenied},
+        {"own", kNobody, 0640, 0, 0777, kNobody, kWritten},
+        {"of a user, by the superuser", kNobody, 0600, 0, 0755, 0, kWritten},
+    };
+    fs::permissions(m_directory.PathOf(""), fs::perms(0755));
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const std::string directory = m_directory.PathOf(c.what);
+        const std::string file = directory + "/a.dat";
+        fs::create_directory(directory);
+        m_directory.Write(c.what + "/a.dat"s, "old");
+        ASSERT_EQ(::chown(file.c_str(), c.owner, c.owner), 0);
+        ASSERT_EQ(::chmod(file.c_str(), c.mode), 0);
+        ASSERT_EQ(::chown(directory.c_str(), c.directoryOwner, c.directoryOwner), 0);
+        ASSERT_EQ(::chmod(directory.c_str(), c.directoryMode), 0);
+
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(::setgid(c.writer) == 0 && ::setuid(c.writer) == 0 ? CauseOfReplacing(file.c_str(), "new")
+                                                                       : 99);
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_EQ(WEXITSTATUS(status), c.cause);
+
+        struct stat after;
+        ASSERT_EQ(::stat(file.c_str(), &after), 0);
+        EXPECT_EQ(after.st_uid, c.owner);
+        EXPECT_EQ(after.st_gid, c.owner);
+        EXPECT_EQ(after.st_mode & 0777, c.mode);
+        EXPECT_EQ(m_directory.Read(c.what + "/a.dat"s), c.cause == kWritten ? "new" : "old");
+        EXPECT_EQ(std::distance(fs::directory_iterator(directory), {}), 1) << "nothing is left behind";
+    }
+}
+
+// Without the list the permissions of its group would open the file to others than before.
+TEST_F(Files, KeepTheListOfThoseWithAccess)
+{
+    constexpr const char* kName = "system.posix_acl_access";
+    // The user may read and write, user 65534 too, the group and others may nothing; the mask lets both.
+    constexpr char kList[] = "\2\0\0\0\1\0\6\0\377\377\377\377\2\0\6\0\376\377\0\0\4\0\0\0\377\377\377\377"
+                             "\20\0\6\0\377\377\377\377\40\0\0\0\377\377\377\377";
+    m_directory.Write("a.dat", "old");
+    const std::string path = m_directory.PathOf("a.dat");
+    if (::setxattr(path.c_str(), kName, kList, sizeof(kList) - 1, 0) != 0)
+        GTEST_SKIP() << "the file system keeps no such list";
+    EXPECT_EQ(CauseOfReplacing(path.c_str(), "new"), CFileException::none);
+    char list[256];
+    const ssize_t size = ::getxattr(path.c_str(), kName, list, sizeof(list));
+    EXPECT_EQ(std::string(list, static_cast<std::size_t>(std::max<ssize_t>(size, 0))),
+              std::string(kList, sizeof(kList) - 1));
+    EXPECT_EQ(m_directory.Read("a.dat"), "new");
+}
+
+TEST_F(Files, OfTextFollowTheUmask)
+{
+    const mode_t before = ::umask(0027);
+    EXPECT_TRUE(FileUtils::WriteFileContent(PathOf("page.html"), TextArray(), false, 0));
+    ::umask(before);
+    EXPECT_EQ(std::filesystem::status(m_directory.PathOf("page.html")).permissions(),
+              std::filesystem::perms(0640));
 }
 
 TEST_F(Files, OnAFullDiskFail)
@@ -117,6 +206,8 @@ TEST_F(Files, OfTextAreUtf8WithTheLineEndsOfAllReaders)
     EXPECT_EQ(m_directory.Read("page.html"), "<html>\r\n\r\nM\xC3\xA4rz\r\n");
     EXPECT_TRUE(FileUtils::WriteFileContent(path, lines, true, 2));
     EXPECT_EQ(m_directory.Read("page.html"), "\xEF\xBB\xBF  <html>\r\n  \r\n  M\xC3\xA4rz\r\n");
+    EXPECT_TRUE(FileUtils::WriteFileContent(path, lines, false, -1));
+    EXPECT_EQ(m_directory.Read("page.html"), "<html>\r\n\r\nM\xC3\xA4rz\r\n");
 }
 
 TEST_F(Files, HaveDirectoriesMadeAllTheWay)
@@ -146,6 +237,25 @@ TEST(Paths, ArePartedAndJoined)
     EXPECT_EQ(joined.GetLength(), 7);
     EXPECT_EQ(DirUtils::JoinPath("", "a"), "a");
     EXPECT_EQ(DirUtils::JoinPath("/", "a"), "/a");
+}
+
+// In code page 932 this letter is the bytes 0x95 0x5C, and 0x5C alone is the backslash.
+TEST_F(Files, HaveDirectoriesNamedByCharactersOfTwoBytes)
+{
+    const WideText wide{WCHAR(0x8868)};
+    const CString name = FromWide(wide);
+    if (ToWide(name) != wide)
+        GTEST_SKIP() << "the code page lacks the letter";
+    const CString directory = DirUtils::JoinPath(PathOf("parent"), name);
+    const CString file = DirUtils::JoinPath(directory, "a.dat");
+    EXPECT_EQ(file.GetLength(), directory.GetLength() + 6) << "with a separator between";
+    EXPECT_EQ(DirUtils::ParsePathFromFile(file), directory);
+    EXPECT_EQ(DirUtils::ParsePathFromFile(directory), PathOf("parent"));
+    EXPECT_TRUE(DirUtils::CreateDirectoryA(directory));
+    EXPECT_EQ(CauseOfReplacing(file, "new"), CFileException::none);
+    EXPECT_TRUE(FileUtils::DoesFileExist(file));
+    DeleteFileA(file);
+    RemoveDirectoryA(directory);
 }
 
 }

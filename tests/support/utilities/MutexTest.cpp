@@ -1,6 +1,7 @@
 // The named mutex between threads and processes.
 #include <MTAutoLock.h>
 
+#include <LockHome.h>
 #include <TemporaryDirectory.h>
 
 #include <gtest/gtest.h>
@@ -103,7 +104,9 @@ TEST_F(Mutex, IsFreedByTheDeathOfItsHolder)
     const std::string taken = directory.PathOf("taken");
     const std::string die = directory.PathOf("die");
     const auto worker = std::filesystem::path(MUTEX_WORKER).make_preferred().string();
-    std::string command = '"' + worker + "\" " + name + " \"" + taken + "\" \"" + die + '"';
+    std::string command = '"' + worker + '"';
+    for (const std::string& argument : {name, taken, die, LockHome::Get()})
+        command += " \"" + argument + '"';
 #ifdef _WIN32
     command = '"' + command + '"'; // the shell takes the outer pair off
 #endif
@@ -125,8 +128,9 @@ TEST_F(Mutex, OfARefusedNameIsNone)
 {
     MTMutex mutex(false, "No\\Such\\Room", nullptr);
     EXPECT_FALSE(mutex.IsValid());
-    EXPECT_FALSE(mutex.Lock());
+    EXPECT_EQ(mutex.Lock(), static_cast<DWORD>(ERROR_PATH_NOT_FOUND));
     const MTAutoLock lock(&mutex);
+    EXPECT_EQ(lock.GetError(), static_cast<DWORD>(ERROR_PATH_NOT_FOUND));
     mutex.Unlock();
 }
 
