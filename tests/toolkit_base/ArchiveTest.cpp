@@ -3,6 +3,7 @@
 
 #include <FullDisk.h>
 #include <TemporaryDirectory.h>
+#include <WideText.h>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +103,34 @@ TEST_F(Archive, ReadsEveryFormOfLength)
         wide += "x\0"s;
     EXPECT_TRUE(ReadText("\xFF\xFE\xFF\xFF\xFE\xFF" + wide) == CString('x', 0xFFFE))
         << "the lead-in as a length";
+}
+
+// The bytes are the same in every code page that has the letters; the text is that of the code page.
+TEST_F(Archive, WritesTextsBeyondAsciiForReadersWithAnyCodePage)
+{
+    for (const WideText& wide : {WideText{0xE4, 0x20AC}, WideText{0x65E5, 0x672C, 0x8868}}) {
+        const CString text = FromWide(wide);
+        if (ToWide(text) != wide)
+            continue;
+        std::string bytes = "\xFF\xFE\xFF"s + static_cast<char>(wide.size());
+        for (const WCHAR ch : wide)
+            (bytes += static_cast<char>(ch & 0xFF)) += static_cast<char>(ch >> 8);
+        EXPECT_EQ(BytesOf([&](CArchive& ar) { ar << text; }), bytes);
+        EXPECT_EQ(ReadText(bytes), text);
+        EXPECT_EQ(ReadText(static_cast<char>(text.GetLength()) + std::string(text)), text)
+            << "as it once was";
+    }
+    if (GetACP() != CP_UTF8)
+        return;
+    const CString noText("a\xFF");
+    EXPECT_EQ(BytesOf([&](CArchive& ar) { ar << noText; }), "\2a\xFF") << "bytes that are no text stay";
+    const std::string lead = "\xFF\xFE\xFF\xFF\xFF\xFF\xFE\xFF\0\0"s;
+    CString longText;
+    for (int i = 0; i < 0xFFFE; ++i)
+        longText += "\xC3\xA4";
+    const std::string bytes = BytesOf([&](CArchive& ar) { ar << longText; });
+    EXPECT_EQ(bytes.substr(0, lead.size()), lead);
+    EXPECT_TRUE(ReadText(bytes) == longText);
 }
 
 TEST_F(Archive, CountsInThreeWidths)

@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstring>
 #include <exception>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -18,6 +19,24 @@ constexpr BYTE kLongLength = 0xFF;
 constexpr WORD kWideText = 0xFFFE;
 constexpr WORD kLongCount = 0xFFFF;
 constexpr DWORD kLongerCount = 0xFFFFFFFF;
+
+// Whether the text is the same in every code page.
+bool IsAscii(const CString& strText)
+{
+    const std::string_view strBytes(strText.GetString(), static_cast<std::size_t>(strText.GetLength()));
+    return std::ranges::all_of(strBytes, [](char ch) { return static_cast<BYTE>(ch) < 0x80; });
+}
+
+std::string ToLittleEndianUtf16(const WideText& strWide)
+{
+    std::string strBytes;
+    strBytes.reserve(2 * strWide.size());
+    for (const WCHAR ch : strWide) {
+        strBytes += static_cast<char>(ch & 0xFF);
+        strBytes += static_cast<char>(ch >> 8 & 0xFF);
+    }
+    return strBytes;
+}
 
 CString FromLittleEndianUtf16(const std::string& strBytes)
 {
@@ -123,16 +142,19 @@ void CArchive::WriteCount(ULONGLONG nCount)
     *this << kLongerCount << nCount;
 }
 
+// Bytes that are no text in the code page have no 16-bit form and stay what they are.
 CArchive& CArchive::operator<<(const CString& strText)
 {
-    const auto nLength = static_cast<UINT>(strText.GetLength());
-    if (nLength < kLongLength)
-        *this << static_cast<BYTE>(nLength);
-    else if (nLength < kWideText)
-        *this << kLongLength << static_cast<WORD>(nLength);
-    else
-        *this << kLongLength << kLongCount << static_cast<DWORD>(nLength);
-    Write(strText.GetString(), nLength);
+    const WideText strWide = IsAscii(strText) ? WideText() : ToWideIfValid(strText);
+    if (strWide.empty()) {
+        WriteLength(static_cast<UINT>(strText.GetLength()));
+        Write(strText.GetString(), static_cast<UINT>(strText.GetLength()));
+        return *this;
+    }
+    const std::string strBytes = ToLittleEndianUtf16(strWide);
+    *this << kLongLength << kWideText;
+    WriteLength(static_cast<UINT>(strWide.size()));
+    Write(strBytes.data(), static_cast<UINT>(strBytes.size()));
     return *this;
 }
 
@@ -180,6 +202,16 @@ ULONGLONG CArchive::ReadLongCount()
     ULONGLONG nLongerCount;
     *this >> nLongerCount;
     return nLongerCount;
+}
+
+void CArchive::WriteLength(UINT nLength)
+{
+    if (nLength < kLongLength)
+        *this << static_cast<BYTE>(nLength);
+    else if (nLength < kWideText)
+        *this << kLongLength << static_cast<WORD>(nLength);
+    else
+        *this << kLongLength << kLongCount << static_cast<DWORD>(nLength);
 }
 
 // The length of a text in characters; bWide becomes true if they have 16 bits.

@@ -61,8 +61,9 @@ public:
     CArchive& operator<<(T value);
     template <ArchiveNumber T>
     CArchive& operator>>(T& value);
+    // A text beyond ASCII is stored in 16-bit characters, so that readers with another code page know it too;
+    // one that is so stored is turned into an 8-bit one.
     CArchive& operator<<(const CString& strText);
-    // A text that is stored in 16-bit characters is turned into an 8-bit one.
     CArchive& operator>>(CString& strText);
 
 private:
@@ -70,6 +71,7 @@ private:
     void RequireStoring() const;
     void ReadExactly(void* pBuffer, UINT nCount);
     bool FillBuffer();
+    void WriteLength(UINT nLength);
     ULONGLONG ReadLongCount();
     ULONGLONG ReadLength(bool& bWide);
     std::string ReadBytes(ULONGLONG nCount, std::size_t nSize);

@@ -1,14 +1,28 @@
 // Text between code pages, by the calls of the system.
 #include "WideText.h"
 
-WideText ToWide(const CString& strText, UINT nCodePage)
+namespace {
+
+WideText Convert(const CString& strText, UINT nCodePage, DWORD dwFlags)
 {
     if (strText.IsEmpty())
         return {};
-    const int nLength = MultiByteToWideChar(nCodePage, 0, strText, strText.GetLength(), nullptr, 0);
+    const int nLength = MultiByteToWideChar(nCodePage, dwFlags, strText, strText.GetLength(), nullptr, 0);
     WideText strWide(static_cast<std::size_t>(nLength), WCHAR());
-    MultiByteToWideChar(nCodePage, 0, strText, strText.GetLength(), strWide.data(), nLength);
+    MultiByteToWideChar(nCodePage, dwFlags, strText, strText.GetLength(), strWide.data(), nLength);
     return strWide;
+}
+
+}
+
+WideText ToWide(const CString& strText, UINT nCodePage)
+{
+    return Convert(strText, nCodePage, 0);
+}
+
+WideText ToWideIfValid(const CString& strText)
+{
+    return Convert(strText, CP_ACP, MB_ERR_INVALID_CHARS);
 }
 
 CString FromWide(WideTextView strWide, UINT nCodePage)

@@ -9,4 +9,6 @@ using WideTextView = std::basic_string_view<WCHAR>;
 // nCodePage is that of the 8-bit text. A character that the other form cannot express becomes a substitute
 // character, such as a question mark.
 WideText ToWide(const CString& strText, UINT nCodePage = CP_ACP);
+// Gives nothing for bytes that are no text in the active code page.
+WideText ToWideIfValid(const CString& strText);
 CString FromWide(WideTextView strWide, UINT nCodePage = CP_ACP);
