@@ -1,6 +1,7 @@
 // What a month costs, and a file, with lists of many lengths.
 #include <CalendarSettings.h>
 #include <DateTime.h>
+#include <LockHome.h>
 #include <ZebrikUtils.h>
 
 #include <benchmark/benchmark.h>
@@ -10,16 +11,35 @@
 
 namespace {
 
-// Half fixed dates, half dates beside a weekday of the month.
+// Half fixed dates, half dates beside a weekday of the month; no two texts are alike.
 void Fill(CalendarSettings& settings, long long nEntries)
 {
     for (int i = 0; i < nEntries; ++i) {
         auto pEntry = std::make_unique<CalendarDateEntry>();
+        CString strDesc;
+        strDesc.Format("Appointment %d", i);
         if (i % 2 == 0)
-            pEntry->SetDay("A fixed date", 1 + i % 28, 1 + i % 12);
+            pEntry->SetDay(strDesc, 1 + i % 28, 1 + i % 12);
         else
-            pEntry->SetBeforeAfterDayOfWeek("A moving date", DateEntry::OCCURRENCE_LAST, 6, 1 + i % 12, -4);
+            pEntry->SetBeforeAfterDayOfWeek(strDesc, DateEntry::OCCURRENCE_LAST, 6, 1 + i % 12, -4);
         settings.AddCustomEntry(pEntry.release());
+    }
+}
+
+// One day on which so many texts fall.
+void Day(benchmark::State& state)
+{
+    CalendarSettings settings;
+    for (int i = 0; i < state.range(0); ++i) {
+        auto pEntry = std::make_unique<CalendarDateEntry>();
+        CString strDesc;
+        strDesc.Format("Appointment %d", i);
+        pEntry->SetDay(strDesc, 4, 7);
+        settings.AddCustomEntry(pEntry.release());
+    }
+    for (auto _ : state) {
+        DWORD dwColor = 0xFFFFFF;
+        benchmark::DoNotOptimize(settings.GetDateDesc(4, 7, 2026, dwColor));
     }
 }
 
@@ -42,7 +62,9 @@ void Month(benchmark::State& state)
 void SaveAndLoad(benchmark::State& state)
 {
     const auto directory = std::filesystem::temp_directory_path() / "zeb17-bench";
+    std::filesystem::create_directory(directory);
     ZebrikUtils::SetDataDirectory(directory.string().c_str());
+    LockHome::Set(directory.string());
     CalendarSettings settings;
     Fill(settings, state.range(0));
     for (auto _ : state) {
@@ -53,6 +75,7 @@ void SaveAndLoad(benchmark::State& state)
 }
 
 BENCHMARK(Month)->Arg(0)->Arg(100)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Day)->Arg(100)->Arg(8000)->Arg(10000)->Arg(32000)->Unit(benchmark::kMillisecond);
 BENCHMARK(SaveAndLoad)->Arg(0)->Arg(100)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 }

@@ -12,7 +12,7 @@ set(include_dir "${CMAKE_INSTALL_INCLUDEDIR}/zeb17")
 set(config_dir "${CMAKE_INSTALL_LIBDIR}/cmake/zeb17")
 install(DIRECTORY zeb17/datemodel/ zeb17/settings/ zeb17/calendarwnd/ cmake/export/
     DESTINATION "${include_dir}" COMPONENT development FILES_MATCHING PATTERN "*.h"
-    REGEX "/(CalendarTexts|DateTexts|LogLine|MonthBlock)\\.h$" EXCLUDE)
+    REGEX "/(CalendarTexts|DateTexts|LogLine|MonthBlock|SeenPieces)\\.h$" EXCLUDE)
 target_include_directories(zeb17 PUBLIC "$<INSTALL_INTERFACE:${include_dir}>")
 set(ZEB17_PC_CFLAGS "-I\${includedir}/zeb17")
 foreach(folder IN LISTS folders)

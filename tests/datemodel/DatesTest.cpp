@@ -129,6 +129,24 @@ TEST(Dates, JoinTexts)
     }
 }
 
+// Texts of one day are joined as the rule for one text has it, however many and however long they are.
+TEST(Dates, JoinManyTextsAsTheyJoinOne)
+{
+    OpenDates dates;
+    CString strExpected("before");
+    for (int i = 0; i < 3000; ++i) {
+        CString strDesc;
+        // Distinct ones, parts of earlier ones, and some that cross from one line into the next.
+        if (i % 3 == 2)
+            strDesc = strExpected.Mid(i * 7 % strExpected.GetLength(), 3 + i % 30);
+        else
+            strDesc.Format("%s %d", i % 2 ? "An appointment" : "x", i * 7919 % 3000);
+        dates.AddFixed(strDesc, 4, 7, 0);
+        OpenDates::AppendDesc(strDesc, strExpected, 0);
+    }
+    EXPECT_TRUE(Lookup(dates, 4, 7, 2026, "before").strDesc == strExpected);
+}
+
 TEST(Dates, AnswerForYearsOfAnyValue)
 {
     const DatesUS dates;

@@ -1,6 +1,8 @@
 // Looking up what falls on a date, the date of Easter, and the stored colours and show flags of a group.
 #include "Dates.h"
 
+#include "SeenPieces.h"
+
 #include <DateTime.h>
 #include <NumberTextConv.h>
 #include <SerializeData.h>
@@ -8,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string_view>
 
 namespace {
 
@@ -25,6 +28,20 @@ int GetAge(const DateEntry& entry, int nYear)
         return 0;
     const long long nAge = static_cast<long long>(nYear) - entry.m_nStartYear; // a file may hold any year
     return static_cast<int>(std::min<long long>(nAge, std::numeric_limits<int>::max()));
+}
+
+std::string_view ViewOf(const CString& strText)
+{
+    return {strText.GetString(), static_cast<std::size_t>(strText.GetLength())};
+}
+
+void AppendLine(const CString& strNew, CString& strDesc, int nAge)
+{
+    if (!strDesc.IsEmpty())
+        strDesc += "\r\n";
+    strDesc += strNew;
+    if (nAge > 0)
+        strDesc += " (" + NumberTextConv::NumberToString(nAge, false, 0, CString()) + ')';
 }
 
 }
@@ -144,10 +161,15 @@ void Dates::AddTable(const DateTable& table)
 bool Dates::LookupEntries(int nDay, int nMonth, int nYear, CString& strDesc, DWORD& dwColor) const
 {
     bool bFound = false;
+    SeenPieces pieces; // of strDesc
     for (const auto& pEntry : m_Entries) {
         if (!pEntry || !pEntry->m_bShow || !pEntry->IsMatch(nDay, nMonth, nYear))
             continue;
-        AppendDesc(pEntry->m_strDesc, strDesc, GetAge(*pEntry, nYear));
+        const int nAge = GetAge(*pEntry, nYear);
+        if (pieces.MayHold(ViewOf(strDesc), ViewOf(pEntry->m_strDesc)))
+            AppendDesc(pEntry->m_strDesc, strDesc, nAge);
+        else
+            AppendLine(pEntry->m_strDesc, strDesc, nAge);
         dwColor = pEntry->m_dwColor;
         bFound = true;
     }
@@ -186,13 +208,8 @@ bool Dates::LookupWithEaster(std::span<const DateTable::EasterDate> easterDates,
 
 void Dates::AppendDesc(const CString& strNew, CString& strDesc, int nAge)
 {
-    if (strDesc.Find(strNew) >= 0)
-        return;
-    if (!strDesc.IsEmpty())
-        strDesc += "\r\n";
-    strDesc += strNew;
-    if (nAge > 0)
-        strDesc += " (" + NumberTextConv::NumberToString(nAge, false, 0, CString()) + ')';
+    if (strDesc.Find(strNew) < 0)
+        AppendLine(strNew, strDesc, nAge);
 }
 
 // The computus of Oudin (1940) in the form of the Explanatory Supplement to the Astronomical Almanac. With 64
