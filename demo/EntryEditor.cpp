@@ -311,5 +311,6 @@ bool EntryEditor::NeedsYear() const
 {
     const int index = m_years.GetSafeHwnd() != nullptr ? m_years.GetCurSel() : 0;
     const int kind = YearLimits()[static_cast<size_t>(std::max(index, 0))].value;
-    return kind == DateEntry::KIND_FROM_YEAR || kind == DateEntry::KIND_UNTIL_YEAR;
+    return kind == DateEntry::KIND_FROM_YEAR || kind == DateEntry::KIND_UNTIL_YEAR ||
+           kind == DateEntry::KIND_IN_YEAR;
 }

@@ -27,10 +27,9 @@ constexpr Choice kOccurrences[] = {
 };
 
 constexpr Choice kYearLimits[] = {
-    {DateEntry::KIND_EVERY_YEAR, "Every year"},
-    {DateEntry::KIND_EVEN_YEARS, "Even years"},
-    {DateEntry::KIND_FROM_YEAR, "From the year"},
-    {DateEntry::KIND_UNTIL_YEAR, "Until the year"},
+    {DateEntry::KIND_EVERY_YEAR, "Every year"},    {DateEntry::KIND_EVEN_YEARS, "Even years"},
+    {DateEntry::KIND_FROM_YEAR, "From the year"},  {DateEntry::KIND_UNTIL_YEAR, "Until the year"},
+    {DateEntry::KIND_IN_YEAR, "Only in the year"},
 };
 
 const RuleForm* FormOf(const DateEntry& entry)
@@ -60,6 +59,8 @@ CString DescribeYears(const DateEntry& entry)
         words.Format(", from %d on", static_cast<int>(entry.m_nStartYear));
     else if (entry.m_nKind == DateEntry::KIND_UNTIL_YEAR)
         words.Format(", until %d", static_cast<int>(entry.m_nStartYear));
+    else if (entry.m_nKind == DateEntry::KIND_IN_YEAR)
+        words.Format(", in %d only", static_cast<int>(entry.m_nStartYear));
     return words;
 }
 
@@ -117,7 +118,9 @@ std::optional<DateTime> FindNext(const DateEntry& entry)
     constexpr int kDays = 9 * 366; // 29 February can be eight years away
     DateTime date;
     date.SetToCurrentDate();
-    if (entry.m_nKind == DateEntry::KIND_FROM_YEAR && entry.m_nStartYear > date.GetYear())
+    const bool begins =
+        entry.m_nKind == DateEntry::KIND_FROM_YEAR || entry.m_nKind == DateEntry::KIND_IN_YEAR;
+    if (begins && entry.m_nStartYear > date.GetYear())
         date.SetDate(entry.m_nStartYear, 1, 1);
     for (int i = 0; i < kDays && date.IsValid(); ++i, date.AddDays(1)) {
         int year = 0, month = 0, day = 0;

@@ -153,6 +153,8 @@ bool DateEntry::HoldsInYear(int nYear) const
         return nYear >= m_nStartYear;
     case KIND_UNTIL_YEAR:
         return nYear <= m_nStartYear;
+    case KIND_IN_YEAR:
+        return nYear == m_nStartYear;
     default:
         return true;
     }

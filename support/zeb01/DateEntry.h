@@ -29,6 +29,7 @@ public:
         KIND_EVEN_YEARS = 2, // elections
         KIND_FROM_YEAR = 4,  // from m_nStartYear on
         KIND_UNTIL_YEAR = 5, // up to and including m_nStartYear
+        KIND_IN_YEAR = 6,    // in m_nStartYear only: a date that happens once
     };
 
     // The rule of m_nRuleWord, and what lies in m_anRule; the setters below write both.

@@ -113,6 +113,7 @@ TEST(DateEntry, HoldsInTheYearsOfItsKind)
         {DateEntry::KIND_EVERY_YEAR, 2006, {2005, 2006, 2007, 2008}},
         {DateEntry::KIND_FROM_YEAR, 2007, {2007, 2008}},
         {DateEntry::KIND_UNTIL_YEAR, 2006, {2005, 2006}},
+        {DateEntry::KIND_IN_YEAR, 2006, {2006}},
         {DateEntry::KIND_EVEN_YEARS, 0, {2006, 2008}},
         {1, 2006, {2005, 2006, 2007, 2008}},
         {std::numeric_limits<int>::min(), 2006, {2005, 2006, 2007, 2008}},
