@@ -80,6 +80,9 @@ ReplacedFile::ReplacedFile(const CString& strPath, Purpose purpose) : m_strPlace
             m_strPlace = GetPathOf(oldFile);
         if (m_strPlace.IsEmpty())
             Fail(GetLastError());
+        // Some users may write to any file; the mark decides all the same.
+        if (GetFileAttributesA(m_strPlace) & FILE_ATTRIBUTE_READONLY)
+            Fail(ERROR_ACCESS_DENIED);
     } else if (GetLastError() != ERROR_FILE_NOT_FOUND) {
         Fail(GetLastError());
     }

@@ -2,6 +2,7 @@
 #include "SystemCalls.h"
 
 #include <sys/stat.h>
+#include <sys/types.h>
 
 #include <cerrno>
 #include <cstdarg>
