@@ -24,7 +24,6 @@ foreach(folder IN LISTS folders)
     string(APPEND ZEB17_PC_CFLAGS " -I\${includedir}/zeb17/${folder}")
 endforeach()
 
-target_compile_features(zeb17 INTERFACE cxx_std_20)
 install(TARGETS zeb17 EXPORT zeb17
     RUNTIME COMPONENT runtime
     LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
@@ -32,19 +31,21 @@ install(TARGETS zeb17 EXPORT zeb17
 install(EXPORT zeb17 NAMESPACE zeb17:: FILE zeb17Targets.cmake DESTINATION "${config_dir}" COMPONENT development)
 
 include(CMakePackageConfigHelpers)
-write_basic_package_version_file("${CMAKE_BINARY_DIR}/package/zeb17ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/zeb17ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
-    "${CMAKE_BINARY_DIR}/package/zeb17ConfigVersion.cmake"
+    "${PROJECT_BINARY_DIR}/package/zeb17ConfigVersion.cmake"
     DESTINATION "${config_dir}" COMPONENT development)
 
 if(WIN32)
     install(FILES ${ZEB17_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
-    install(TARGETS zeb17_demo RUNTIME COMPONENT demo)
+    if(TARGET zeb17_demo)
+        install(TARGETS zeb17_demo RUNTIME COMPONENT demo)
+    endif()
 else()
     set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
     file(RELATIVE_PATH ZEB17_PC_PREFIX "/${pc_dir}" /)
     string(REGEX REPLACE "/$" "" ZEB17_PC_PREFIX "${ZEB17_PC_PREFIX}")
-    configure_file(cmake/package/zeb17.pc.in "${CMAKE_BINARY_DIR}/package/zeb17.pc" @ONLY)
-    install(FILES "${CMAKE_BINARY_DIR}/package/zeb17.pc"
+    configure_file(cmake/package/zeb17.pc.in "${PROJECT_BINARY_DIR}/package/zeb17.pc" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/package/zeb17.pc"
         DESTINATION "${pc_dir}" COMPONENT development)
 endif()

@@ -1,7 +1,7 @@
 # CPack: on Linux two Debian packages, on Windows one archive. scripts/package makes them.
 set(CPACK_PACKAGE_VENDOR "zeb17")
 set(CPACK_PACKAGE_CONTACT "The zeb17 developers <zeb17@localhost>")
-set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/packages")
+set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "month-calendar control with special dates")
 set(CPACK_STRIP_FILES ON)
 
