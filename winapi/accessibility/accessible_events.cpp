@@ -43,7 +43,7 @@ struct Selection
 
 Selection& lastSelection()
 {
-    static Selection last;
+    static auto& last = *new Selection;
     return last;
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 HandleTable<HDC, Context>& contexts()
 {
-    static HandleTable<HDC, Context> table;
+    static auto& table = *new HandleTable<HDC, Context>;
     return table;
 }
 

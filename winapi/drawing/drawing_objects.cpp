@@ -14,13 +14,13 @@ namespace {
 
 HandleTable<HGDIOBJ, Object>& objects()
 {
-    static HandleTable<HGDIOBJ, Object> table;
+    static auto& table = *new HandleTable<HGDIOBJ, Object>;
     return table;
 }
 
 std::unordered_set<HGDIOBJ>& permanentObjects()
 {
-    static std::unordered_set<HGDIOBJ> handles;
+    static auto& handles = *new std::unordered_set<HGDIOBJ>;
     return handles;
 }
 

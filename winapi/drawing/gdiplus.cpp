@@ -21,13 +21,13 @@ struct Fill
 
 HandleTable<void*, Graphics>& graphicsTable()
 {
-    static HandleTable<void*, Graphics> table;
+    static auto& table = *new HandleTable<void*, Graphics>;
     return table;
 }
 
 HandleTable<void*, Fill>& fills()
 {
-    static HandleTable<void*, Fill> table;
+    static auto& table = *new HandleTable<void*, Fill>;
     return table;
 }
 

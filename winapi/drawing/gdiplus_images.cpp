@@ -16,7 +16,7 @@ constexpr CLSID kPngEncoder = {0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x
 
 HandleTable<void*, QImage>& images()
 {
-    static HandleTable<void*, QImage> table;
+    static auto& table = *new HandleTable<void*, QImage>;
     return table;
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 std::unordered_set<ULONG_PTR>& sessions()
 {
-    static std::unordered_set<ULONG_PTR> tokens;
+    static auto& tokens = *new std::unordered_set<ULONG_PTR>;
     return tokens;
 }
 

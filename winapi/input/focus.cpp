@@ -21,7 +21,7 @@ struct InputState
 
 InputState& state()
 {
-    static InputState input;
+    static auto& input = *new InputState;
     return input;
 }
 

@@ -24,7 +24,7 @@ struct MouseState
 
 MouseState& state()
 {
-    static MouseState mouse;
+    static auto& mouse = *new MouseState;
     return mouse;
 }
 

@@ -9,7 +9,7 @@
 // May be called before main: programs keep these numbers in constants.
 UINT RegisterWindowMessageA(LPCSTR name)
 {
-    static std::map<std::string, UINT> numbers;
+    static auto& numbers = *new std::map<std::string, UINT>;
     if (!name || !*name) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;

@@ -18,7 +18,7 @@ constexpr UINT kNotFound = static_cast<UINT>(-1);
 
 HandleTable<HMENU, Menu>& menus()
 {
-    static HandleTable<HMENU, Menu> table;
+    static auto& table = *new HandleTable<HMENU, Menu>;
     return table;
 }
 

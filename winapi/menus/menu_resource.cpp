@@ -25,7 +25,7 @@ struct Resource
 
 std::vector<Resource>& resources()
 {
-    static std::vector<Resource> registered;
+    static auto& registered = *new std::vector<Resource>;
     return registered;
 }
 

@@ -144,7 +144,7 @@ private:
 
 QPointer<PopupMenu>& shown()
 {
-    static QPointer<PopupMenu> menu;
+    static auto& menu = *new QPointer<PopupMenu>;
     return menu;
 }
 

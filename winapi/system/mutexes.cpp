@@ -368,7 +368,7 @@ private:
 
 Registry& registry()
 {
-    static Registry instance;
+    static auto& instance = *new Registry;
     return instance;
 }
 

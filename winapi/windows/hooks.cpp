@@ -27,7 +27,7 @@ struct HookChain
 
 HookChain& chain()
 {
-    static HookChain hooks;
+    static auto& hooks = *new HookChain;
     return hooks;
 }
 

@@ -16,7 +16,7 @@ namespace {
 // The contexts that are open, each with the top-level window that it draws on; null for the screen.
 std::map<HDC, HWND>& openContexts()
 {
-    static std::map<HDC, HWND> contexts;
+    static auto& contexts = *new std::map<HDC, HWND>;
     return contexts;
 }
 

@@ -28,7 +28,7 @@ struct ClassTable
 // Made when first asked for: programs may register classes before main.
 ClassTable& table()
 {
-    static ClassTable classes;
+    static auto& classes = *new ClassTable;
     return classes;
 }
 
