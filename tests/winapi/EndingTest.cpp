@@ -70,10 +70,12 @@ protected:
         serve();
         for (const Role role : {Grandchild, Child, Owned, Top, Grandchild, Stranger})
             SetFocus(m_windows[role]);
-        SetWindowPos(m_windows[Top], HWND_TOP, 30, 30, 210, 160, SWP_FRAMECHANGED);
+        MoveWindow(m_windows[Top], 30, 30, 210, 160, TRUE);
         MoveWindow(m_windows[Child], 5, 5, 100, 90, TRUE);
-        RedrawWindow(m_windows[Top], nullptr, nullptr,
-                     RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        for (const Role role : {Top, Child, Grandchild}) {
+            InvalidateRect(m_windows[role], nullptr, TRUE);
+            UpdateWindow(m_windows[role]);
+        }
         SetWindowTextA(m_windows[Owned], "text");
         useHands();
         EnableWindow(m_windows[Top], FALSE);

@@ -1,4 +1,4 @@
-// The time of day, the time since some start, and the ids of the process and its threads.
+// The time of day, the time since some start, waiting, and the ids of the process and its threads.
 #include "clock.h"
 
 #include "winbase.h"
@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <ctime>
+#include <thread>
 
 void GetLocalTime(LPSYSTEMTIME time)
 {
@@ -26,6 +27,11 @@ DWORD winapi::tickCount()
 {
     using namespace std::chrono;
     return static_cast<DWORD>(duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+}
+
+void Sleep(DWORD milliseconds)
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 
 DWORD GetCurrentProcessId()

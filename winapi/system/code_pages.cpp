@@ -81,7 +81,7 @@ void append(std::string& text, char32_t ch)
 
 // What both calls do: converts, and copies the result to the caller if it fits.
 template <class From, class To>
-int convert(const From* text, int size, To* result, int resultSize)
+int convert(const From* text, int size, To* result, int resultSize, bool strict)
 {
     if (!text || size == 0 || size < -1 || resultSize < 0)
         return fail(ERROR_INVALID_PARAMETER);
@@ -90,6 +90,8 @@ int convert(const From* text, int size, To* result, int resultSize)
     std::basic_string<To> converted;
     while (!rest.empty()) {
         const char32_t ch = take(rest);
+        if (ch == kInvalid && strict)
+            return fail(ERROR_NO_UNICODE_TRANSLATION);
         append(converted, ch == kInvalid ? kReplacement : ch);
     }
 
@@ -104,9 +106,9 @@ int convert(const From* text, int size, To* result, int resultSize)
 
 }
 
-int MultiByteToWideChar(UINT, DWORD, LPCSTR text, int size, LPWSTR wide, int wideSize)
+int MultiByteToWideChar(UINT, DWORD flags, LPCSTR text, int size, LPWSTR wide, int wideSize)
 {
-    return convert(text, size, wide, wideSize);
+    return convert(text, size, wide, wideSize, flags & MB_ERR_INVALID_CHARS);
 }
 
 int WideCharToMultiByte(UINT, DWORD, LPCWSTR wide, int wideSize, LPSTR text, int size, LPCSTR,
@@ -114,7 +116,7 @@ int WideCharToMultiByte(UINT, DWORD, LPCWSTR wide, int wideSize, LPSTR text, int
 {
     if (usedDefaultChar)
         *usedDefaultChar = FALSE;
-    return convert(wide, wideSize, text, size);
+    return convert(wide, wideSize, text, size, false);
 }
 
 BOOL IsDBCSLeadByte(BYTE)

@@ -78,6 +78,7 @@ constexpr ErrorText kErrorTexts[] = {
     {ERROR_ALREADY_EXISTS, "The object exists already."},
     {ERROR_FILENAME_EXCED_RANGE, "The name is too long."},
     {ERROR_NOT_OWNER, "The mutex is held by another thread."},
+    {ERROR_NO_UNICODE_TRANSLATION, "The text has characters that cannot be converted."},
     {ERROR_FILE_INVALID, "Something else stands in the place of the file."},
     {ERROR_IO_DEVICE, "The device failed."},
     {ERROR_INVALID_WINDOW_HANDLE, "The handle does not belong to a window."},
