@@ -207,7 +207,7 @@ TEST_F(CalendarTest, TakesAnyRectangle)
           CRect(kLeast, kLeast, 0, 0), CRect(kMost, kMost, kMost, kMost)}) {
         Renew();
         ASSERT_TRUE(calendar->Create(kCalendarId, rc, false, &parent, true, true, false, false));
-        calendar->MoveWindow(&rc);
+        calendar->MoveWindow(rc.left, rc.top, rc.Width(), rc.Height());
         calendar->OnSize(0, kMost, kLeast);
         calendar->OnSize(0, kLeast, kMost);
         Repaint();

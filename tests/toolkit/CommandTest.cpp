@@ -6,6 +6,8 @@
 using testing::ElementsAre;
 
 namespace {
+constexpr UINT kFocusCode = 6; // of a button that gets the focus
+
 class Target : public CWnd
 {
 public:
@@ -37,7 +39,7 @@ BEGIN_MESSAGE_MAP(Target, CWnd)
     ON_COMMAND(110, &Target::OnPlain)
     ON_UPDATE_COMMAND_UI(100, &Target::OnUpdatePlain)
     ON_UPDATE_COMMAND_UI(102, &Target::OnSilentUpdate)
-    ON_CONTROL(BN_SETFOCUS, 100, &Target::OnFocusNotification)
+    ON_CONTROL(kFocusCode, 100, &Target::OnFocusNotification)
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 7, 9, &Target::OnNeedText)
 END_MESSAGE_MAP()
 
@@ -73,7 +75,7 @@ TEST_F(Commands, ReachTheHandlerOfTheirIdAndCode)
     Send(100); // its update handler disables the item
     EXPECT_THAT(m_target.m_log, ElementsAre("plain", "update 100"));
     m_target.m_log.clear();
-    for (const UINT code : {UINT(BN_CLICKED), UINT(BN_SETFOCUS)})
+    for (const UINT code : {UINT(BN_CLICKED), UINT(kFocusCode)})
         Send(100, code, m_control);
     EXPECT_THAT(m_target.m_log, ElementsAre("plain", "control"));
 }

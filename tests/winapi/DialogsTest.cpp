@@ -89,7 +89,7 @@ TEST_F(Dialogs, FilesAreChosenOrNot)
         dialog.lpstrFile = path;
         dialog.nMaxFile = MAX_PATH;
         dialog.lpstrDefExt = "txt";
-        dialog.Flags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+        dialog.Flags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY;
         answer(key);
         const bool chosen = GetSaveFileNameA(&dialog);
         EXPECT_EQ(chosen, key == VK_RETURN);

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #ifndef _WIN32
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -256,13 +258,13 @@ TEST_F(Files, HaveDirectoriesNamedByCharactersOfTwoBytes)
     ::CreateDirectoryA(PathOf("parent"), nullptr);
     if (!::CreateDirectoryA(directory, nullptr))
         GTEST_SKIP() << "the file system lacks the letter";
-    RemoveDirectoryA(directory);
-    RemoveDirectoryA(PathOf("parent"));
+    std::filesystem::remove(directory.GetString());
+    std::filesystem::remove(PathOf("parent").GetString());
     EXPECT_TRUE(DirUtils::CreateDirectoryA(directory));
     EXPECT_EQ(CauseOfReplacing(file, "new"), CFileException::none);
     EXPECT_TRUE(FileUtils::DoesFileExist(file));
     DeleteFileA(file);
-    RemoveDirectoryA(directory);
+    std::filesystem::remove(directory.GetString());
 }
 
 }
