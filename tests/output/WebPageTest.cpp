@@ -162,6 +162,6 @@ TEST_F(WebPageTest, FailureLeavesAnOlderPageAsItWas)
         EXPECT_EQ(directory.Read("month.html"), strOld) << nOperation;
         EXPECT_EQ(directory.Names().size(), 2u) << "nothing is left behind by failure " << nOperation;
     }
-    EXPECT_EQ(nOperation, 6) << "after create, write, flush, close and rename";
+    EXPECT_EQ(nOperation, 7) << "after open, create, write, flush, close and rename";
     EXPECT_NE(directory.Read("month.html"), strOld);
 }

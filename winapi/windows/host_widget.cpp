@@ -110,6 +110,8 @@ void HostWidget::abandon()
 {
     m_handle = nullptr;
     hide();
+    if (isEmbedded())
+        setParent(nullptr); // a layout lets go of it at once
     deleteLater();
 }
 
