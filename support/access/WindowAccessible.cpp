@@ -1,3 +1,5 @@
+// The calls of IAccessible, answered by the questions to a derived class and by the system's object for the
+// window.
 #include "WindowAccessible.h"
 
 #include <WideText.h>
@@ -14,11 +16,11 @@ HRESULT AskWindow(HWND hWnd, IDispatch** ppObject)
 
 std::vector<HWND> GetShownChildren(HWND hWnd)
 {
-    std::vector<HWND> children;
-    for (HWND child = ::GetWindow(hWnd, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
-        if (::GetWindowLongA(child, GWL_STYLE) & WS_VISIBLE)
-            children.push_back(child);
-    return children;
+    std::vector<HWND> vChildren;
+    for (HWND hChild = ::GetWindow(hWnd, GW_CHILD); hChild; hChild = ::GetWindow(hChild, GW_HWNDNEXT))
+        if (::GetWindowLongA(hChild, GWL_STYLE) & WS_VISIBLE)
+            vChildren.push_back(hChild);
+    return vChildren;
 }
 
 void Set(VARIANT& variant, LONG nNumber)
@@ -44,9 +46,10 @@ HRESULT SetNothing(VARIANT& variant)
 
 HRESULT GiveString(const CString& strText, BSTR* pText)
 {
-    const WideText text = ToWide(strText);
-    *pText = text.empty() ? nullptr : ::SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-    return *pText != nullptr ? S_OK : S_FALSE;
+    const WideText strWide = ToWide(strText);
+    *pText =
+        strWide.empty() ? nullptr : ::SysAllocStringLen(strWide.data(), static_cast<UINT>(strWide.size()));
+    return *pText ? S_OK : S_FALSE;
 }
 
 }
@@ -59,7 +62,7 @@ WindowAccessible::WindowAccessible(HWND hWnd) : m_hWnd(hWnd)
 
 WindowAccessible::~WindowAccessible()
 {
-    if (m_pStandard != nullptr)
+    if (m_pStandard)
         m_pStandard->Release();
 }
 
@@ -72,7 +75,7 @@ LRESULT WindowAccessible::HandOut(WindowAccessible* pObject, WPARAM wParam)
 
 HRESULT WindowAccessible::QueryInterface(REFIID riid, void** ppObject)
 {
-    if (ppObject == nullptr)
+    if (!ppObject)
         return E_POINTER;
     const bool bKnown = IsEqualIID(riid, __uuidof(IUnknown)) || IsEqualIID(riid, __uuidof(IDispatch)) ||
                         IsEqualIID(riid, __uuidof(IAccessible));
@@ -98,7 +101,7 @@ ULONG WindowAccessible::Release()
 
 HRESULT WindowAccessible::NoText(BSTR* pText)
 {
-    return pText != nullptr ? GiveString("", pText) : E_POINTER;
+    return pText ? GiveString("", pText) : E_POINTER;
 }
 
 HRESULT WindowAccessible::Find(const VARIANT& child, LONG& nItem) const
@@ -114,7 +117,7 @@ HRESULT WindowAccessible::Find(const VARIANT& child, LONG& nItem) const
 template <class Get>
 HRESULT WindowAccessible::GiveText(const VARIANT& child, BSTR* pText, Get get) const
 {
-    if (pText == nullptr)
+    if (!pText)
         return E_POINTER;
     *pText = nullptr;
     LONG nItem = 0;
@@ -125,7 +128,7 @@ HRESULT WindowAccessible::GiveText(const VARIANT& child, BSTR* pText, Get get) c
 template <class Get>
 HRESULT WindowAccessible::GiveNumber(const VARIANT& child, VARIANT* pNumber, Get get) const
 {
-    if (pNumber == nullptr)
+    if (!pNumber)
         return E_POINTER;
     SetNothing(*pNumber);
     LONG nItem = 0;
@@ -157,20 +160,19 @@ HRESULT WindowAccessible::get_accState(VARIANT child, VARIANT* pState)
 
 HRESULT WindowAccessible::get_accParent(IDispatch** ppParent)
 {
-    return m_pStandard != nullptr ? m_pStandard->get_accParent(ppParent) : E_FAIL;
+    return m_pStandard ? m_pStandard->get_accParent(ppParent) : E_FAIL;
 }
 
 HRESULT WindowAccessible::get_accKeyboardShortcut(VARIANT child, BSTR* pKey)
 {
     const bool bWindow = child.vt == VT_I4 && child.lVal == CHILDID_SELF;
-    return bWindow && m_pStandard != nullptr ? m_pStandard->get_accKeyboardShortcut(child, pKey)
-                                             : NoText(pKey);
+    return bWindow && m_pStandard ? m_pStandard->get_accKeyboardShortcut(child, pKey) : NoText(pKey);
 }
 
-// Items first, then the child windows.
+// Counts the items first, then the child windows.
 HRESULT WindowAccessible::get_accChildCount(LONG* pCount)
 {
-    if (pCount == nullptr)
+    if (!pCount)
         return E_POINTER;
     *pCount = 0;
     if (!IsConnected())
@@ -181,7 +183,7 @@ HRESULT WindowAccessible::get_accChildCount(LONG* pCount)
 
 HRESULT WindowAccessible::get_accChild(VARIANT child, IDispatch** ppChild)
 {
-    if (ppChild == nullptr)
+    if (!ppChild)
         return E_POINTER;
     *ppChild = nullptr;
     LONG nItem = 0;
@@ -191,14 +193,14 @@ HRESULT WindowAccessible::get_accChild(VARIANT child, IDispatch** ppChild)
                                      : S_FALSE;
     if (hr != E_INVALIDARG || child.vt != VT_I4 || child.lVal <= 0)
         return hr;
-    const std::vector<HWND> children = GetShownChildren(m_hWnd);
+    const std::vector<HWND> vChildren = GetShownChildren(m_hWnd);
     const auto i = static_cast<std::size_t>(child.lVal - GetItemCount() - 1);
-    return i < children.size() ? AskWindow(children[i], ppChild) : E_INVALIDARG;
+    return i < vChildren.size() ? AskWindow(vChildren[i], ppChild) : E_INVALIDARG;
 }
 
 HRESULT WindowAccessible::get_accFocus(VARIANT* pChild)
 {
-    if (pChild == nullptr)
+    if (!pChild)
         return E_POINTER;
     SetNothing(*pChild);
     if (!IsConnected())
@@ -212,7 +214,7 @@ HRESULT WindowAccessible::get_accFocus(VARIANT* pChild)
 
 HRESULT WindowAccessible::get_accSelection(VARIANT* pChild)
 {
-    if (pChild == nullptr)
+    if (!pChild)
         return E_POINTER;
     SetNothing(*pChild);
     if (!IsConnected())
@@ -224,7 +226,7 @@ HRESULT WindowAccessible::get_accSelection(VARIANT* pChild)
     return S_OK;
 }
 
-// An item is selected as its action does it.
+// Selecting an item carries out its action.
 HRESULT WindowAccessible::accSelect(LONG nFlags, VARIANT child)
 {
     LONG nItem = 0;
@@ -242,7 +244,7 @@ HRESULT WindowAccessible::accSelect(LONG nFlags, VARIANT child)
 
 HRESULT WindowAccessible::accLocation(LONG* pLeft, LONG* pTop, LONG* pWidth, LONG* pHeight, VARIANT child)
 {
-    if (pLeft == nullptr || pTop == nullptr || pWidth == nullptr || pHeight == nullptr)
+    if (!pLeft || !pTop || !pWidth || !pHeight)
         return E_POINTER;
     LONG nItem = 0;
     const HRESULT hr = Find(child, nItem);
@@ -263,7 +265,7 @@ HRESULT WindowAccessible::accLocation(LONG* pLeft, LONG* pTop, LONG* pWidth, LON
 
 HRESULT WindowAccessible::accHitTest(LONG x, LONG y, VARIANT* pChild)
 {
-    if (pChild == nullptr)
+    if (!pChild)
         return E_POINTER;
     SetNothing(*pChild);
     if (!IsConnected())
@@ -271,7 +273,7 @@ HRESULT WindowAccessible::accHitTest(LONG x, LONG y, VARIANT* pChild)
     CPoint point(x, y);
     ::ScreenToClient(m_hWnd, &point);
     const HWND hHit = ::ChildWindowFromPoint(m_hWnd, point);
-    if (hHit == nullptr)
+    if (!hHit)
         return S_FALSE;
     if (hHit != m_hWnd)
         return SetWindow(*pChild, hHit);

@@ -1,4 +1,4 @@
-// What a window of our own tells screen readers and other assistive technology.
+// What a window of this library tells screen readers and other assistive technology.
 #pragma once
 
 #include <afxwin.h>
@@ -6,11 +6,12 @@
 
 #include <atomic>
 
-// Speaks for a window, for the items that it draws itself, and lists its child windows, which speak for
-// themselves. Items are numbered from 1; number 0 is the window. Clients may keep the object for as long as
-// they like: once the window is gone all calls fail.
+// Answers for a window and for the items that the window draws itself, and lists the child windows, each of
+// which has an object of its own. Items are numbered from 1; number 0 is the window. Clients may keep the
+// object for as long as they like; once the window is gone, all calls fail.
 //
-// A derived class says what there is. It is only asked for items that exist, while IsConnected.
+// A derived class tells what the window and its items are. It is asked only while IsConnected is true, and
+// only for items that exist.
 class WindowAccessible : public IAccessible
 {
 public:
@@ -18,9 +19,9 @@ public:
     WindowAccessible(const WindowAccessible&) = delete;
     WindowAccessible& operator=(const WindowAccessible&) = delete;
 
-    // Whether a WM_GETOBJECT asks for this object.
+    // Whether a message WM_GETOBJECT with this parameter asks for the object.
     static bool IsAskedFor(LPARAM lParam) { return static_cast<LONG>(lParam) == OBJID_CLIENT; }
-    // The answer to it. Takes over the caller's reference.
+    // The result of that message. Takes over the caller's reference to the object.
     static LRESULT HandOut(WindowAccessible* pObject, WPARAM wParam);
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppObject) override;
@@ -70,11 +71,11 @@ protected:
     virtual CString GetName(LONG nItem) const = 0;
     virtual LONG GetRole(LONG nItem) const = 0;
     virtual LONG GetState(LONG) const { return GetWindowState(); }
-    // What DoAction does, in a word; empty for nothing.
+    // What DoAction does, in one word; empty if it does nothing.
     virtual CString GetAction(LONG nItem) const = 0;
     virtual void DoAction(LONG nItem) = 0;
 
-    // Of items only; places are in client coordinates.
+    // For a window with items. Places are in client coordinates.
     virtual CRect GetItemRect(LONG) const { return {}; }
     virtual LONG GetItemAt(CPoint) const { return 0; }
     virtual LONG GetSelectedItem() const { return 0; }
@@ -85,7 +86,7 @@ protected:
 
 private:
     static HRESULT NoText(BSTR* pText);
-    // Whether the item exists, with S_OK, and which one it is.
+    // The number of the item that `child` names. S_OK if there is such an item and the window still exists.
     HRESULT Find(const VARIANT& child, LONG& nItem) const;
     template <class Get>
     HRESULT GiveText(const VARIANT& child, BSTR* pText, Get get) const;
@@ -96,7 +97,8 @@ private:
     std::atomic<ULONG> m_nReferences = 1;
 };
 
-// The same for an object of the toolkit: found anew at each call, so that none is kept alive or missed.
+// The base of an object for a window of the class Wnd. It looks the window's object up at each call, since
+// that object may end at any time.
 template <class Wnd>
 class AccessibleOf : public WindowAccessible
 {

@@ -1,4 +1,4 @@
-// Holds a mutex for a scope.
+// Holds a mutex for as long as the object lives.
 #pragma once
 
 #include "MTMutex.h"

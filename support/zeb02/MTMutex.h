@@ -1,11 +1,11 @@
-// A mutex that can be shared by name between processes, and its scoped lock.
+// A mutex that processes share by its name.
 #pragma once
 
 #include <windows.h>
 #include <zeb17_export.h>
 
-// The thread that holds the mutex may take it again, and gives it back as often as it took it. A holder that
-// dies gives it back.
+// The thread that holds the mutex may take it again; it must then give it back as often. When a process ends,
+// the mutexes that it holds are given back.
 class ZEB17_EXPORT MTMutex
 {
 public:

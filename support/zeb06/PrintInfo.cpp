@@ -1,3 +1,4 @@
+// The texts of a print job.
 #include "PrintInfo.h"
 
 PrintInfo::PrintInfo() = default;

@@ -1,4 +1,4 @@
-// What one print job is told and what it tells back.
+// The settings of a print job, and what went wrong with it.
 #pragma once
 
 #include <afxwin.h>
@@ -14,7 +14,7 @@ public:
     void SetPageTitleText(const CString& strTitle);
     CString GetPageTitleText() const;
 
-    // What went wrong; empty if nothing did. A user who cancels is no error.
+    // What went wrong; empty if nothing did, and if the user cancelled the job.
     void SetErrorMsg(const CString& strMsg);
     CString GetErrorMsg() const;
 
@@ -25,11 +25,12 @@ public:
     // Print on the default printer without asking the user.
     bool m_bPrintFlag = false;
 
-    // Margins from the edges of the paper, in thousandths of an inch. They grow where the printer
-    // cannot print so close to the edge.
+    // The margins from the edges of the paper, in thousandths of an inch. Where the printer cannot print so
+    // close to the edge, the margin is wider.
     CRect m_rcPageMargins;
 
-    // The window whose content is printed; it owns the print dialog. May be null.
+    // The window whose content is printed. It owns the print dialog, and the unit of drawing is a pixel of
+    // its screen. May be null.
     CWnd* m_pCtrlWnd = nullptr;
 
 private:

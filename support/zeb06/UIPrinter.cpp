@@ -1,26 +1,31 @@
+// A print job from the printer dialog to its end.
 #include "UIPrinter.h"
 
+#include <FontSelection.h>
 #include <WndWatch.h>
-#include <afxext.h>
 #include <SystemUtils.h>
+
+#include <afxext.h>
+
 #include <algorithm>
 
 namespace {
-constexpr int POINTS_PER_INCH = 72;
-constexpr int MARGIN_UNITS_PER_INCH = 1000;
-constexpr int DEFAULT_SCREEN_DPI = 96;
 
-constexpr char FACE[] = "Arial";
-constexpr int HEADER_POINTS = 22;
-constexpr int FOOTER_POINTS = 9;
-constexpr int MIN_CONTENT_POINTS = 6;
-constexpr int CONTENT_LINES = 28; // of text fit into the shorter side of the content
+constexpr int kPointsPerInch = 72;
+constexpr int kMarginUnitsPerInch = 1000;
+constexpr int kDefaultScreenDpi = 96;
 
-constexpr COLORREF TEXT_COLOR = RGB(0, 0, 0);
+constexpr char kFace[] = "Arial";
+constexpr int kHeaderPoints = 22;
+constexpr int kFooterPoints = 9;
+constexpr int kMinContentPoints = 6;
+constexpr int kContentLines = 28; // the lines of text that fit into the shorter side of the content
 
-CString s_strOutputFile;
+constexpr COLORREF kTextColor = RGB(0, 0, 0);
 
-// `nValue` times a fraction of positive numbers, rounded to the nearest.
+CString g_strOutputFile;
+
+// nValue times a fraction of positive numbers, rounded to the nearest.
 int Scale(int nValue, int nNumerator, int nDenominator)
 {
     return (nValue * nNumerator + nDenominator / 2) / nDenominator;
@@ -32,16 +37,16 @@ struct DialogError
     const char* pszText;
 };
 
-constexpr DialogError DIALOG_ERRORS[] = {
+constexpr DialogError kDialogErrors[] = {
     {PDERR_NODEVICES, "There is no printer."},
-    {0, "There is no default printer."}, // some systems give no code for it
+    {0, "There is no default printer."}, // some systems tell it without a code
     {PDERR_NODEFAULTPRN, "There is no default printer."},
     {PDERR_PRINTERNOTFOUND, "The printer was not found."},
 };
 
 CString GetDialogErrorText(DWORD dwCode)
 {
-    for (const DialogError& error : DIALOG_ERRORS)
+    for (const DialogError& error : kDialogErrors)
         if (error.dwCode == dwCode)
             return error.pszText;
     CString strText;
@@ -49,20 +54,6 @@ CString GetDialogErrorText(DWORD dwCode)
     return strText;
 }
 
-class FontSelection
-{
-public:
-    FontSelection(CDC& dc, const CFont& font) : m_hDC(dc.m_hDC), m_hOld(::SelectObject(m_hDC, font.m_hObject))
-    {
-    }
-    ~FontSelection() { ::SelectObject(m_hDC, m_hOld); }
-    FontSelection(const FontSelection&) = delete;
-    FontSelection& operator=(const FontSelection&) = delete;
-
-private:
-    HDC m_hDC;
-    HGDIOBJ m_hOld;
-};
 }
 
 struct UIPrinter::Job
@@ -77,8 +68,8 @@ struct UIPrinter::Job
     CFont m_fontFooter;
     CRect m_rcHeader; // in logical units, as m_page.m_rectDraw
     CRect m_rcFooter;
-    CSize m_sizeUnits = CSize(DEFAULT_SCREEN_DPI, DEFAULT_SCREEN_DPI); // logical units an inch
-    CString m_strLeft;                                                 // texts of the footer
+    CSize m_sizeUnits = CSize(kDefaultScreenDpi, kDefaultScreenDpi); // logical units per inch
+    CString m_strLeft;                                               // the texts of the footer
     CString m_strCenter;
     CString m_strRight;
     bool m_bStarted = false;
@@ -87,23 +78,23 @@ struct UIPrinter::Job
     bool HasHeader() const { return !m_info.GetPageTitleText().IsEmpty(); }
     bool HasFooter() const { return !m_strLeft.IsEmpty() || !m_strCenter.IsEmpty() || !m_strRight.IsEmpty(); }
 
-    // The distance of the edge of the paper's printable area, and what is left of a margin inside it.
+    // The part of a margin that lies inside the printable area, in pixels of the printer.
     int GetDeviceMargin(int nMargin, int nDpi, int nUnprintable) const
     {
-        return std::max(Scale(nMargin, nDpi, MARGIN_UNITS_PER_INCH) - nUnprintable, 0);
+        return std::max(Scale(nMargin, nDpi, kMarginUnitsPerInch) - nUnprintable, 0);
     }
 
     // The page within its margins, in logical units from the corner of the printable area.
     CRect GetPageRect() const
     {
-        const auto Caps = [this](int nIndex) { return m_dc.GetDeviceCaps(nIndex); };
+        const auto caps = [this](int nIndex) { return m_dc.GetDeviceCaps(nIndex); };
         const CRect& rcMargins = m_info.m_rcPageMargins;
-        const int nRight = Caps(PHYSICALWIDTH) - Caps(PHYSICALOFFSETX) - Caps(HORZRES);
-        const int nBottom = Caps(PHYSICALHEIGHT) - Caps(PHYSICALOFFSETY) - Caps(VERTRES);
-        CRect rect(GetDeviceMargin(rcMargins.left, Caps(LOGPIXELSX), Caps(PHYSICALOFFSETX)),
-                   GetDeviceMargin(rcMargins.top, Caps(LOGPIXELSY), Caps(PHYSICALOFFSETY)),
-                   Caps(HORZRES) - GetDeviceMargin(rcMargins.right, Caps(LOGPIXELSX), nRight),
-                   Caps(VERTRES) - GetDeviceMargin(rcMargins.bottom, Caps(LOGPIXELSY), nBottom));
+        const int nRight = caps(PHYSICALWIDTH) - caps(PHYSICALOFFSETX) - caps(HORZRES);
+        const int nBottom = caps(PHYSICALHEIGHT) - caps(PHYSICALOFFSETY) - caps(VERTRES);
+        CRect rect(GetDeviceMargin(rcMargins.left, caps(LOGPIXELSX), caps(PHYSICALOFFSETX)),
+                   GetDeviceMargin(rcMargins.top, caps(LOGPIXELSY), caps(PHYSICALOFFSETY)),
+                   caps(HORZRES) - GetDeviceMargin(rcMargins.right, caps(LOGPIXELSX), nRight),
+                   caps(VERTRES) - GetDeviceMargin(rcMargins.bottom, caps(LOGPIXELSY), nBottom));
         ::DPtoLP(m_dc.m_hDC, reinterpret_cast<POINT*>(&rect), 2);
         return rect;
     }
@@ -111,10 +102,10 @@ struct UIPrinter::Job
     void CreatePointFont(CFont& font, int nPoints, int nWeight) const
     {
         LOGFONTA lf = {};
-        lf.lfHeight = -Scale(nPoints, m_sizeUnits.cy, POINTS_PER_INCH);
+        lf.lfHeight = -Scale(nPoints, m_sizeUnits.cy, kPointsPerInch);
         lf.lfWeight = nWeight;
         lf.lfCharSet = DEFAULT_CHARSET;
-        ::lstrcpynA(lf.lfFaceName, FACE, LF_FACESIZE);
+        ::lstrcpynA(lf.lfFaceName, kFace, LF_FACESIZE);
         font.CreateFontIndirect(&lf);
     }
 
@@ -138,7 +129,7 @@ UIPrinter::~UIPrinter() = default;
 
 void UIPrinter::SetOutputFile(const CString& strPath)
 {
-    s_strOutputFile = strPath;
+    g_strOutputFile = strPath;
 }
 
 void UIPrinter::Print(PrintInfo* pInfo)
@@ -163,7 +154,7 @@ void UIPrinter::InitPrintProcess()
     CPrintDialog& dialog = m_pJob->m_page.m_dialog;
     dialog.m_pd.hwndOwner = info.m_pCtrlWnd ? info.m_pCtrlWnd->m_hWnd : nullptr;
 
-    const bool bAsk = !info.m_bPrintFlag && s_strOutputFile.IsEmpty();
+    const bool bAsk = !info.m_bPrintFlag && g_strOutputFile.IsEmpty();
     const bool bChosen = bAsk ? AskForPrinter(dialog) : dialog.GetDefaults() != FALSE;
     if (bChosen) {
         SetPrintDC(dialog.GetPrinterDC());
@@ -190,7 +181,7 @@ bool UIPrinter::AskForPrinter(CPrintDialog& dialog)
 
 void UIPrinter::CreateHeaderFont(CFont& font) const
 {
-    m_pJob->CreatePointFont(font, HEADER_POINTS, FW_BOLD);
+    m_pJob->CreatePointFont(font, kHeaderPoints, FW_BOLD);
 }
 
 // The text grows with the paper, so that it suits a table that fills the page.
@@ -198,13 +189,13 @@ void UIPrinter::CreateContentFont(CFont& font) const
 {
     const CRect& rect = m_pJob->m_page.m_rectDraw;
     const int nSide = std::min(rect.Width(), rect.Height());
-    const int nPoints = Scale(nSide, POINTS_PER_INCH, m_pJob->m_sizeUnits.cy * CONTENT_LINES);
-    m_pJob->CreatePointFont(font, std::max(nPoints, MIN_CONTENT_POINTS), FW_NORMAL);
+    const int nPoints = Scale(nSide, kPointsPerInch, m_pJob->m_sizeUnits.cy * kContentLines);
+    m_pJob->CreatePointFont(font, std::max(nPoints, kMinContentPoints), FW_NORMAL);
 }
 
 void UIPrinter::CreateFooterFont(CFont& font) const
 {
-    m_pJob->CreatePointFont(font, FOOTER_POINTS, FW_NORMAL);
+    m_pJob->CreatePointFont(font, kFooterPoints, FW_NORMAL);
 }
 
 void UIPrinter::StartPrint()
@@ -216,8 +207,8 @@ void UIPrinter::StartPrint()
     DOCINFOA document = {};
     document.cbSize = sizeof(document);
     document.lpszDocName = strTitle;
-    if (!s_strOutputFile.IsEmpty())
-        document.lpszOutput = s_strOutputFile;
+    if (!g_strOutputFile.IsEmpty())
+        document.lpszOutput = g_strOutputFile;
     m_pJob->m_bStarted = m_pJob->m_dc.StartDoc(&document) > 0;
     if (!m_pJob->m_bStarted)
         FailWithLastError("The print job could not be started.");
@@ -286,11 +277,11 @@ void UIPrinter::PrintPage()
         return;
     }
     m_pJob->m_dc.SetBkMode(TRANSPARENT);
-    m_pJob->m_dc.SetTextColor(TEXT_COLOR);
+    m_pJob->m_dc.SetTextColor(kTextColor);
     PrintPageHeader();
     {
         const FontSelection selection(m_pJob->m_dc, m_pJob->m_fontContent);
-        PrintPageContent(TEXT_COLOR);
+        PrintPageContent(kTextColor);
     }
     PrintPageFooter();
     if (m_pJob->m_dc.EndPage() <= 0)

@@ -1,13 +1,13 @@
-// The printer framework: it runs a print job, a derived class draws the pages.
+// The printer framework, which runs a print job. A derived class draws the pages.
 //
-// A page has a heading, the content rectangle and a footer. Whatever the printer's resolution, its unit
-// of drawing is one pixel of the screen that the printed window stands on, usually 1/96 inch, so that
-// lines and distances have their usual look. Fonts are made in points.
+// A page has a heading, the content rectangle and a footer. The unit of drawing is one pixel of the screen
+// that shows the printed window, usually 1/96 inch, whatever the resolution of the printer, so that lines and
+// distances look as on the screen. Fonts are made in points.
 #pragma once
 
 #include <afxwin.h>
 #include <zeb17_export.h>
-#include <memory>
+
 #include "PrintInfo.h"
 
 class CPrintDialog;
@@ -20,19 +20,19 @@ public:
     UIPrinter(const UIPrinter&) = delete;
     UIPrinter& operator=(const UIPrinter&) = delete;
 
-    // Runs the whole job and returns when it has ended, failed or been cancelled. What failed stands
-    // in `pInfo` afterwards. Does nothing for null.
+    // Runs the whole job, and returns when it has ended, has failed or was cancelled. pInfo then tells what
+    // went wrong. Does nothing if pInfo is null.
     void Print(PrintInfo* pInfo);
 
-    // From now on jobs go to this file, on the default printer and without a dialog; an empty path
-    // ends that. For hosts that print without hands.
+    // Makes all later jobs print to this file, on the default printer and without a dialog; an empty path
+    // ends that. For hosts that print without a user.
     static void SetOutputFile(const CString& strPath);
 
 protected:
     // The operations in the order in which they stand in the table of virtual operations; Print calls
     // InitPrintProcess, StartPrint, PrintPages, EndPrint and EndPrintProcess.
 
-    // Gets the printer's context: from the user's dialog, or the default printer's.
+    // Gets the context of the printer that the user chooses in the dialog, or that of the default printer.
     virtual void InitPrintProcess();
 
     // Make the fonts of the three parts of a page.
@@ -46,7 +46,7 @@ protected:
     // Works out units, margins and the content rectangle of a page.
     virtual void DoPrePrintCalculations();
 
-    // A context of the window printed, for measures of the screen, and its return. May be null.
+    // Gives a context of the printed window, which tells the measures of the screen, or null; takes it back.
     virtual CDC* GetCtrlDC() const;
     virtual void ReleaseScreenDC(CDC* pDC) const;
 
@@ -71,10 +71,10 @@ protected:
     // The footer: the texts that GetPageTexts gives.
     virtual void PrintPageFooter();
 
-    // Ends the job; gives it up if something failed.
+    // Ends the job, or aborts it if something failed.
     virtual void EndPrint();
 
-    // Gives the printer's context back.
+    // Deletes the printer's context.
     virtual void EndPrintProcess();
 
 public:
@@ -87,11 +87,12 @@ protected:
     // The job's page, or null. Its m_rectDraw is the content rectangle of the page at hand.
     CPrintInfo* GetPrintInfo() const;
 
-    // Takes over a printer's context, whose destruction ends with the job. For derived classes that
-    // find their printer without a dialog.
+    // Takes over a printer's context, which is deleted at the end of the job. For derived classes that choose
+    // the printer without a dialog.
     void SetPrintDC(HDC hDC);
 
-    // Notes what went wrong, unless something did before, and gives the rest of the job up.
+    // Keeps the text of what went wrong, unless there is one already, and makes the rest of the job be left
+    // out.
     void Fail(const CString& strMsg);
     void FailWithLastError(const CString& strMsg); // adds the text of the system's last error
 

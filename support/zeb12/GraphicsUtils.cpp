@@ -1,8 +1,11 @@
+// The description of a font.
 #include "GraphicsUtils.h"
 
 namespace {
-// Present on both platforms, on Linux through a face of the same metrics.
-constexpr char DEFAULT_FACE[] = "Arial";
+
+// Known on both platforms; Linux has a face of the same measures in its place.
+constexpr char kDefaultFace[] = "Arial";
+
 }
 
 void GraphicsUtils::SetDefaultFont(LOGFONTA& lf, const CString& strFace, int nHeight, int nWeight,
@@ -15,5 +18,5 @@ void GraphicsUtils::SetDefaultFont(LOGFONTA& lf, const CString& strFace, int nHe
     lf.lfUnderline = bUnderline;
     lf.lfStrikeOut = bStrikeOut;
     lf.lfCharSet = DEFAULT_CHARSET;
-    ::lstrcpynA(lf.lfFaceName, strFace.IsEmpty() ? DEFAULT_FACE : strFace.GetString(), LF_FACESIZE);
+    ::lstrcpynA(lf.lfFaceName, strFace.IsEmpty() ? kDefaultFace : strFace.GetString(), LF_FACESIZE);
 }

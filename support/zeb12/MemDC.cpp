@@ -1,3 +1,4 @@
+// The surface of a drawing buffer, and its copying.
 #include "MemDC.h"
 
 CMemDC::CMemDC(CDC* pDC, const CRect& rect) : m_pTarget(pDC), m_rcTarget(rect)

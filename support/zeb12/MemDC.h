@@ -1,4 +1,4 @@
-// A drawing buffer: what is drawn on it appears at once, when it goes.
+// A drawing buffer. All that is drawn on it appears on the target in one step, when the buffer ends.
 #pragma once
 
 #include <afxwin.h>
@@ -7,18 +7,18 @@
 class ZEB17_EXPORT CMemDC : public CDC
 {
 public:
-    // Makes a surface for `rect`, which is drawn on in the coordinates of `pDC`. The surface's pixels
-    // are undefined until drawn. `pDC` must outlive the object.
+    // Makes a surface for the rectangle, on which things are drawn in the coordinates of pDC. Its pixels are
+    // undefined until they are drawn. pDC must outlive the object.
     CMemDC(CDC* pDC, const CRect& rect);
 
-    // Copies the surface to `pDC`.
+    // Copies the surface to pDC.
     ~CMemDC() override;
 
     CMemDC(const CMemDC&) = delete;
     CMemDC& operator=(const CMemDC&) = delete;
 
-    // Whether there is a surface: false for a null context, an empty or inverted rectangle, or if the
-    // system refused one. Then nothing may be drawn, and the destructor copies nothing.
+    // Whether there is a surface. False if pDC is null, if the rectangle is empty or inverted, or if the
+    // system gives no surface; then nothing may be drawn on the object, and the destructor copies nothing.
     bool m_bIsValid = false;
 
 private:

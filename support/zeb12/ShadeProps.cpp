@@ -1,7 +1,10 @@
+// Drawing a face line by line, and the flat faces by default.
 #include "ShadeProps.h"
+
 #include <algorithm>
 
 namespace {
+
 ShadeProps::Face MakeFlatFace(int nColor)
 {
     return {::GetSysColor(nColor), ::GetSysColor(nColor), ::GetSysColor(COLOR_BTNSHADOW)};
@@ -18,6 +21,7 @@ COLORREF Mix(COLORREF crFrom, COLORREF crTo, int nPart, int nWhole)
                Mix(GetGValue(crFrom), GetGValue(crTo), nPart, nWhole),
                Mix(GetBValue(crFrom), GetBValue(crTo), nPart, nWhole));
 }
+
 }
 
 ShadeProps::ShadeProps()

@@ -1,14 +1,15 @@
-// How the face of a control is shaded in each of its states.
+// The shading of the face of a control in each of its states.
 #pragma once
 
 #include <afxwin.h>
 #include <zeb17_export.h>
+
 #include <array>
 
 class ZEB17_EXPORT ShadeProps
 {
 public:
-    // What a face is drawn for: at rest, under the mouse, held down, disabled.
+    // The states: at rest, under the pointer, held down, disabled.
     enum State
     {
         StateNormal,
@@ -17,23 +18,18 @@ public:
         StateDisabled,
         StateCount
     };
-    enum Direction
-    {
-        DirectionDown,
-        DirectionRight
-    };
 
     // A face runs from `m_crFrom` at its top to `m_crTo` at its bottom; equal colours make it flat.
     struct Face
     {
-        COLORREF m_crFrom;   // 0x00BBGGRR, as all colours
-        COLORREF m_crTo;     // the other end of the shading
-        COLORREF m_crBorder; // the line around it
+        COLORREF m_crFrom;   // this and the others are 0x00BBGGRR
+        COLORREF m_crTo;     // the colour at the bottom
+        COLORREF m_crBorder; // the line around the face
     };
 
-    // A flat look in the colours that the system has for push buttons.
+    // Flat faces in the colours that the system has for push buttons.
     ShadeProps();
-    // One face a state, in the order of the states.
+    // One face for each state, in the order of the states.
     explicit ShadeProps(const std::array<Face, StateCount>& aFaces);
 
     // The face of a state.

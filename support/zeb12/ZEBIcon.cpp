@@ -1,11 +1,15 @@
+// Arrows, drawn as polygons.
 #include "ZEBIcon.h"
+
 #include <iterator>
 
 namespace {
-// An arrow is a triangle with a right angle at its tip: `DEPTH` pixels deep, twice as high less one.
-constexpr int ARROW_DEPTH = 5;
-constexpr int COMBO_ARROW_DEPTH = 4;
-constexpr int ARROW_GAP = 1;
+
+// An arrow is a triangle with a right angle at its tip. Its depth is that from the base to the tip in pixels;
+// its base has twice as many pixels less one.
+constexpr int kArrowDepth = 5;
+constexpr int kComboArrowDepth = 4;
+constexpr int kArrowGap = 1;
 
 struct Direction
 {
@@ -13,9 +17,9 @@ struct Direction
     int dy;
 };
 
-constexpr Direction LEFT{-1, 0};
-constexpr Direction RIGHT{1, 0};
-constexpr Direction DOWN{0, 1};
+constexpr Direction kLeft{-1, 0};
+constexpr Direction kRight{1, 0};
+constexpr Direction kDown{0, 1};
 
 struct Shape
 {
@@ -24,16 +28,16 @@ struct Shape
     int nArrows;
 };
 
-constexpr Shape SHAPES[] = {
-    {ZEBIcon::IconPreviousMonth, LEFT, 1},
-    {ZEBIcon::IconNextMonth, RIGHT, 1},
-    {ZEBIcon::IconPreviousYear, LEFT, 2},
-    {ZEBIcon::IconNextYear, RIGHT, 2},
+constexpr Shape kShapes[] = {
+    {ZEBIcon::IconPreviousMonth, kLeft, 1},
+    {ZEBIcon::IconNextMonth, kRight, 1},
+    {ZEBIcon::IconPreviousYear, kLeft, 2},
+    {ZEBIcon::IconNextYear, kRight, 2},
 };
 
 const Shape* FindShape(ZEBIcon::ButtonIcon eIcon)
 {
-    for (const Shape& shape : SHAPES)
+    for (const Shape& shape : kShapes)
         if (shape.eIcon == eIcon)
             return &shape;
     return nullptr;
@@ -41,11 +45,11 @@ const Shape* FindShape(ZEBIcon::ButtonIcon eIcon)
 
 int GetWidth(const Shape& shape)
 {
-    return shape.nArrows * (ARROW_DEPTH + ARROW_GAP) - ARROW_GAP;
+    return shape.nArrows * (kArrowDepth + kArrowGap) - kArrowGap;
 }
 
-// `ptBase` is the pixel in the middle of the arrow's base. Its edges lie at 45 degrees, where whole pixels
-// make the clearest line.
+// ptBase is the pixel in the middle of the arrow's base. The edges of the arrow lie at 45 degrees, where
+// whole pixels make the clearest line.
 void DrawArrow(CDC* pDC, CPoint ptBase, Direction direction, int nDepth, COLORREF crArrow)
 {
     const auto [dx, dy] = direction;
@@ -62,12 +66,13 @@ void DrawArrow(CDC* pDC, CPoint ptBase, Direction direction, int nDepth, COLORRE
     pDC->SelectObject(pOldPen);
     pDC->SelectObject(pOldBrush);
 }
+
 }
 
 CSize ZEBIcon::GetSize(ButtonIcon eIcon)
 {
     const Shape* pShape = FindShape(eIcon);
-    return pShape ? CSize(GetWidth(*pShape), 2 * ARROW_DEPTH - 1) : CSize(0, 0);
+    return pShape ? CSize(GetWidth(*pShape), 2 * kArrowDepth - 1) : CSize(0, 0);
 }
 
 void ZEBIcon::Draw(CDC* pDC, ButtonIcon eIcon, const CRect& rect, COLORREF crIcon)
@@ -77,10 +82,10 @@ void ZEBIcon::Draw(CDC* pDC, ButtonIcon eIcon, const CRect& rect, COLORREF crIco
         return;
 
     const int nLeft = rect.left + (rect.Width() - GetWidth(*pShape)) / 2;
-    const int nBase = pShape->direction.dx < 0 ? ARROW_DEPTH - 1 : 0;
+    const int nBase = pShape->direction.dx < 0 ? kArrowDepth - 1 : 0;
     for (int i = 0; i < pShape->nArrows; ++i) {
-        const CPoint ptBase(nLeft + nBase + i * (ARROW_DEPTH + ARROW_GAP), rect.top + rect.Height() / 2);
-        DrawArrow(pDC, ptBase, pShape->direction, ARROW_DEPTH, crIcon);
+        const CPoint ptBase(nLeft + nBase + i * (kArrowDepth + kArrowGap), rect.top + rect.Height() / 2);
+        DrawArrow(pDC, ptBase, pShape->direction, kArrowDepth, crIcon);
     }
 }
 
@@ -88,6 +93,6 @@ void ZEBIcon::DrawComboArrow(CDC* pDC, const CRect& rect, COLORREF crArrow)
 {
     if (!pDC)
         return;
-    const CPoint ptBase(rect.left + rect.Width() / 2, rect.top + (rect.Height() - COMBO_ARROW_DEPTH) / 2);
-    DrawArrow(pDC, ptBase, DOWN, COMBO_ARROW_DEPTH, crArrow);
+    const CPoint ptBase(rect.left + rect.Width() / 2, rect.top + (rect.Height() - kComboArrowDepth) / 2);
+    DrawArrow(pDC, ptBase, kDown, kComboArrowDepth, crArrow);
 }

@@ -1,4 +1,4 @@
-// The small shapes that buttons carry, drawn as vectors so that they are crisp at any size.
+// The icons of buttons, drawn as polygons so that they are sharp on any screen.
 #pragma once
 
 #include <afxwin.h>
@@ -7,7 +7,8 @@
 class ZEB17_EXPORT ZEBIcon
 {
 public:
-    // The numbers are the family's own; a month is a single arrow, a year a double one.
+    // A month is a single arrow, a year a double one. The numbers are those that all libraries of the family
+    // use.
     enum ButtonIcon
     {
         IconNone = 0,
@@ -17,12 +18,13 @@ public:
         IconNextYear = 119
     };
 
-    // The room that an icon takes, in pixels; 0 by 0 for a number that names no icon.
+    // The size of an icon in pixels; 0 by 0 for a number that is no icon.
     static CSize GetSize(ButtonIcon eIcon);
 
-    // Draws the icon centred in `rect`, which is not clipped to. A number that names no icon draws nothing.
+    // Draws the icon in the middle of the rectangle; a larger icon goes beyond it. A number that is no icon
+    // draws nothing.
     static void Draw(CDC* pDC, ButtonIcon eIcon, const CRect& rect, COLORREF crIcon);
 
-    // Draws the down arrow of a combo box centred in `rect`.
+    // Draws the down arrow of a combo box in the middle of the rectangle.
     static void DrawComboArrow(CDC* pDC, const CRect& rect, COLORREF crArrow);
 };

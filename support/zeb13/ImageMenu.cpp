@@ -1,4 +1,6 @@
+// Loading, updating and showing a popup menu.
 #include "ImageMenu.h"
+
 #include <memory>
 
 CImageMenu::CImageMenu() = default;
@@ -11,7 +13,7 @@ CImageMenu* CImageMenu::LoadFilteredPopupMenu(UINT nResource, CWnd* pTarget)
     if (!pTarget || !bar.LoadMenu(nResource))
         return nullptr;
 
-    // Taken off its bar, the popup outlives it.
+    // A popup that is taken off its bar is not destroyed with the bar.
     const HMENU hPopup = ::GetSubMenu(bar.m_hMenu, 0);
     if (!hPopup || !::RemoveMenu(bar.m_hMenu, 0, MF_BYPOSITION))
         return nullptr;

@@ -1,4 +1,4 @@
-// A popup menu from a resource, whose items the target window has enabled and disabled.
+// A popup menu from a resource, whose items the target window enables and disables.
 #pragma once
 
 #include <afxwin.h>
@@ -12,14 +12,13 @@ public:
     // Destroys the menu.
     virtual ~CImageMenu();
 
-    // Loads the first popup of menu resource `nResource` of the current resource module and lets the
-    // update handlers of `pTarget` set each item. A disabled item shows in grey; an item without an
-    // update handler stays as the resource has it. The caller owns the object; null if there is no such
-    // menu or no target.
+    // Loads the first popup of a menu resource, and lets the update handlers of pTarget enable and disable
+    // its items. An item without an update handler stays as the resource has it. The caller owns the new
+    // object, which holds the popup; null if there is no such resource or pTarget is null.
     CImageMenu* LoadFilteredPopupMenu(UINT nResource, CWnd* pTarget);
 
-    // Shows the popup at a point of the screen and returns when it has closed. The chosen command
-    // reaches `pTarget` as WM_COMMAND. Zero if the menu could not be shown, which the last error explains.
+    // Shows the popup at a point of the screen and returns when it has closed. The chosen command goes to
+    // pTarget as WM_COMMAND. 0 if the menu could not be shown; the thread's last error then tells why.
     int TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pTarget, const RECT* pRect);
 
 private:

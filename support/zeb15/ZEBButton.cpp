@@ -1,35 +1,26 @@
+// Drawing the button, following the mouse, and telling screen readers of it.
 #include "ZEBButton.h"
-#include "GraphicsUtils.h"
 
+#include <FontSelection.h>
+#include <GraphicsUtils.h>
 #include <WindowAccessible.h>
 
 namespace {
-constexpr int DEFAULT_FONT_HEIGHT = 15;
-constexpr int PADDING = 2;     // between the edge of the face and its content
-constexpr int FOCUS_INSET = 3; // of the focus rectangle
-constexpr int ICON_GAP = 3;    // between icon and caption
-constexpr COLORREF DISABLED_ICON = RGB(0xA8, 0xAE, 0xB8);
 
-// Borrows a font for the time of one drawing.
-class FontSelection
-{
-public:
-    FontSelection(CDC& dc, CFont& font) : m_hDC(dc.m_hDC), m_hOld(::SelectObject(dc.m_hDC, font.m_hObject)) {}
-    ~FontSelection() { ::SelectObject(m_hDC, m_hOld); }
-    FontSelection(const FontSelection&) = delete;
-    FontSelection& operator=(const FontSelection&) = delete;
+constexpr int kDefaultFontHeight = 15;
+constexpr int kPadding = 2;    // between the edge of the face and its content
+constexpr int kFocusInset = 3; // between the edge of the face and the focus rectangle
+constexpr int kIconGap = 3;    // between icon and caption
+constexpr COLORREF kDisabledIconColor = RGB(0xA8, 0xAE, 0xB8);
 
-private:
-    HDC m_hDC;
-    HGDIOBJ m_hOld;
-};
-
+// Where a length begins between two ends: at the low end, at the high end, or centred.
 int Align(int nLow, int nHigh, int nLength, bool bLow, bool bHigh)
 {
     if (bLow)
         return nLow;
     return bHigh ? nHigh - nLength : nLow + (nHigh - nLow - nLength) / 2;
 }
+
 }
 
 IMPLEMENT_DYNAMIC(CZEBButton, CButton)
@@ -44,7 +35,7 @@ END_MESSAGE_MAP()
 
 CZEBButton::CZEBButton()
 {
-    GraphicsUtils::SetDefaultFont(m_lfCaption, "", DEFAULT_FONT_HEIGHT, -1, false, false, false);
+    GraphicsUtils::SetDefaultFont(m_lfCaption, "", kDefaultFontHeight, -1, false, false, false);
 }
 
 CZEBButton::~CZEBButton()
@@ -98,7 +89,7 @@ void CZEBButton::DrawItem(LPDRAWITEMSTRUCT lpDIS)
     m_shade.Draw(&dc, rcFace, GetShadeState(lpDIS->itemState));
 
     CRect rcContent(rcFace);
-    rcContent.DeflateRect(PADDING, PADDING);
+    rcContent.DeflateRect(kPadding, kPadding);
     if (lpDIS->itemState & ODS_SELECTED)
         rcContent.OffsetRect(1, 1);
 
@@ -109,12 +100,12 @@ void CZEBButton::DrawItem(LPDRAWITEMSTRUCT lpDIS)
         rcIcon = CRect(ptIcon, ZEBIcon::GetSize(m_eIcon));
     }
     const bool bDisabled = (lpDIS->itemState & ODS_DISABLED) != 0;
-    ZEBIcon::Draw(&dc, m_eIcon, rcIcon, bDisabled ? DISABLED_ICON : ::GetSysColor(COLOR_BTNTEXT));
+    ZEBIcon::Draw(&dc, m_eIcon, rcIcon, bDisabled ? kDisabledIconColor : ::GetSysColor(COLOR_BTNTEXT));
     DrawCaption(dc, rcContent, lpDIS->itemState);
 
     if ((lpDIS->itemState & ODS_FOCUS) && !(lpDIS->itemState & ODS_NOFOCUSRECT)) {
         CRect rcFocus(rcFace);
-        rcFocus.DeflateRect(FOCUS_INSET, FOCUS_INSET);
+        rcFocus.DeflateRect(kFocusInset, kFocusInset);
         dc.DrawFocusRect(&rcFocus);
     }
 }
@@ -139,9 +130,9 @@ void CZEBButton::AdjustForIcon(CRect& rect, CPoint& ptIcon) const
     if (size.cx == 0)
         return;
     if (nHorz == BS_LEFT)
-        rect.left += size.cx + ICON_GAP;
+        rect.left += size.cx + kIconGap;
     else if (nHorz == BS_RIGHT)
-        rect.right -= size.cx + ICON_GAP;
+        rect.right -= size.cx + kIconGap;
 }
 
 void CZEBButton::SetButtonStyle(UINT nStyle, BOOL bRedraw)
@@ -155,8 +146,8 @@ BOOL CZEBButton::OnEraseBkgnd(CDC*)
     return TRUE;
 }
 
-// An owner-drawn button takes no press from the second click of two; ours does, so that fast clicks all
-// count.
+// The system does not press an owner-drawn button by the second click of a double click. This one is pressed,
+// so that fast clicks all count.
 void CZEBButton::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
     SendMessage(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y));
@@ -230,14 +221,14 @@ void CZEBButton::RedrawIfCreated()
         Invalidate(FALSE);
 }
 
-// What a screen reader says of the button.
+// What screen readers are told of the button.
 class CZEBButton::Accessible final : public AccessibleOf<CZEBButton>
 {
 public:
     using AccessibleOf::AccessibleOf;
 
 private:
-    // The caption; a button that has only an icon is named by its tip.
+    // The caption. A button that has only an icon has the name that its tip tells.
     CString GetName(LONG) const override
     {
         CString strCaption;
@@ -246,7 +237,7 @@ private:
         return strCaption.IsEmpty() ? AskTip() : strCaption;
     }
 
-    // A button that is disabled in its regular looks only shows something.
+    // A button that keeps its regular font when it is disabled serves as a label then.
     LONG GetRole(LONG) const override
     {
         const bool bLabel = GetWnd().m_bRegularFontWhenDisabled && !GetWnd().IsWindowEnabled();

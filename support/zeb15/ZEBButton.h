@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 #include <zeb17_export.h>
+
 #include "ShadeProps.h"
 #include "ZEBIcon.h"
 
@@ -14,46 +15,46 @@ public:
     CZEBButton();
     ~CZEBButton() override;
 
-    // Creates the button; it is owner-drawn whatever the style says. The caption may mark a mnemonic
-    // with an ampersand.
+    // Creates the button, which is owner-drawn whatever dwStyle says. An ampersand in the caption marks the
+    // letter behind it as a mnemonic.
     BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) override;
 
-    // Sets the caption's font and repaints: height of a line in pixels, weight as in LOGFONT, and whether
-    // it is italic and underlined (0 or 1). Without a call the default font of the user interface serves.
+    // Sets the font of the caption and repaints. nHeight is the height of a line in pixels, nWeight the
+    // weight as in LOGFONT; byItalic and byUnderline are 0 or 1. Before the first call the caption has the
+    // default font of the user interface.
     void SetFont(const CString& strFace, long nHeight, long nWeight, BYTE byItalic, BYTE byUnderline);
 
     // Puts an icon on the button.
-    //   nHorzAlign   BS_LEFT, BS_CENTER or BS_RIGHT: where it stands beside the caption
+    //   nHorzAlign   BS_LEFT, BS_CENTER or BS_RIGHT: the place of the icon beside the caption
     //   nVertAlign   BS_TOP, BS_VCENTER or BS_BOTTOM
     //   bRedraw      repaint at once
     void SetIcon(ZEBIcon::ButtonIcon eIcon, UINT nHorzAlign, UINT nVertAlign, bool bRedraw);
 
-    // A disabled caption loses its weight and turns grey. `bRegularFont` lets it keep the button's
-    // font, `bRegularColor` its colour: for a button that only shows something.
+    // The caption of a disabled button is light and grey. With bRegularFont it keeps the font, with
+    // bRegularColor the colour of an enabled one: for a button that serves as a label.
     void SetRegularFontWhenDisabled(bool bRegularFont, bool bRegularColor);
 
-    // Copies the shading and repaints. Without a call the button has the system's flat look.
+    // Copies the shading and repaints. Before the first call the button is flat, in colours of the system.
     void SetShadeProps(const ShadeProps& props);
 
-    // The icon is all that the button shows: it is centred in the whole face, and no room is kept for
-    // a caption beside it.
+    // The button shows nothing but the icon, which is centred on the whole face.
     bool m_bIconOnly = false;
 
 protected:
     // Draws the whole button: face, icon, caption and focus rectangle.
     void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
 
-    // Whether the button shows itself pressed while nobody presses it; a push button never does.
+    // Whether the button looks pressed while nobody presses it. A push button never does.
     virtual bool IsChecked() const;
 
     // Whether the button has the keyboard focus.
     virtual bool GetHaveFocus() const;
 
-    // Divides the content rectangle between icon and caption: gives the icon's upper left corner and
-    // takes the icon's room off `rect`. A derived class may keep a part of the face free here.
+    // Divides the content rectangle between icon and caption: ptIcon becomes the upper left corner of the
+    // icon, and rect the place of the caption. A derived class may keep a part of the face free here.
     virtual void AdjustForIcon(CRect& rect, CPoint& ptIcon) const;
 
-    // Changes the style as CButton does, but the button stays owner-drawn.
+    // Changes the style as CButton::SetButtonStyle does, but the button stays owner-drawn.
     virtual void SetButtonStyle(UINT nStyle, BOOL bRedraw = TRUE);
 
     DECLARE_MESSAGE_MAP()
@@ -74,7 +75,7 @@ private:
     void RedrawIfCreated();
 
     LOGFONTA m_lfCaption;
-    CFont m_fontCaption; // both fonts are made when first drawn with
+    CFont m_fontCaption; // this and the next are made when they are first needed
     CFont m_fontDisabled;
     ShadeProps m_shade;
     ZEBIcon::ButtonIcon m_eIcon = ZEBIcon::IconNone;
@@ -82,5 +83,5 @@ private:
     UINT m_nVertAlign = BS_VCENTER;
     bool m_bRegularFontWhenDisabled = false;
     bool m_bRegularColorWhenDisabled = false;
-    bool m_bHot = false; // the mouse is over the button
+    bool m_bHot = false; // the pointer is over the button
 };

@@ -1,4 +1,4 @@
-// What screen readers can learn of the control and do with it, asked as they ask.
+// What screen readers can learn of the control and do with it, by the calls that they make.
 #include "CalendarFixture.h"
 
 #include <LocaleUtils.h>
@@ -30,7 +30,7 @@ VARIANT Child(LONG nChild)
     return child;
 }
 
-// An object that speaks for a window, and what it answers.
+// Asks the object of a window, and gives the answers.
 class Speaker
 {
 public:

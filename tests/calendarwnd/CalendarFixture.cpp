@@ -1,3 +1,4 @@
+// The windows and the hands of the tests of the control.
 #include "CalendarFixture.h"
 
 #include <Clock.h>
@@ -81,7 +82,7 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY)
         m_onChildEnd();
     const char* const strName = FindName(message);
-    if (strName == nullptr || m_pCalendar == nullptr)
+    if (!strName || !m_pCalendar)
         return CWnd::WindowProc(message, wParam, lParam);
     const bool bRange = message == CCalendarWnd::CALWND_DATERANGE_CHANGED;
     m_heard.push_back({strName + (" " + std::to_string(bRange ? 0 : lParam)), wParam, m_pCalendar->GetDate(),

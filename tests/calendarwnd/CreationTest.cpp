@@ -1,3 +1,4 @@
+// Creating the control: what it makes, tells, logs, and refuses.
 #include "CalendarFixture.h"
 
 #include <BkgStyle.h>
@@ -157,7 +158,7 @@ TEST_F(CreationTest, RefusedButtons)
         SCOPED_TRACE(strMark);
         logger.m_lines.clear();
         Renew();
-        if (pButton == nullptr)
+        if (!pButton)
             Replace<CDownArrowButton>(calendar->m_pOptionsButton, new RefusedButton<CDownArrowButton>);
         else
             Replace<CZEBButton>((*calendar).*pButton, new RefusedButton<CZEBButton>);
@@ -167,8 +168,8 @@ TEST_F(CreationTest, RefusedButtons)
         // Whatever is missing, the control can be painted and driven.
         calendar->SetFocus();
         Repaint();
-        for (const WPARAM nKey : {VK_TAB, VK_DOWN, VK_NEXT, VK_HOME})
-            Key(nKey);
+        for (const int nKey : {VK_TAB, VK_DOWN, VK_NEXT, VK_HOME})
+            Key(static_cast<WPARAM>(nKey));
         Press(CPoint(50, 60));
         calendar->MoveWindow(0, 0, 250, 250);
         Repaint();

@@ -1,3 +1,4 @@
+// Mouse, wheel, keys and focus.
 #include "CalendarFixture.h"
 
 #include <LocaleUtils.h>

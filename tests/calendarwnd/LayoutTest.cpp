@@ -1,3 +1,4 @@
+// The places of the buttons and cells, and the tables of the cells.
 #include "CalendarFixture.h"
 
 #include <Clock.h>
@@ -37,7 +38,7 @@ TEST_F(LayoutTest, ButtonsFillHeadingAndFooter)
     }
 }
 
-// The last step of rows and columns takes up what is left, and gives up 1 or 2 where that would be 5 or more.
+// All rows and all columns have the same size but the last, which makes up for what is left over.
 TEST_F(LayoutTest, Edges)
 {
     Start();

@@ -1,7 +1,8 @@
+// A random game: whatever messages come, the control stays consistent.
 #include "CalendarFixture.h"
 #include "RandomGame.h"
 
-// Random messages, after each of which the control must be in order.
+// Random messages. After each of them the control must be consistent.
 class MonkeyTest : public CalendarTest, public testing::WithParamInterface<unsigned>
 {
 protected:
@@ -88,7 +89,7 @@ protected:
         return due;
     }
 
-    // Each message in the state that it tells of, and none for less than a change of that state.
+    // Each message comes in the state that it tells of, and none comes without a change of that state.
     void CheckHeard(const Due& due, bool bChanged)
     {
         std::string strTold;
@@ -106,7 +107,7 @@ protected:
         ASSERT_EQ(strTold, due.strTold);
     }
 
-    // With what waits painted, and no more than that, the frame is where the date is.
+    // When only the invalid parts are painted, the frame is at the day of the date.
     void CheckFrame()
     {
         calendar->UpdateWindow();

@@ -1,3 +1,4 @@
+// The date, the buttons that move it, and what the parent hears.
 #include "CalendarFixture.h"
 
 #include <gmock/gmock.h>
@@ -21,15 +22,16 @@ DateTime Parse(const char* strDate)
 class TriggerTest : public CalendarTest
 {
 protected:
-    // A state is a date, with a plus before it if it is selected and a minus if not. What is told stands in
-    // its order, each message with its `lParam`, and with "title" or "frame" if that had changed by then.
+    // A state is a date, with a plus before it if it is selected and a minus if not. The messages stand in
+    // the order in which they are sent, each with its `lParam`, and with "title" or "frame" if that had
+    // changed before.
     struct Trigger
     {
         const char* strName;
         std::function<void()> act;
         const char* strBefore;
         const char* strAfter;
-        bool bGridInvalid; // else nothing is
+        bool bGridInvalid; // otherwise nothing is invalid
         const char* strTold;
     };
 
@@ -167,7 +169,8 @@ TEST_F(NavigationTest, ClearNeedsPermissionAndAFrame)
     EXPECT_THAT(TakeHeard(), IsEmpty());
 }
 
-// Without a date the title is asked, which names one only in the form with a comma; else today serves.
+// Without a date the month of the title is taken, if the title has the form with a comma; otherwise that of
+// today.
 TEST_F(NavigationTest, InvalidDateIsRepaired)
 {
     Start();

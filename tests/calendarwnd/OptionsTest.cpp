@@ -1,3 +1,4 @@
+// The options menu and the ranges of dates.
 #include "CalendarFixture.h"
 
 #include <Clock.h>
@@ -23,7 +24,7 @@ std::vector<UINT> GetIds(HMENU hMenu)
 HINSTANCE GetModuleWithoutMenus()
 {
     const HINSTANCE hModule = ::GetModuleHandleA("user32.dll");
-    return hModule != nullptr ? hModule : ::GetModuleHandleA("c.dll");
+    return hModule ? hModule : ::GetModuleHandleA("c.dll");
 }
 
 }

@@ -1,3 +1,4 @@
+// The pixels of the grid, of the days and of the selection frame.
 #include "CalendarFixture.h"
 
 namespace {

@@ -1,3 +1,4 @@
+// The texts of the tips, and the tips that a resting pointer brings up.
 #include "CalendarFixture.h"
 
 #include <chrono>

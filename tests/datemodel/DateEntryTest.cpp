@@ -1,4 +1,4 @@
-// When a rule falls, whatever it holds.
+// The dates that rules fall on, also rules with senseless numbers.
 #include <CalendarDateEntry.h>
 #include <DateTime.h>
 
@@ -22,10 +22,10 @@ std::vector<std::string> MatchesIn(const DateEntry& entry, int nYear)
     return dates;
 }
 
-constexpr auto fixed = &DateEntry::SetDay;
-constexpr auto weekday = &DateEntry::SetDayOfWeek;
-constexpr auto nearDay = &DateEntry::SetBeforeAfterDay;
-constexpr auto nearWeekday = &DateEntry::SetBeforeAfterDayOfWeek;
+constexpr auto kFixed = &DateEntry::SetDay;
+constexpr auto kWeekday = &DateEntry::SetDayOfWeek;
+constexpr auto kNearDay = &DateEntry::SetBeforeAfterDay;
+constexpr auto kNearWeekday = &DateEntry::SetBeforeAfterDayOfWeek;
 
 template <class Setter, class... Args>
 DateEntry Make(Setter setter, Args... args)
@@ -37,7 +37,7 @@ DateEntry Make(Setter setter, Args... args)
 
 DateEntry WorkingDay(int nDay, int nMonth)
 {
-    DateEntry entry = Make(fixed, nDay, nMonth);
+    DateEntry entry = Make(kFixed, nDay, nMonth);
     entry.m_bRuleFlag = true;
     return entry;
 }
@@ -55,28 +55,28 @@ TEST(DateEntry, MatchesTheDatesOfItsRule)
         std::vector<std::string> dates;
     } cases[] = {
         {"blank", DateEntry(), 2026, {}},
-        {"fixed", Make(fixed, 4, 7), 2026, {"7-4"}},
-        {"leap day in a leap year", Make(fixed, 29, 2), 2024, {"2-29"}},
-        {"leap day in a common year", Make(fixed, 29, 2), 2026, {}},
+        {"fixed", Make(kFixed, 4, 7), 2026, {"7-4"}},
+        {"leap day in a leap year", Make(kFixed, 29, 2), 2024, {"2-29"}},
+        {"leap day in a common year", Make(kFixed, 29, 2), 2026, {}},
         {"working day: itself", WorkingDay(16, 10), 2026, {"10-16"}},
         {"working day: Saturday to Friday", WorkingDay(16, 10), 2027, {"10-15"}},
         {"working day: Sunday to Monday", WorkingDay(16, 10), 2022, {"10-17"}},
         {"working day of another month", WorkingDay(1, 8), 2026, {"7-31"}},
         {"working day that would be last year's", WorkingDay(1, 1), 2022, {}},
-        {"Monday before a Monday", Make(nearDay, 25, 5, -2), 2026, {"5-18"}},
-        {"Monday before a Tuesday", Make(nearDay, 25, 5, -2), 2027, {"5-24"}},
-        {"Monday after a Monday", Make(nearDay, 25, 5, 2), 2026, {"6-1"}},
-        {"Sunday before a Monday", Make(nearDay, 25, 5, -1), 2026, {"5-24"}},
-        {"Wednesday before the last Friday", Make(nearWeekday, OCCURRENCE_LAST, 6, 4, -4), 2026, {"4-22"}},
-        {"Sunday after the first Monday", Make(nearWeekday, OCCURRENCE_FIRST, 2, 9, 1), 2026, {"9-13"}},
-        {"Tuesday after the first Monday", Make(nearWeekday, OCCURRENCE_FIRST, 2, 11, 3), 2026, {"11-3"}},
-        {"Saturday before the first Sunday", Make(nearWeekday, OCCURRENCE_FIRST, 1, 3, -7), 2026, {"2-28"}},
-        {"Friday after the last Thursday", Make(nearWeekday, OCCURRENCE_LAST, 5, 4, 6), 2026, {"5-1"}},
-        {"picked in the next year", Make(nearDay, 28, 12, 1), 2025, {}},
-        {"picked in the year before", Make(nearDay, 1, 1, -2), 2026, {}},
-        {"a fourth week that 1582 lacked", Make(weekday, OCCURRENCE_FOURTH, 6, 10), 1582, {}},
-        {"the last one all the same", Make(weekday, OCCURRENCE_LAST, 6, 10), 1582, {"10-29"}},
-        {"the second, over the gap", Make(weekday, OCCURRENCE_SECOND, 6, 10), 1582, {"10-22"}},
+        {"Monday before a Monday", Make(kNearDay, 25, 5, -2), 2026, {"5-18"}},
+        {"Monday before a Tuesday", Make(kNearDay, 25, 5, -2), 2027, {"5-24"}},
+        {"Monday after a Monday", Make(kNearDay, 25, 5, 2), 2026, {"6-1"}},
+        {"Sunday before a Monday", Make(kNearDay, 25, 5, -1), 2026, {"5-24"}},
+        {"Wednesday before the last Friday", Make(kNearWeekday, OCCURRENCE_LAST, 6, 4, -4), 2026, {"4-22"}},
+        {"Sunday after the first Monday", Make(kNearWeekday, OCCURRENCE_FIRST, 2, 9, 1), 2026, {"9-13"}},
+        {"Tuesday after the first Monday", Make(kNearWeekday, OCCURRENCE_FIRST, 2, 11, 3), 2026, {"11-3"}},
+        {"Saturday before the first Sunday", Make(kNearWeekday, OCCURRENCE_FIRST, 1, 3, -7), 2026, {"2-28"}},
+        {"Friday after the last Thursday", Make(kNearWeekday, OCCURRENCE_LAST, 5, 4, 6), 2026, {"5-1"}},
+        {"picked in the next year", Make(kNearDay, 28, 12, 1), 2025, {}},
+        {"picked in the year before", Make(kNearDay, 1, 1, -2), 2026, {}},
+        {"a fourth week that 1582 lacked", Make(kWeekday, OCCURRENCE_FOURTH, 6, 10), 1582, {}},
+        {"the last one all the same", Make(kWeekday, OCCURRENCE_LAST, 6, 10), 1582, {"10-29"}},
+        {"the second, over the gap", Make(kWeekday, OCCURRENCE_SECOND, 6, 10), 1582, {"10-22"}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(MatchesIn(c.entry, c.nYear), c.dates) << c.szWhat;
@@ -95,7 +95,7 @@ TEST(DateEntry, PicksEachWeekdayOfEachMonth)
              {OCCURRENCE_FIRST, OCCURRENCE_SECOND, OCCURRENCE_THIRD, OCCURRENCE_FOURTH, OCCURRENCE_LAST}) {
             const bool bPicked = occurrence == OCCURRENCE_LAST ? bLast : (nDay + 6) / 7 == occurrence;
             for (int nDayOfWeek = 1; nDayOfWeek <= 7; ++nDayOfWeek) {
-                ASSERT_EQ(Make(weekday, occurrence, nDayOfWeek, nMonth).IsMatch(nDay, nMonth, nYear),
+                ASSERT_EQ(Make(kWeekday, occurrence, nDayOfWeek, nMonth).IsMatch(nDay, nMonth, nYear),
                           bPicked && nDayOfWeek == date.GetDayOfWeek());
             }
         }
@@ -121,7 +121,7 @@ TEST(DateEntry, HoldsInTheYearsOfItsKind)
     for (const auto& c : cases) {
         std::vector<int> years;
         for (int nYear = 2005; nYear <= 2008; ++nYear) {
-            DateEntry entry = Make(weekday, DateEntry::OCCURRENCE_SECOND, 1, 3);
+            DateEntry entry = Make(kWeekday, DateEntry::OCCURRENCE_SECOND, 1, 3);
             entry.m_nKind = c.nKind;
             entry.m_nStartYear = c.nStartYear;
             if (!MatchesIn(entry, nYear).empty())
@@ -131,7 +131,7 @@ TEST(DateEntry, HoldsInTheYearsOfItsKind)
     }
 }
 
-// What a damaged file may bring must be answered, by no and without harm.
+// A damaged file may bring any numbers. The answer is no, and nothing breaks.
 TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
 {
     constexpr int kMin = std::numeric_limits<int>::min();
@@ -160,12 +160,12 @@ TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
 TEST(DateEntry, IsValidWithADescriptionAndARule)
 {
     EXPECT_FALSE(DateEntry().IsValid());
-    EXPECT_TRUE(Make(fixed, 29, 2).IsValid());
-    EXPECT_FALSE(Make(fixed, 30, 2).IsValid());
-    EXPECT_TRUE(Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4).IsValid());
-    EXPECT_FALSE(Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, 0).IsValid());
+    EXPECT_TRUE(Make(kFixed, 29, 2).IsValid());
+    EXPECT_FALSE(Make(kFixed, 30, 2).IsValid());
+    EXPECT_TRUE(Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4).IsValid());
+    EXPECT_FALSE(Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, 0).IsValid());
 
-    DateEntry entry = Make(fixed, 1, 1);
+    DateEntry entry = Make(kFixed, 1, 1);
     entry.SetDesc("");
     EXPECT_FALSE(entry.IsValid());
     EXPECT_TRUE(entry.IsMatch(1, 1, 2026)) << "a description is all that is missing";
@@ -178,7 +178,7 @@ TEST(DateEntry, IsValidWithADescriptionAndARule)
 
 TEST(DateEntry, ReplacesItsRule)
 {
-    DateEntry entry = Make(nearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4);
+    DateEntry entry = Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4);
     entry.SetDay("y", 4, 7);
     EXPECT_EQ(MatchesIn(entry, 2026), std::vector<std::string>{"7-4"});
     EXPECT_STREQ(entry.m_strDesc, "y");

@@ -37,13 +37,13 @@ Date DateOf(const DateTime& value)
     return date;
 }
 
-// The calendar as one would tell a child, a day at a time.
+// The calendar counted day by day, without arithmetic.
 int LengthOfMonth(int nYear, int nMonth)
 {
-    constexpr int nLengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    constexpr int kLengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     const bool bJulianLeap = nYear % 4 == 0;
     const bool bLeap = bJulianLeap && (nYear < 1583 || nYear % 100 != 0 || nYear % 400 == 0);
-    return nLengths[nMonth - 1] + (nMonth == 2 && bLeap ? 1 : 0);
+    return kLengths[nMonth - 1] + (nMonth == 2 && bLeap ? 1 : 0);
 }
 
 Date NextDay(Date date)
@@ -93,8 +93,8 @@ TEST(DateTime, KnowsTheLengthOfEveryMonth)
 
 TEST(DateTime, IsNoDateOutsideTheCalendar)
 {
-    constexpr int nMin = std::numeric_limits<int>::min();
-    constexpr int nMax = std::numeric_limits<int>::max();
+    constexpr int kMin = std::numeric_limits<int>::min();
+    constexpr int kMax = std::numeric_limits<int>::max();
     for (const Date& date : {Date{0, 12, 31},
                              {10000, 1, 1},
                              {2021, 2, 29},
@@ -103,8 +103,8 @@ TEST(DateTime, IsNoDateOutsideTheCalendar)
                              {2021, 0, 1},
                              {2021, 13, 1},
                              {2021, 1, 0},
-                             {nMin, nMin, nMin},
-                             {nMax, nMax, nMax}}) {
+                             {kMin, kMin, kMin},
+                             {kMax, kMax, kMax}}) {
         EXPECT_FALSE(Make(date).IsValid()) << date;
         EXPECT_EQ(DateOf(Make(date)), kNoDate);
     }
@@ -152,10 +152,10 @@ TEST(DateTime, AddDaysGoesOutOfTheRangeAndNotBack)
 TEST(DateTime, StepsByWeeksMonthsAndYears)
 {
     using Step = void (DateTime::*)(int);
-    constexpr Step weeks = &DateTime::AddWeeks;
-    constexpr Step months = &DateTime::AddMonths;
-    constexpr Step years = &DateTime::AddYears;
-    constexpr int nMax = std::numeric_limits<int>::max();
+    constexpr Step kWeeks = &DateTime::AddWeeks;
+    constexpr Step kMonths = &DateTime::AddMonths;
+    constexpr Step kYears = &DateTime::AddYears;
+    constexpr int kMax = std::numeric_limits<int>::max();
     const struct
     {
         Date from;
@@ -163,32 +163,32 @@ TEST(DateTime, StepsByWeeksMonthsAndYears)
         int nCount;
         Date to;
     } cases[] = {
-        {{2021, 4, 4}, weeks, 7, {2021, 5, 23}},
-        {{2021, 1, 1}, weeks, -1, {2020, 12, 25}},
-        {{9999, 12, 25}, weeks, 1, kNoDate},
-        {{1, 1, 7}, weeks, -1, kNoDate},
-        {{2020, 12, 15}, months, 1, {2021, 1, 15}},
-        {{2021, 1, 15}, months, -1, {2020, 12, 15}},
-        {{2021, 1, 31}, months, 1, {2021, 2, 28}},
-        {{2020, 1, 31}, months, 1, {2020, 2, 29}},
-        {{2021, 3, 31}, months, -1, {2021, 2, 28}},
-        {{2021, 5, 31}, months, 25, {2023, 6, 30}},
-        {{9999, 12, 1}, months, 1, kNoDate},
-        {{1, 1, 31}, months, -1, kNoDate},
-        {{1, 6, 1}, months, -6, kNoDate},
-        {{1, 6, 1}, months, -5, {1, 1, 1}},
-        {{2021, 1, 1}, months, nMax, kNoDate},
-        {{2021, 1, 1}, months, -nMax - 1, kNoDate},
-        {{2020, 2, 29}, years, 1, {2021, 2, 28}},
-        {{2020, 2, 29}, years, -4, {2016, 2, 29}},
-        {{1500, 2, 29}, years, 100, {1600, 2, 29}},
-        {{1600, 2, 29}, years, 100, {1700, 2, 28}},
-        {{9999, 1, 1}, years, 1, kNoDate},
-        {{1, 12, 31}, years, -1, kNoDate},
-        {{2021, 1, 1}, years, nMax, kNoDate},
-        {{2021, 1, 1}, years, -nMax - 1, kNoDate},
-        {kNoDate, months, 1, kNoDate},
-        {kNoDate, years, 1, kNoDate},
+        {{2021, 4, 4}, kWeeks, 7, {2021, 5, 23}},
+        {{2021, 1, 1}, kWeeks, -1, {2020, 12, 25}},
+        {{9999, 12, 25}, kWeeks, 1, kNoDate},
+        {{1, 1, 7}, kWeeks, -1, kNoDate},
+        {{2020, 12, 15}, kMonths, 1, {2021, 1, 15}},
+        {{2021, 1, 15}, kMonths, -1, {2020, 12, 15}},
+        {{2021, 1, 31}, kMonths, 1, {2021, 2, 28}},
+        {{2020, 1, 31}, kMonths, 1, {2020, 2, 29}},
+        {{2021, 3, 31}, kMonths, -1, {2021, 2, 28}},
+        {{2021, 5, 31}, kMonths, 25, {2023, 6, 30}},
+        {{9999, 12, 1}, kMonths, 1, kNoDate},
+        {{1, 1, 31}, kMonths, -1, kNoDate},
+        {{1, 6, 1}, kMonths, -6, kNoDate},
+        {{1, 6, 1}, kMonths, -5, {1, 1, 1}},
+        {{2021, 1, 1}, kMonths, kMax, kNoDate},
+        {{2021, 1, 1}, kMonths, -kMax - 1, kNoDate},
+        {{2020, 2, 29}, kYears, 1, {2021, 2, 28}},
+        {{2020, 2, 29}, kYears, -4, {2016, 2, 29}},
+        {{1500, 2, 29}, kYears, 100, {1600, 2, 29}},
+        {{1600, 2, 29}, kYears, 100, {1700, 2, 28}},
+        {{9999, 1, 1}, kYears, 1, kNoDate},
+        {{1, 12, 31}, kYears, -1, kNoDate},
+        {{2021, 1, 1}, kYears, kMax, kNoDate},
+        {{2021, 1, 1}, kYears, -kMax - 1, kNoDate},
+        {kNoDate, kMonths, 1, kNoDate},
+        {kNoDate, kYears, 1, kNoDate},
     };
     for (const auto& c : cases) {
         DateTime value = Make(c.from);

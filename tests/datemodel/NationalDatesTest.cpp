@@ -35,8 +35,8 @@ struct Observance
 
 constexpr DWORD kColor = 0x123456;
 
-// By other calendars than ours. Clock changes count their years; 16 October 2027 is a Saturday, 25 May 2026 a
-// Monday.
+// The dates come from other calendars, not from this code. Clock changes count their years; 16 October 2027
+// is a Saturday, 25 May 2026 a Monday.
 const Observance kObservances[] = {
     {{0, 100}, "New Year's Day", {1, 1, 2026}},
     {{1}, "Groundhog Day", {2, 2, 2026}},
@@ -113,8 +113,8 @@ const Observance kObservances[] = {
     {{221}, "Tweede Pinksterdag", {24, 5, 2021}},
 };
 
-// Where an entry would be if it knew no limit of years. Elections are held in even years; Ash Wednesday of
-// 2021 is in February, which is not looked at.
+// The dates on which an entry would fall without its limit of years. Elections are held in even years; Ash
+// Wednesday of 2021 is in February, which is not looked at.
 const struct
 {
     std::vector<int> ids;

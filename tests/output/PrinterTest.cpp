@@ -1,3 +1,4 @@
+// The pixels of the printed month.
 #include "Canvas.h"
 #include "RecordingLogger.h"
 

@@ -1,3 +1,4 @@
+// The lines of the web page.
 #include <CalendarWnd.h>
 #include <LocaleUtils.h>
 #include <ZEBButton.h>

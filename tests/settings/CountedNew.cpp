@@ -1,3 +1,4 @@
+// Counts each allocation of the program.
 #include "CountedNew.h"
 
 #include <cstdlib>

@@ -164,7 +164,7 @@ TEST_F(DataFile, LoadsEveryFormOfACustomSection)
     ASSERT_TRUE(m_settings.Load());
     EXPECT_EQ(BytesOfGroup(GroupCustom), BytesOf({MakeEntry(7), stored}));
 
-    // Without a counter in the file, the ids drawn from it stay used.
+    // The file holds no counter: the counter of the process goes on from the ids that were given.
     DatesCustom::s_nNextCustomID = 10000;
     UseDirectory(m_root / "oldest");
     WriteFile(1, FileBytes().U16(1).I32(0).U16(0).Custom({stored, stored, stored}, 1));
@@ -175,7 +175,7 @@ TEST_F(DataFile, LoadsEveryFormOfACustomSection)
 
 TEST_F(DataFile, LoadsEveryFormOfAnOverlay)
 {
-    // An id without an entry, between two with one; the last record of an id counts.
+    // A record without an entry is passed over; of two records with the same id the last one counts.
     const Entries records = {MakeEntry(0, "", false, 5), MakeEntry(16, "", false, 6),
                              MakeEntry(41, "", true, 7), MakeEntry(0, "", false, 8)};
     for (const unsigned nWord : {0U, 1U, 2U, 3U, 0xFFFFU}) {

@@ -140,7 +140,7 @@ TEST_F(HostileFile, CountsMoreThanThereIs)
     }
 }
 
-// Any byte may be any other: the answer is one of the four, and the dates can be looked up afterwards.
+// Each byte in turn is changed: Load gives one of the four answers, and dates can be looked up afterwards.
 TEST_F(HostileFile, HasAByteThatIsAnother)
 {
     const std::string strFile = MakeFile();
@@ -164,8 +164,7 @@ TEST_F(HostileFile, HasAByteThatIsAnother)
     }
 }
 
-// Nothing is set aside on the word of a count or a length, and what is read takes a small multiple of its
-// bytes.
+// No memory is taken for a count or a length alone, and what is read takes a small multiple of its bytes.
 TEST_F(HostileFile, TakesNoMemoryThatItDoesNotFill)
 {
     const std::string strEntry = FileBytes().Entry(MakeEntry(7, ""));

@@ -190,8 +190,8 @@ TEST_F(Save, ServesALongList)
         std::cout << szWhat << ": " << dSeconds << " s\n";
         return dSeconds;
     };
-    // A pause that is noticed is far below these bounds, which a busy machine and the sanitizers must keep
-    // too; what takes the square of the length is far above.
+    // The bounds are wide, so that they hold on a busy machine and under the sanitizers too. Still, what
+    // takes time by the square of the length would be far above them.
     EXPECT_LT(measure("save", [&] { settings.Save(); }), 5);
     EXPECT_LT(measure("load", [&] { EXPECT_TRUE(settings.Load()); }), 5);
     EXPECT_EQ(settings.GetCount(CalendarSettings::GroupCustom), static_cast<size_t>(kEntries));

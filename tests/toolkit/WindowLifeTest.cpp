@@ -259,8 +259,8 @@ TEST_F(WindowLife, AnOwnerDrawnControlDrawsItselfUnlessItsParentDoes)
     ASSERT_TRUE(CreateChild(parent, m_frame, 13));
     for (CWnd* owner : {static_cast<CWnd*>(&m_frame), static_cast<CWnd*>(&parent)}) {
         OwnRows list;
-        constexpr DWORD style = WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
-        ASSERT_TRUE(list.Create(style, CRect(0, 0, 90, 90), owner, 12));
+        constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+        ASSERT_TRUE(list.Create(kStyle, CRect(0, 0, 90, 90), owner, 12));
         list.AddString("first");
         list.AddString("second");
         CRect second;

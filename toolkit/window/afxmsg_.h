@@ -205,7 +205,7 @@ protected:                                                                      
     {                                                                                                        \
         using ThisClass [[maybe_unused]] = theClass;                                                         \
         using TheBaseClass = baseClass;                                                                      \
-        static const AFX_MSGMAP_ENTRY entries[] = {
+        static const AFX_MSGMAP_ENTRY kEntries[] = {
 
 #define END_MESSAGE_MAP()                                                                                    \
     {                                                                                                        \
@@ -213,8 +213,8 @@ protected:                                                                      
     }                                                                                                        \
     }                                                                                                        \
     ;                                                                                                        \
-    static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries};                               \
-    return &map;                                                                                             \
+    static const AFX_MSGMAP kMap = {&TheBaseClass::GetThisMessageMap, kEntries};                             \
+    return &kMap;                                                                                            \
     }
 
 #define AFX_MAP_ENTRY(message, code, id, lastId, Signature, memberFxn)                                       \

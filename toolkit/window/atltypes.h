@@ -27,7 +27,7 @@ public:
     CSize() : SIZE{0, 0} {}
     CSize(int initCX, int initCY) : SIZE{initCX, initCY} {}
 
-    bool operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
+    bool operator==(const CSize& size) const { return cx == size.cx && cy == size.cy; }
 };
 
 // A place in the coordinates of a window or of the screen.
@@ -42,7 +42,7 @@ public:
     {
     }
 
-    bool operator==(POINT point) const { return x == point.x && y == point.y; }
+    bool operator==(const CPoint& point) const { return x == point.x && y == point.y; }
 };
 
 // A rectangle. Its right and bottom edges lie just outside of it.
@@ -73,7 +73,7 @@ public:
     {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
     }
-    bool operator==(const RECT& rect) const
+    bool operator==(const CRect& rect) const
     {
         return left == rect.left && top == rect.top && right == rect.right && bottom == rect.bottom;
     }

@@ -47,14 +47,12 @@ void CCalendarWnd::OnSize(UINT, int cx, int cy)
 
     cx = std::clamp(cx, -kLongestSide, kLongestSide);
     cy = std::clamp(cy, -kLongestSide, kLongestSide);
-    constexpr int w = kStepButtonWidth;
-    constexpr int h = kHeadingHeight;
     const ButtonPlace heading[] = {
-        {m_pMonthYearButton, 2 * w, 0, cx - 4 * w, h},
-        {m_pPrevYearButton, 0, 0, w, h},
-        {m_pPrevMonthButton, w, 0, w, h},
-        {m_pNextMonthButton, cx - 2 * w, 0, w, h},
-        {m_pNextYearButton, cx - w, 0, w, h},
+        {m_pMonthYearButton, 2 * kStepButtonWidth, 0, cx - 4 * kStepButtonWidth, kHeadingHeight},
+        {m_pPrevYearButton, 0, 0, kStepButtonWidth, kHeadingHeight},
+        {m_pPrevMonthButton, kStepButtonWidth, 0, kStepButtonWidth, kHeadingHeight},
+        {m_pNextMonthButton, cx - 2 * kStepButtonWidth, 0, kStepButtonWidth, kHeadingHeight},
+        {m_pNextYearButton, cx - kStepButtonWidth, 0, kStepButtonWidth, kHeadingHeight},
     };
     const int nThird = cx / 3;
     const int nFooter = cy - kFooterHeight;

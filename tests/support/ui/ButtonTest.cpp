@@ -1,3 +1,4 @@
+// The look of the buttons, and what they do.
 #include "Canvas.h"
 
 #include <DownArrowButton.h>

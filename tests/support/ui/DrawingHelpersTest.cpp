@@ -1,3 +1,4 @@
+// Shading, icons, the drawing buffer, and the description of a font.
 #include "Canvas.h"
 
 #include <BkgStyle.h>

@@ -1,3 +1,4 @@
+// Loading and updating the options menu.
 #include <ImageMenu.h>
 
 #include <resource.h>

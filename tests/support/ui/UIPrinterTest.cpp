@@ -1,3 +1,4 @@
+// Print jobs that fail, and the division of a page.
 #include <afxext.h>
 
 #include <UIPrinter.h>

@@ -49,7 +49,7 @@ TEST_F(Locale, WritesDates)
     ASSERT_TRUE(LocaleUtils::SetLocale("nl-NL"));
     EXPECT_EQ(LocaleUtils::FormatDate(2007, 5, 4, 6, false).Find("vrijdag 4 mei 2007"), 0);
 
-    // Before the years that the system's own call takes.
+    // The system's own call does not take so early a year.
     ASSERT_TRUE(LocaleUtils::SetLocale("en-US"));
     EXPECT_EQ(LocaleUtils::FormatDate(33, 4, 3, 6, false), "Friday, April 3, 0033");
 }
