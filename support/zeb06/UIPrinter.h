@@ -10,6 +10,8 @@
 
 #include "PrintInfo.h"
 
+#include <memory>
+
 class CPrintDialog;
 struct CPrintInfo;
 

@@ -27,8 +27,7 @@ public:
         Temporary& pTemporary = m_mapTemporary[handle];
         if (!pTemporary)
             pTemporary.reset(new Object);
-        pTemporary.get()->*HandleMember =
-            handle; // the object may have been parted from its handle since it was made
+        pTemporary.get()->*HandleMember = handle; // Detach may have parted the object from its handle
         return pTemporary.get();
     }
 

@@ -70,8 +70,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL)
 {
     if (!state.bInitialized)
         return;
-    const std::vector<CDynLinkLibrary*> vLibraries =
-        AfxGetModuleState()->m_vLibraries; // a copy: the end of each changes it
+    const std::vector<CDynLinkLibrary*> vLibraries = AfxGetModuleState()->m_vLibraries; // each end changes it
     for (CDynLinkLibrary* pLibrary : vLibraries)
         if (pLibrary->m_hModule == state.hModule)
             delete pLibrary;
@@ -95,8 +94,7 @@ CDynLinkLibrary::~CDynLinkLibrary()
 LPCTSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon)
 {
     static std::mutex s_mutex;
-    static std::set<std::string>& s_names =
-        *new std::set<std::string>; // never deleted: the names must stay valid
+    static std::set<std::string>& s_names = *new std::set<std::string>; // not deleted: names stay valid
     const std::lock_guard lock(s_mutex);
 
     WNDCLASSA wndClass{};

@@ -205,8 +205,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
-    BOOL OnMouseHWheel(UINT nFlags, short zDelta,
-                       CPoint pt); // for derived classes; the message map does not lead here
+    BOOL OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt); // not in the message map
     afx_msg BOOL OnToolTipNotify(UINT id, NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
 

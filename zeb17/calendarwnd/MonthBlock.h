@@ -162,8 +162,7 @@ inline DateTime DateOfCell(DateTime date, int nCell)
 // The shape of the month of a date, for the user's first day of the week; nothing for no date.
 inline std::optional<Shape> ShapeOf(const DateTime& date)
 {
-    constexpr int kDaysOfDecember =
-        31; // the month before January of year 1 has no dates that could be counted
+    constexpr int kDaysOfDecember = 31; // of the month before January of year 1, which has no dates
     if (!date.IsValid())
         return std::nullopt;
     DateTime before = date;
