@@ -32,8 +32,8 @@ int main(int argc, char** argv)
     LOGFONTA font{};
     font.lfHeight = 12;
     theFont.CreateFontIndirect(&font);
-    if (!theFrame.CreateEx(0, AfxRegisterWndClass(0), "frame", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr,
-                           0) ||
+    if (!theFrame.CreateEx(0, AfxRegisterWndClass(0), "frame", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300),
+                           nullptr, 0) ||
         !theCalendar.Create(1, CRect(0, 0, 300, 250), true, &theFrame, true, true, true, true))
         return 1;
     theFrame.UpdateWindow();

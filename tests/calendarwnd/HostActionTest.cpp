@@ -157,7 +157,8 @@ TEST_P(HostActionTest, IsSurvived)
 std::string NameOf(const testing::TestParamInfo<std::tuple<Cause, Ends>>& test)
 {
     constexpr const char* kEnds[] = {"EndsWindow", "EndsObject", "EndsHost"};
-    return std::string(std::get<Cause>(test.param).strName) + kEnds[static_cast<int>(std::get<Ends>(test.param))];
+    return std::string(std::get<Cause>(test.param).strName) +
+           kEnds[static_cast<int>(std::get<Ends>(test.param))];
 }
 
 INSTANTIATE_TEST_SUITE_P(Causes, HostActionTest,

@@ -139,4 +139,5 @@ TEST_P(MonkeyTest, LeavesTheControlInOrder)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::ValuesIn(RandomGame::GetSeeds()), testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::ValuesIn(RandomGame::GetSeeds()),
+                         testing::PrintToStringParamName());

@@ -10,8 +10,8 @@
 
 // Convert between UTF-8 and UTF-16, whatever the code page, and give the length of the result; 0 if that
 // fails. A size of -1 says that the text ends in a null, which is then converted too. A size of 0 for the
-// result asks for the length needed. What is no UTF-8, or no UTF-16, turns into U+FFFD; bytes that are no UTF-8
-// fail with MB_ERR_INVALID_CHARS.
+// result asks for the length needed. What is no UTF-8, or no UTF-16, turns into U+FFFD; bytes that are no
+// UTF-8 fail with MB_ERR_INVALID_CHARS.
 WINBASEAPI int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int size, LPWSTR wide,
                                           int wideSize);
 WINBASEAPI int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideSize, LPSTR text,
