@@ -39,7 +39,13 @@ protected:
     // From another thread, since the mutex lets the same one in.
     bool IsMutexFree()
     {
-        auto load = std::async(std::launch::async, [] { CalendarSettings().Load(); });
+        auto load = std::async(std::launch::async, [] {
+            try {
+                CalendarSettings().Load();
+            } catch (CFileException* pException) { // of a file that no user may read
+                pException->Delete();
+            }
+        });
         if (load.wait_for(std::chrono::seconds(20)) == std::future_status::ready)
             return true;
         std::cerr << "The mutex is held." << std::endl;

@@ -150,6 +150,7 @@ std::optional<MSG> takePosted(const Filter& filter)
 // Turns input into a posted message, now that its turn has come. Input that is for no window is dropped.
 bool convertInput()
 {
+    const EndedWindowsKept kept;
     Queue& q = queue();
     while (!q.input.empty()) {
         const Input input = q.input.front();

@@ -158,7 +158,7 @@ bool winapi::placeWindow(HWND handle, const QRect& requested, UINT flags)
 
 BOOL MoveWindow(HWND handle, int x, int y, int width, int height, BOOL repaint)
 {
-    return placeWindow(handle, {x, y, width, height},
+    return placeWindow(handle, {placeWithin(x, y), sizeWithin(width, height)},
                        SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW));
 }
 
