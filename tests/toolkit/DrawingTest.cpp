@@ -3,6 +3,36 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+// A handle that is released cannot be selected.
+bool IsAlive(HGDIOBJ hObject)
+{
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const HGDIOBJ hOld = ::SelectObject(dc.m_hDC, hObject);
+    ::SelectObject(dc.m_hDC, hOld);
+    return hOld != nullptr;
+}
+
+// A process is given so many drawing objects and no more.
+template <class Object, class... Arguments>
+bool ThrowsWhenNoneAreLeft(Arguments... arguments)
+{
+    constexpr std::size_t kMoreThanThereAre = 100000;
+    std::vector<std::unique_ptr<Object>> all;
+    try {
+        while (all.size() < kMoreThanThereAre)
+            all.push_back(std::make_unique<Object>(arguments...));
+    } catch (CResourceException* pException) {
+        pException->Delete();
+        return !all.empty();
+    }
+    return false;
+}
+
+}
+
 TEST(Contexts, SelectObjectGivesTheObjectThatWasSelected)
 {
     CDC dc;
@@ -16,16 +46,6 @@ TEST(Contexts, SelectObjectGivesTheObjectThatWasSelected)
     EXPECT_EQ(dc.SelectObject(static_cast<CPen*>(nullptr)), nullptr);
     EXPECT_EQ(dc.SelectObject(&first)->m_hObject, original->m_hObject);
     dc.SelectObject(original);
-}
-
-// A handle that is released cannot be selected.
-static bool IsAlive(HGDIOBJ handle)
-{
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    const HGDIOBJ old = ::SelectObject(dc.m_hDC, handle);
-    ::SelectObject(dc.m_hDC, old);
-    return old != nullptr;
 }
 
 TEST(DrawingObjects, OwnTheirHandle)
@@ -51,26 +71,6 @@ TEST(DrawingObjects, OwnTheirHandle)
     EXPECT_TRUE(owner.DeleteObject());
     EXPECT_FALSE(owner.DeleteObject());
     EXPECT_FALSE(IsAlive(handle));
-}
-
-namespace {
-
-// A process is given so many drawing objects and no more.
-template <class Object, class... Arguments>
-bool ThrowsWhenNoneAreLeft(Arguments... arguments)
-{
-    constexpr std::size_t kMoreThanThereAre = 100000;
-    std::vector<std::unique_ptr<Object>> all;
-    try {
-        while (all.size() < kMoreThanThereAre)
-            all.push_back(std::make_unique<Object>(arguments...));
-    } catch (CResourceException* pException) {
-        pException->Delete();
-        return !all.empty();
-    }
-    return false;
-}
-
 }
 
 TEST(DrawingObjects, ThrowWhenTheyCannotBeMade)
