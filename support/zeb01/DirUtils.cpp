@@ -34,7 +34,7 @@ bool EndsInSeparator(const CString& strPath)
     return FindEndSeparators(strPath) < strPath.GetLength();
 }
 
-// The length of the path without its last part, but with the separators before that.
+// The length of the path up to its last part: with the separators before that part, without the part.
 int FindLastPart(const CString& strPath)
 {
     int nPart = 0;
@@ -55,8 +55,8 @@ bool IsDirectory(const CString& strPath)
 
 bool MakeDirectory(const CString& strPath)
 {
-    // With attributes that hold no descriptor the directory is the user's alone where its parent does not
-    // decide.
+    // The directory is for the user alone, unless its parent says who may use new directories: that is what
+    // attributes without a descriptor mean.
     SECURITY_ATTRIBUTES userAlone = {sizeof(userAlone), nullptr, FALSE};
     return ::CreateDirectoryA(strPath, &userAlone) || IsDirectory(strPath);
 }

@@ -3,8 +3,8 @@
 
 #include <afx.h>
 
-// The path of the file that the link at strPath leads to. Any other path comes back as it is, and so does
-// that of a link to what cannot be opened.
+// The path of the file that the link at strPath leads to. A path that is no link comes back as it is, and so
+// does that of a link whose file cannot be opened.
 CString FollowLink(const CString& strPath);
 
 // The path of an open file, without links; empty, with the last error, if the system knows none.

@@ -12,7 +12,7 @@
 
 namespace {
 
-// What the names of new files begin with, by purpose. Those of user data are found and deleted by it.
+// The beginnings of the names of new files, by purpose. Leftovers of user data are found by theirs.
 constexpr const char* kPrefixes[] = {"zeb17-", "zeb17-data-"};
 constexpr const char* kSuffix = ".tmp";
 
@@ -26,7 +26,8 @@ CString MakeTemporaryName(ReplacedFile::Purpose purpose)
     return strName;
 }
 
-// Tries again for about a second while the action fails with one of the errors that tell of another program.
+// Carries out the action; if it fails with one of these errors, which mean that another program uses the
+// file, tries again for about a second.
 template <class Action>
 bool TryWhileInUse(std::initializer_list<DWORD> errorsInUse, Action action)
 {
@@ -40,7 +41,7 @@ bool TryWhileInUse(std::initializer_list<DWORD> errorsInUse, Action action)
     return true;
 }
 
-// Opens the file as if to write into it; gives a handle that is no hindrance to anybody.
+// Opens the file as if to write to it, without keeping others from opening it.
 HANDLE OpenOldFile(const CString& strPath)
 {
     HANDLE hFile = INVALID_HANDLE_VALUE;
@@ -53,7 +54,8 @@ HANDLE OpenOldFile(const CString& strPath)
     return hFile;
 }
 
-// With attributes that hold no descriptor, a new file is the user's alone where its folder does not decide.
+// A new file of user data is for the user alone, unless its folder says who may read new files: that is what
+// attributes without a descriptor mean.
 HANDLE CreateNewFile(const CString& strPath, ReplacedFile::Purpose purpose, HANDLE hOldFile)
 {
     SECURITY_ATTRIBUTES userAlone = {sizeof(userAlone), nullptr, FALSE};
@@ -80,7 +82,7 @@ ReplacedFile::ReplacedFile(const CString& strPath, Purpose purpose) : m_strPlace
             m_strPlace = GetPathOf(oldFile);
         if (m_strPlace.IsEmpty())
             Fail(GetLastError());
-        // Some users may write to any file; the mark decides all the same.
+        // The read-only mark counts also for a user who may write to any file.
         if (GetFileAttributesA(m_strPlace) & FILE_ATTRIBUTE_READONLY)
             Fail(ERROR_ACCESS_DENIED);
     } else if (GetLastError() != ERROR_FILE_NOT_FOUND) {
@@ -112,7 +114,7 @@ void ReplacedFile::Commit()
     Close();
     if (const DWORD nFault = GetFileFault(FileOperation::Rename))
         Fail(nFault);
-    // Windows denies access to a file that is open without leave to delete it.
+    // On Windows a move is denied while another program has the file open and does not share its deletion.
     const bool bMoved = TryWhileInUse({ERROR_SHARING_VIOLATION, ERROR_ACCESS_DENIED}, [this] {
         return MoveFileExA(m_strTemporary, m_strPlace, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
                FALSE;

@@ -32,8 +32,9 @@ public:
     // afterwards.
     void Commit();
 
-    // Deletes what killed processes that were writing user data left beside the file of that path. The caller
-    // must hold the lock that all take who write there, since a file that is being written would go too.
+    // Deletes the new files of user data that killed processes have left beside the file at that path. The
+    // caller must hold the lock that every writer of the file takes, since a file that is just being written
+    // would be deleted too.
     static void DeleteLeftovers(const CString& strPath);
 
 private:

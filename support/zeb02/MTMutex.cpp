@@ -1,4 +1,4 @@
-// The named mutex of the system.
+// A mutex on the system's calls.
 #include "MTMutex.h"
 
 MTMutex::MTMutex(bool bInitiallyOwned, const char* szName, SECURITY_ATTRIBUTES* pSecurity)
@@ -18,7 +18,7 @@ DWORD MTMutex::Lock()
         return m_dwCreationError;
     switch (WaitForSingleObject(m_hMutex, kWaitLimit)) {
     case WAIT_OBJECT_0:
-    case WAIT_ABANDONED: // what the mutex guards is written in one step, so it is whole
+    case WAIT_ABANDONED: // its holder was killed; what it guards is written in one step, so it is whole
         return ERROR_SUCCESS;
     case WAIT_TIMEOUT:
         return ERROR_SHARING_VIOLATION;

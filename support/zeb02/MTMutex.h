@@ -9,13 +9,13 @@
 class ZEB17_EXPORT MTMutex
 {
 public:
-    // How long Lock waits at most, in milliseconds: a save takes far less, and a window that waits for a
-    // holder that was stopped must not hang for good.
+    // How long Lock waits at most, in milliseconds. A save takes far less; but a holder may be stopped for
+    // good, and a window that waits for it must not hang for ever.
     static constexpr DWORD kWaitLimit = 5000;
 
-    // Creates the mutex of that name or opens the one that exists; a null name makes an unnamed one. With
-    // bInitiallyOwned a newly made one is held by the caller at once. If the system refuses (the name belongs
-    // to another kind of object, say), every Lock gives the reason.
+    // Creates the mutex of that name, or opens the one that exists; a null name makes a mutex without a name.
+    // With bInitiallyOwned the caller holds the mutex at once if it is new. If the system refuses, for
+    // example because the name belongs to another kind of object, every Lock gives the reason.
     MTMutex(bool bInitiallyOwned, const char* szName, SECURITY_ATTRIBUTES* pSecurity);
     ~MTMutex();
     MTMutex(const MTMutex&) = delete;
@@ -24,7 +24,7 @@ public:
     // Whether there is a mutex.
     bool IsValid() const { return m_hMutex != nullptr; }
 
-    // Waits until the mutex is the calling thread's, and gives ERROR_SUCCESS. Gives ERROR_SHARING_VIOLATION
+    // Waits until the calling thread holds the mutex, and gives ERROR_SUCCESS. Gives ERROR_SHARING_VIOLATION
     // if somebody else still holds it after kWaitLimit, and another error of the system if there is no mutex
     // or it cannot be taken.
     DWORD Lock();

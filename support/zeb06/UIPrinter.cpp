@@ -166,7 +166,7 @@ void UIPrinter::InitPrintProcess()
         Fail(GetDialogErrorText(dwError));
 }
 
-// The window printed may go while the dialog is open.
+// The object of the printed window may be deleted while the dialog is open.
 bool UIPrinter::AskForPrinter(CPrintDialog& dialog)
 {
     CWnd*& pWnd = m_pJob->m_info.m_pCtrlWnd;

@@ -142,7 +142,8 @@ void CArchive::WriteCount(ULONGLONG nCount)
     *this << kLongerCount << nCount;
 }
 
-// Bytes that are no text in the code page have no 16-bit form and stay what they are.
+// Text beyond ASCII is stored in 16-bit characters; bytes that are no text in the code page are stored as
+// they are.
 CArchive& CArchive::operator<<(const CString& strText)
 {
     const WideText strWide = IsAscii(strText) ? WideText() : ToWideIfValid(strText);

@@ -1,11 +1,11 @@
-// Whether the object of a window is still there after a call that may have ended it.
+// The list of the watches of each object.
 #include "WndWatch.h"
 
 #include <utility>
 
 CWndWatch::CWndWatch(const CWnd& wnd) : m_pWnd(&wnd), m_pNext(std::exchange(wnd.m_pWatches, this)) {}
 
-// As a rule this watch is the first of the list, the one made last.
+// As a rule this watch is the first of the list, since it was made last.
 CWndWatch::~CWndWatch()
 {
     if (!m_pWnd)

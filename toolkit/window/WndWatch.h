@@ -1,10 +1,10 @@
-// Whether the object of a window is still there after a call that may have ended it.
+// Tells whether the object of a window is still there after a call that may have deleted it.
 #pragma once
 
 #include <afxwin.h>
 
-// Watches the object of a window. A call that reaches other code, such as a message sent or a focus moved,
-// may end the object; whoever made the call must then not touch it again. For the thread of the window.
+// Watches the object of a window. A call that runs other code, such as sending a message or moving the focus,
+// may delete the object; the caller must then not touch the object again. To be used on the window's thread.
 class ZEB17_EXPORT CWndWatch
 {
 public:
@@ -13,21 +13,21 @@ public:
     CWndWatch(const CWndWatch&) = delete;
     CWndWatch& operator=(const CWndWatch&) = delete;
 
-    // False once the object has ended.
+    // False once the object is deleted.
     bool IsAlive() const { return m_pWnd; }
 
 private:
     friend class CWnd;
 
-    // Tells all that watch the object of its end.
+    // Tells all watches of the object that it is deleted.
     static void End(const CWnd& wnd);
 
     const CWnd* m_pWnd;
-    CWndWatch* m_pNext; // another that watches the same object
+    CWndWatch* m_pNext; // the next watch of the same object
 };
 
-// Takes the steps of an operation in their order, for as long as the object is alive. False if it ended
-// before the last step was done, or in that step.
+// Takes the steps of an operation one after the other, and stops when a step has deleted the object. False if
+// a step did, even the last one.
 template <class... Step>
 bool WhileAlive(const CWnd& wnd, Step... step)
 {

@@ -48,8 +48,8 @@ protected:
 // ends first, the object is left without a handle. The destructor of a derived class calls DestroyWindow
 // first, so that no message of the window reaches an object of which a part is gone.
 //
-// A handler may do anything: destroy the window, also delete the object. Whoever writes a handler that goes
-// on after such a call watches the object (WndWatch.h).
+// A handler may do anything, even destroy the window and delete the object. Code that goes on after a call
+// that may run such a handler watches the object (WndWatch.h).
 //
 // A CException that leaves a handler must not cross the frames of the system, so it ends at the window
 // procedure: CWinApp::ProcessWndProcException gets it, and the message counts as handled. Any other exception
@@ -220,5 +220,5 @@ private:
 
     WNDPROC m_pfnSuper = nullptr; // the window's procedure before the window's messages went to this object
     bool m_bToolTips = false;
-    mutable CWndWatch* m_pWatches = nullptr; // a list, which those who watch this object keep
+    mutable CWndWatch* m_pWatches = nullptr; // the first of the watches of this object
 };

@@ -99,7 +99,7 @@ CCalendarWnd::~CCalendarWnd()
         delete pButton;
         pButton = nullptr;
     };
-    DestroyWindow(); // before a part is gone that its messages reach
+    DestroyWindow(); // now, since its messages still reach the members that end below
     m_fontGrid.DeleteObject();
     release(m_pMonthYearButton);
     release(m_pPrevMonthButton);

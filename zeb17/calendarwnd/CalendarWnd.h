@@ -127,7 +127,7 @@ protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // Creation.
-    void StandOnToday(); // as a new object does: no date selected, nothing laid out or painted
+    void StandOnToday(); // back to the state of a new object: today, nothing selected, laid out or painted
     std::array<CZEBButton*, 8> GetButtons() const; // in the order of their creation
     bool HasAllButtons() const;
     void CreateToolTip();
@@ -260,7 +260,7 @@ protected:
     DateTime m_date;                 // its month is shown; it is the selected date if m_bHaveDate
     CalendarSettings m_settings;     // the special dates
     CWnd* m_pParent = nullptr;       // hears the messages; not owned
-    std::unique_ptr<CWndWatch> m_pParentWatch; // of m_pParent, as Create was given it
+    std::unique_ptr<CWndWatch> m_pParentWatch; // watches m_pParent
 
     // The buttons, which the control owns. The title is a disabled one.
     CZEBButton* m_pMonthYearButton;

@@ -76,7 +76,7 @@ BOOL CCalendarWnd::PreTranslateMessage(MSG* pMsg)
     const CWndWatch watch(*this);
     if (pMsg && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
         return TRUE;
-    if (!watch.IsAlive()) // the key goes on without us
+    if (!watch.IsAlive()) // the key goes on to the window that has the focus
         return FALSE;
     if (m_bUseSpecialDates)
         m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(pMsg));
@@ -156,7 +156,7 @@ bool CCalendarWnd::MoveFocus(bool bBackward)
     WhileAlive(
         *this, [&] { pStop->pWnd->SetFocus(); },
         [&] {
-            // Asked now, since the host may have changed the date when it got the focus.
+            // The parent may have changed the date when it got the focus.
             if (bRedrawsFrame && m_bHaveDate)
                 MoveSelectionRect(CRect());
         });

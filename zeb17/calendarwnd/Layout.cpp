@@ -14,7 +14,7 @@ constexpr int kHeadingHeight = 23;
 constexpr int kFooterHeight = 25;
 constexpr int kStepButtonWidth = 25;
 constexpr int kDayNamesHeight = 19;
-constexpr int kLongestSide = 1 << 24; // far beyond any window; leaves room to calculate
+constexpr int kLongestSide = 1 << 24; // far longer than any window, and far from the ends of an int
 constexpr COLORREF kNoColor = RGB(255, 255, 255);
 
 struct ButtonPlace

@@ -152,7 +152,7 @@ void CCalendarWnd::OnClearButton()
         });
 }
 
-// False where there is no frame, or nothing to draw on.
+// Draws over the frame. False if there is no frame, or no context to draw on.
 bool CCalendarWnd::EraseSelectionFrame()
 {
     if (m_rcSelection.IsRectEmpty())

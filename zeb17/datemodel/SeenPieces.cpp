@@ -1,4 +1,4 @@
-// A table of bits that tells which pieces of eight bytes a text has.
+// The table of bits, and the place of a piece in it.
 #include "SeenPieces.h"
 
 #include <bit>
@@ -9,10 +9,10 @@ namespace {
 
 constexpr std::size_t kPiece = sizeof(std::uint64_t);
 
-// In a shorter text it is as fast to search.
+// A shorter text is searched as fast without the table.
 constexpr std::size_t kLeastLength = 1024;
 
-// So many bits for a byte of text: the more, the rarer is a piece taken for another.
+// Bits of the table for each byte of text. The more there are, the rarer two pieces share a bit.
 constexpr std::size_t kBitsPerByte = 8;
 
 }

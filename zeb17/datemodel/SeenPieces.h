@@ -1,13 +1,13 @@
-// Tells fast, of most texts that a long text does not hold, that it does not hold them.
+// Rules out quickly that a long text holds another text.
 #pragma once
 
 #include <cstddef>
 #include <string_view>
 #include <vector>
 
-// Marks every piece of eight bytes of a text that only grows, in a table of bits with one hash: the filter of
-// Bloom (1970). A text of which one piece is not marked cannot be a part. So the joining of many texts takes
-// the time of their length, and not of its square.
+// Marks each piece of eight bytes of a growing text in a table of bits, with one hash function: the filter of
+// Bloom (1970). Another text with a piece that is not marked cannot be a part of the growing text. So joining
+// many texts takes time by their length, and not by its square.
 class SeenPieces
 {
 public:
@@ -18,6 +18,6 @@ private:
     void MarkUpTo(std::string_view strAll);
     std::size_t PlaceOf(const char* pPiece) const;
 
-    std::vector<bool> m_vMarks; // a power of two of them
-    std::size_t m_nMarked = 0;  // where in the text the first piece begins that is not marked yet
+    std::vector<bool> m_vMarks; // their number is a power of two
+    std::size_t m_nMarked = 0;  // how many pieces, which overlap, are marked already
 };

@@ -34,8 +34,8 @@ constexpr auto kGroupsBeforeToDo = std::span(kGroups).first<4>();
     AfxThrowFileException(CFileException::OsErrorToException(lError), lError, strPath);
 }
 
-// A reader does not go on where somebody holds the lock, or where something else stands in its place. Where
-// the system can make no lock at all, it does: a save replaces the file in one step, so what is read is
+// Nothing is read while somebody else holds the lock, or if something else has the lock's name. If the system
+// can make no lock at all, the file is read without: a save replaces it in one step, so what is read is
 // whole.
 void RequireLockToRead(const MTAutoLock& lock, const CString& strPath)
 {
@@ -53,7 +53,7 @@ void RequireLockToWrite(const MTAutoLock& lock, const CString& strPath)
         ThrowFileException(lock.GetError(), strPath);
 }
 
-// A device is no data file: its content would be none, or have no end.
+// A device is not read as a data file: it may have no content, or content without an end.
 void RequireFile(const CFile& file, const CString& strPath)
 {
     if (GetFileType(file.m_hFile) != FILE_TYPE_DISK)
