@@ -241,7 +241,7 @@ TEST_F(ButtonTest, StaysOwnerDrawnAndKnowsItsFocus)
 TEST_F(ButtonTest, EveryClickOfAFastPairCounts)
 {
     Create("");
-    for (const UINT nPress : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+    for (const UINT nPress : {UINT(WM_LBUTTONDOWN), UINT(WM_LBUTTONDBLCLK)}) {
         button.SendMessage(nPress, MK_LBUTTON, MAKELPARAM(5, 5));
         button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     }
