@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 namespace {
 
@@ -11,7 +12,8 @@ constexpr char kSeparator = static_cast<char>(std::filesystem::path::preferred_s
 // The slash is a separator on every system.
 bool IsSeparator(char ch)
 {
-    return ch == kSeparator || ch == '/';
+    constexpr char kSeparators[] = {kSeparator, '/'};
+    return std::ranges::find(kSeparators, ch) != std::end(kSeparators);
 }
 
 // The index of the first of the separators at the end of the path, its length if there are none. The second

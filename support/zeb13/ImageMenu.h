@@ -10,7 +10,7 @@ public:
     CImageMenu();
 
     // Destroys the menu.
-    virtual ~CImageMenu();
+    ~CImageMenu() override;
 
     // Loads the first popup of a menu resource, and lets the update handlers of pTarget enable and disable
     // its items. An item without an update handler stays as the resource has it. The caller owns the new

@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 using testing::ElementsAre;
 
 namespace {
@@ -14,9 +16,9 @@ namespace {
 // The items of a menu, with 0 for a separator.
 std::vector<UINT> GetIds(HMENU hMenu)
 {
-    std::vector<UINT> ids;
-    for (int i = 0; i < ::GetMenuItemCount(hMenu); ++i)
-        ids.push_back(::GetMenuItemID(hMenu, i));
+    std::vector<UINT> ids(static_cast<std::size_t>(std::max(::GetMenuItemCount(hMenu), 0)));
+    for (int i = 0; UINT & nId : ids)
+        nId = ::GetMenuItemID(hMenu, i++);
     return ids;
 }
 

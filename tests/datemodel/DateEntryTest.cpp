@@ -139,7 +139,7 @@ TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
     constexpr int kRules[] = {-1, 0, 1, 2, 3, 4, 5, kMax};
     constexpr int kValues[] = {kMin, -8, -7, -1, 0, 1, 5, 7, 12, 31, 32, kMax};
     int nValid = 0;
-    for (size_t i = 0; i < 8 * 12 * 12 * 12; ++i) {
+    for (size_t i = 0; i < std::size_t{8} * 12 * 12 * 12; ++i) {
         DateEntry entry;
         entry.SetDesc("x");
         entry.m_bRuleFlag = true;

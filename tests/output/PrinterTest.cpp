@@ -115,7 +115,7 @@ TEST_F(PrinterTest, LinesDivideThePage)
     for (const auto& [nLength, nStep] : cases) {
         SCOPED_TRACE(nLength);
         const CRect rcPage(10, 12, 10 + nLength + 2, 12 + nLength + 2);
-        SheetPrinter(sheet, rcPage, DateTime());
+        const SheetPrinter printer(sheet, rcPage, DateTime());
         EXPECT_EQ(sheet.GetPixel(10, 12), kLine);
         EXPECT_EQ(sheet.GetPixel(10 + nLength + 1, 12 + nLength + 1), kLine);
         EXPECT_EQ(sheet.GetPixel(9, 60), kPaper);
@@ -143,7 +143,7 @@ TEST_F(PrinterTest, CellsShowTheirDays)
     for (const auto& [pszLocale, nYear, nMonth, nFirstColumn] : cases) {
         ASSERT_TRUE(LocaleUtils::SetLocale(pszLocale));
         sheet.Clean();
-        SheetPrinter(sheet, CRect(0, 0, 702, 702), DateTime(nYear, nMonth, 20, 0, 0, 0));
+        const SheetPrinter printer(sheet, CRect(0, 0, 702, 702), DateTime(nYear, nMonth, 20, 0, 0, 0));
         CheckCells(nYear, nMonth, nFirstColumn);
     }
 }

@@ -90,7 +90,8 @@ TEST_F(DataLock, IsWaitedForAFewSeconds)
 TEST_F(DataLock, LiesInTheHomeOfTheUserWhateverTheEnvironmentSays)
 {
     const std::string home = ::getpwuid(::geteuid())->pw_dir;
-    const std::string before = std::getenv("HOME") ? std::getenv("HOME") : "";
+    const char* const szHome = std::getenv("HOME");
+    const std::string before = szHome ? szHome : "";
     ::setenv("HOME", "/nowhere", 1);
     EXPECT_EQ(winapi::homeOfUser(), home);
     ::setenv("HOME", before.c_str(), 1);

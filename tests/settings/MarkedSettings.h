@@ -27,7 +27,7 @@ inline void SetMark(CalendarSettings& settings, int nMark)
 inline int MarkOf(CalendarSettings& settings)
 {
     const int nMark = static_cast<int>(DatesCustom::s_nNextCustomID) - 20000;
-    if (settings.GetCount(CalendarSettings::GroupCustom) != static_cast<size_t>(100 * nMark))
+    if (settings.GetCount(CalendarSettings::GroupCustom) != 100 * static_cast<size_t>(nMark))
         return 0;
     for (const auto group : kMarkedGroups) {
         for (size_t i = 0; i < settings.GetCount(group); ++i) {

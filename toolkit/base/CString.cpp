@@ -20,17 +20,6 @@ int ToIndex(std::size_t nPlace)
     return nPlace == std::string::npos ? -1 : static_cast<int>(nPlace);
 }
 
-std::string FormatText(const char* lpszFormat, va_list arguments)
-{
-    va_list again;
-    va_copy(again, arguments);
-    const int nLength = std::vsnprintf(nullptr, 0, lpszFormat, arguments);
-    std::string strText(static_cast<std::size_t>(std::max(nLength, 0)), '\0');
-    std::vsnprintf(strText.data(), strText.size() + 1, lpszFormat, again);
-    va_end(again);
-    return strText;
-}
-
 }
 
 CString& CString::operator+=(const CString& strText)
@@ -143,8 +132,14 @@ void CString::Format(const char* lpszFormat, ...)
 {
     va_list arguments;
     va_start(arguments, lpszFormat);
-    m_strText = FormatText(lpszFormat, arguments);
+    const int nLength = std::vsnprintf(nullptr, 0, lpszFormat, arguments);
     va_end(arguments);
+
+    std::string strText(static_cast<std::size_t>(std::max(nLength, 0)), '\0');
+    va_start(arguments, lpszFormat);
+    std::vsnprintf(strText.data(), strText.size() + 1, lpszFormat, arguments);
+    va_end(arguments);
+    m_strText = std::move(strText);
 }
 
 LPTSTR CString::GetBuffer(int nMinLength)

@@ -20,12 +20,13 @@ struct EndOfThread
 // never deleted.
 ThreadState& ThreadState::Current()
 {
-    if (!t_pCurrent) {
-        t_pCurrent = new ThreadState;
-        thread_local EndOfThread end;
-        static_cast<void>(end);
-    }
-    return *t_pCurrent;
+    if (t_pCurrent)
+        return *t_pCurrent;
+    ThreadState* const pState = new ThreadState;
+    t_pCurrent = pState;
+    thread_local EndOfThread end;
+    static_cast<void>(end);
+    return *pState;
 }
 
 ThreadState::~ThreadState()

@@ -24,8 +24,12 @@ constexpr int SubtractCoordinates(long long a, long long b)
 class CSize : public SIZE
 {
 public:
-    CSize() : SIZE{0, 0} {}
-    CSize(int initCX, int initCY) : SIZE{initCX, initCY} {}
+    CSize() : CSize(0, 0) {}
+    CSize(int initCX, int initCY)
+    {
+        cx = initCX;
+        cy = initCY;
+    }
 
     bool operator==(const CSize& size) const { return cx == size.cx && cy == size.cy; }
 };
@@ -34,11 +38,15 @@ public:
 class CPoint : public POINT
 {
 public:
-    CPoint() : POINT{0, 0} {}
-    CPoint(int initX, int initY) : POINT{initX, initY} {}
+    CPoint() : CPoint(0, 0) {}
+    CPoint(int initX, int initY)
+    {
+        x = initX;
+        y = initY;
+    }
     // From a message parameter: x in the low word, y in the high word, both signed.
     explicit CPoint(LPARAM dwPoint)
-        : POINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))}
+        : CPoint(static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint)))
     {
     }
 
@@ -49,11 +57,17 @@ public:
 class CRect : public RECT
 {
 public:
-    CRect() : RECT{0, 0, 0, 0} {}
-    CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
+    CRect() : CRect(0, 0, 0, 0) {}
+    CRect(int l, int t, int r, int b)
+    {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
+    }
     CRect(const RECT& srcRect) : RECT(srcRect) {}
     CRect(POINT point, SIZE size)
-        : RECT{point.x, point.y, AddCoordinates(point.x, size.cx), AddCoordinates(point.y, size.cy)}
+        : CRect(point.x, point.y, AddCoordinates(point.x, size.cx), AddCoordinates(point.y, size.cy))
     {
     }
 

@@ -228,7 +228,7 @@ void Dates::GetEasterDate(int nYear, int& nMonth, int& nDay)
     j = j - 7 * (j / 7);
     const long long l = i - j;
     nMonth = static_cast<int>(3 + (l + 40) / 44);
-    nDay = static_cast<int>(l + 28 - 31 * (nMonth / 4));
+    nDay = static_cast<int>(l + 28 - 31LL * (nMonth / 4));
 }
 
 CalendarDateEntry* Dates::FindByID(int nID) const

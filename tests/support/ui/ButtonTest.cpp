@@ -138,8 +138,9 @@ TEST_F(ButtonTest, CaptionIsCentredAndMovesWhenPressed)
 {
     Create("Clear");
     const CRect rcNormal = FindContent(0);
-    EXPECT_NEAR(rcNormal.CenterPoint().x, kWidth / 2, 1);
-    EXPECT_NEAR(rcNormal.CenterPoint().y, kHeight / 2, 2);
+    const CPoint ptMiddle = CRect(0, 0, kWidth, kHeight).CenterPoint();
+    EXPECT_NEAR(rcNormal.CenterPoint().x, ptMiddle.x, 1);
+    EXPECT_NEAR(rcNormal.CenterPoint().y, ptMiddle.y, 2);
     CRect rcMoved(rcNormal);
     rcMoved.OffsetRect(1, 1);
     EXPECT_EQ(FindContent(ODS_SELECTED), rcMoved);
@@ -264,7 +265,8 @@ TEST_F(DownArrowButtonTest, KeepsAStripForItsArrow)
         const COLORREF crArrow = ::GetSysColor(nState ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
         const CRect rcArrow = canvas.FindInk(rcStrip, [=](COLORREF cr) { return cr == crArrow; });
         EXPECT_FALSE(rcArrow.IsRectEmpty()) << nState;
-        EXPECT_NEAR(rcArrow.CenterPoint().x, kWidth - nStrip / 2, 1) << nState;
+        const int nMiddle = kWidth - nStrip / 2;
+        EXPECT_NEAR(rcArrow.CenterPoint().x, nMiddle, 1) << nState;
     }
     button.DrawItem(nullptr);
     EXPECT_STREQ(button.GetRuntimeClass()->m_lpszClassName, "CDownArrowButton");

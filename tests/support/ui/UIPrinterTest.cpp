@@ -90,7 +90,8 @@ TEST(UIPrinterTest, PageHasItsMarginsAndTextThatSuitsIt)
     EXPECT_TRUE(std::filesystem::exists(path));
     std::filesystem::remove(path);
     EXPECT_EQ(printer.m_crText, RGB(0, 0, 0));
-    EXPECT_NEAR(printer.m_rcContent.Width(), (printer.m_sizePaper.cx - 4000) * 96 / 1000, 2);
+    const int nWidth = (printer.m_sizePaper.cx - 4000) * 96 / 1000;
+    EXPECT_NEAR(printer.m_rcContent.Width(), nWidth, 2);
     const int nPage = (printer.m_sizePaper.cy - 3500) * 96 / 1000;
     EXPECT_LT(printer.m_rcContent.Height(), nPage - 20); // the heading takes its part
     EXPECT_GT(printer.m_rcContent.Height(), nPage - 60);

@@ -76,7 +76,9 @@ TEST_F(Mutex, ExcludesThreads)
     std::atomic<bool> overlap = false;
     std::atomic<int> inside = 0;
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
+    constexpr int kThreads = 4;
+    threads.reserve(kThreads);
+    for (int i = 0; i < kThreads; ++i)
         threads.emplace_back([&] {
             MTMutex mutex(false, name.c_str(), nullptr);
             for (int j = 0; j < 500; ++j) {
