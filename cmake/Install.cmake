@@ -30,6 +30,15 @@ install(TARGETS zeb17 EXPORT zeb17
     ARCHIVE COMPONENT development)
 install(EXPORT zeb17 NAMESPACE zeb17:: FILE zeb17Targets.cmake DESTINATION "${config_dir}" COMPONENT development)
 
+if(NOT WIN32)
+    install(FILES bindings/qt/Zeb17CalendarWidget.h bindings/qt/Zeb17SpecialDate.h
+        DESTINATION "${include_dir}/qt" COMPONENT development)
+    target_include_directories(zeb17_qt_hosts INTERFACE "$<INSTALL_INTERFACE:${include_dir}/qt>")
+    install(TARGETS zeb17_qt_hosts EXPORT zeb17Qt)
+    install(EXPORT zeb17Qt NAMESPACE zeb17:: FILE zeb17QtTargets.cmake
+        DESTINATION "${config_dir}" COMPONENT development)
+endif()
+
 include(CMakePackageConfigHelpers)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/zeb17ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
@@ -45,7 +54,8 @@ else()
     set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
     file(RELATIVE_PATH ZEB17_PC_PREFIX "/${pc_dir}" /)
     string(REGEX REPLACE "/$" "" ZEB17_PC_PREFIX "${ZEB17_PC_PREFIX}")
-    configure_file(cmake/package/zeb17.pc.in "${PROJECT_BINARY_DIR}/package/zeb17.pc" @ONLY)
-    install(FILES "${PROJECT_BINARY_DIR}/package/zeb17.pc"
-        DESTINATION "${pc_dir}" COMPONENT development)
+    foreach(name zeb17 zeb17-qt)
+        configure_file(cmake/package/${name}.pc.in "${PROJECT_BINARY_DIR}/package/${name}.pc" @ONLY)
+        install(FILES "${PROJECT_BINARY_DIR}/package/${name}.pc" DESTINATION "${pc_dir}" COMPONENT development)
+    endforeach()
 endif()

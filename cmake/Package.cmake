@@ -25,7 +25,8 @@ else()
 
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libzeb17-dev)
     set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION})")
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+        "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${PROJECT_VERSION}), qt6-base-dev")
     set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
         "The headers of the month-calendar control zeb17, and what CMake and pkg-config\nneed to find it.")
     set(CPACK_COMPONENTS_ALL runtime development)

@@ -1,3 +1,15 @@
-# find_package(zeb17): the target zeb17::zeb17, and zeb17_menu_resource for a host's own menus.
+# find_package(zeb17): the target zeb17::zeb17, and zeb17_menu_resource for a host's own menus. With COMPONENTS qt, on
+# Linux, also the target zeb17::qt, which needs Qt 6.
 include("${CMAKE_CURRENT_LIST_DIR}/zeb17Targets.cmake")
 include("${CMAKE_CURRENT_LIST_DIR}/MenuResource.cmake")
+foreach(component IN LISTS zeb17_FIND_COMPONENTS)
+    if(component STREQUAL "qt" AND EXISTS "${CMAKE_CURRENT_LIST_DIR}/zeb17QtTargets.cmake")
+        include(CMakeFindDependencyMacro)
+        find_dependency(Qt6 COMPONENTS Widgets)
+        include("${CMAKE_CURRENT_LIST_DIR}/zeb17QtTargets.cmake")
+        set(zeb17_qt_FOUND TRUE)
+    elseif(zeb17_FIND_REQUIRED_${component})
+        set(zeb17_FOUND FALSE)
+        set(zeb17_NOT_FOUND_MESSAGE "this zeb17 has no component ${component}")
+    endif()
+endforeach()
