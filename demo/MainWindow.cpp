@@ -4,7 +4,6 @@
 
 #include "SaveQuestion.h"
 
-#include <FileUtils.h>
 #include <GraphicsUtils.h>
 #include <Keyboard.h>
 #include <UIPrinter.h>
@@ -59,6 +58,7 @@ END_MESSAGE_MAP()
 
 MainWindow::MainWindow(bool attended)
     : m_attended(attended), m_log([this](const CString& words) {
+          m_failed = true;
           TellUser("The calendar could not do that.\n\n" + words, m_attended);
       })
 {
@@ -260,8 +260,9 @@ void MainWindow::ShowHeard(const char* message, const CString& details)
 // Runs the print command of the calendar's menu, with a file in the printer's place.
 bool MainWindow::PrintToFile(const CString& path)
 {
+    m_failed = false;
     UIPrinter::SetOutputFile(path);
     m_calendar.SendMessage(WM_COMMAND, ID_OPTIONS_PRINT);
     UIPrinter::SetOutputFile("");
-    return FileUtils::DoesFileExist(path);
+    return !m_failed;
 }

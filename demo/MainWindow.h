@@ -46,6 +46,7 @@ private:
     CString CurrentDate() const;
 
     const bool m_attended;
+    bool m_failed = false; // the calendar could not do what it was last told to do
     HostLog m_log;
     CString m_loadError;
     CFont m_font;

@@ -17,12 +17,13 @@ start_display() {
     read -r _ xvfb_pid <"$work/xvfb"
 }
 
-# launch PROGRAM [OPTION...]: runs a program of this platform; what it says goes to $heard and $work/errors.
+# launch PROGRAM [OPTION...]: runs a program of this platform; what it says goes to $heard and $work/errors. On Linux
+# $work is its home, where the print dialog proposes to put a file.
 launch() {
     local program=$1
     shift
     if [ "$platform" = linux ]; then
-        QT_QPA_PLATFORM=xcb "$root/build/linux/bin/$program" "$@" >"$heard" 2>"$work/errors" &
+        HOME=$work QT_QPA_PLATFORM=xcb "$root/build/linux/bin/$program" "$@" >"$heard" 2>"$work/errors" &
     else
         "$root/scripts/wine-run" "$root/build/windows/bin/$program.exe" "$@" >"$heard" 2>"$work/errors" &
     fi

@@ -26,18 +26,25 @@ drive_options_menu() {
     stop_demo
 }
 
-# The dialog cancelled, then a job to a file, then one to a file that nothing fits into.
+# The dialog cancelled, then a job to the file that it proposes, then one to a device in the place of this file.
 drive_printing_on_linux() {
-    local file=$work/month.pdf
-    open_menu; keys p; sleep 1; picture print-dialog; keys Escape
+    local file=$work/print.pdf
+    open_print_dialog; picture print-dialog; keys Escape
+    wait_until '! is_shown Print'
     keys Next; check 'cancelled print' 'CALWND_ONSELCHANGE 2026-09-01'
-    print_to "$file"
+    open_print_dialog; keys Return
+    wait_until '[ -s "$work/print.pdf" ]'
     pdftotext -layout "$file" "$work/month.txt"
     check_text 'printed month' 'September 2026' "$(head -n 1 "$work/month.txt" | xargs)"
-    print_to /dev/full; keys alt+y; sleep 1 # it exists
+    ln -sf /dev/full "$file"
+    open_print_dialog; keys Return; sleep 1
+    keys alt+y # it exists
+    wait_until 'grep -q "could not do that" "$work/errors"'
     check_text 'a job that fails is told' 1 "$(grep -c 'could not do that' "$work/errors")"
-    keys Return
-    keys Prior; check 'job without room' 'CALWND_ONSELCHANGE 2026-08-01'
+    sleep 0.5; keys Return
+    keys Prior; check 'after a job that failed' 'CALWND_ONSELCHANGE 2026-08-01'
+    QT_QPA_PLATFORM=offscreen "$root/build/linux/bin/zeb17_demo" --data "$work/menu" --print "$file" >/dev/null 2>&1
+    check_text 'the exit code of a print that fails' 1 $?
 }
 
 # Without a printer there is no dialog.
@@ -46,11 +53,19 @@ drive_printing_on_windows() {
     keys Next; check 'print without a printer' 'CALWND_ONSELCHANGE 2026-09-01'
 }
 
-print_to() { # FILE
-    open_menu; keys p; sleep 1
-    keys alt+f ctrl+a
-    xdotool type --delay 30 "$1"
-    keys Return; sleep 1
+open_print_dialog() {
+    open_menu; keys p
+    wait_until 'is_shown Print'
+}
+
+is_shown() { [ -n "$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null)" ]; } # TITLE
+
+wait_until() { # CONDITION: for ten seconds at most
+    for _ in $(seq 100); do
+        ! eval "$1" || break
+        sleep 0.1
+    done
+    sleep 0.3
 }
 
 open_menu() {

@@ -85,3 +85,12 @@ TEST_F(ToolTips, OutliveTheWindowThatAskedForThem)
     Move(button);
     EXPECT_NE(Tip(), nullptr) << "and comes with the next";
 }
+
+TEST_F(ToolTips, ComeBackWhenTheirWindowWasClosedElsewhere)
+{
+    Move(m_window);
+    ::DestroyWindow(Tip());
+    Move(m_window);
+    ASSERT_NE(Tip(), nullptr);
+    EXPECT_EQ(CountTools(), 1) << "the pointer has not left the child";
+}

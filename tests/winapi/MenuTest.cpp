@@ -23,9 +23,7 @@ protected:
         windowClass.lpfnWndProc = handle;
         windowClass.lpszClassName = "menu_owner";
         RegisterClassA(&windowClass);
-        owner = CreateWindowExA(0, "menu_owner", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 200, 200,
-                                nullptr, nullptr, nullptr, nullptr);
-        pump();
+        owner = createOwner();
     }
 
     ~MenuShowingTest() override
@@ -34,6 +32,14 @@ protected:
         s_test = nullptr;
         DestroyMenu(menu);
         EXPECT_EQ(-1, GetMenuItemCount(sub)) << "it goes with its menu";
+    }
+
+    static HWND createOwner()
+    {
+        const HWND owner = CreateWindowExA(0, "menu_owner", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 200,
+                                           200, nullptr, nullptr, nullptr, nullptr);
+        pump();
+        return owner;
     }
 
     int show(std::function<void()> hands)
@@ -113,6 +119,15 @@ TEST_F(MenuShowingTest, TheOwnerHearsOfTheMenuAndThenOfItsCommand)
         EXPECT_EQ("enter init initpopup " + selected + "uninitpopup selectnone exit returned " + command,
                   heard);
     }
+}
+
+TEST_F(MenuShowingTest, AMenuClosesWithItsOwner)
+{
+    show([this] { DestroyWindow(owner); });
+    EXPECT_FALSE(IsWindow(owner));
+    EXPECT_EQ(heard.find("command"), std::string::npos);
+    owner = createOwner();
+    EXPECT_EQ(TRUE, show([this] { cancel(); })) << "no menu is open";
 }
 
 TEST_F(MenuShowingTest, OnlyOneMenuIsShownAtATime)

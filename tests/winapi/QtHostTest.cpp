@@ -6,11 +6,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+
+#include <functional>
 
 namespace {
 
@@ -25,6 +29,35 @@ void sendKey(QWidget* widget, int key, const QString& text = {})
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
     QCoreApplication::sendEvent(widget, &event);
     serveMessages();
+}
+
+// Called with each message of a window of `createListener`.
+std::function<void(UINT)> onMessage;
+
+LRESULT CALLBACK listen(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (onMessage)
+        onMessage(message);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+HWND createListener()
+{
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = listen;
+    windowClass.lpszClassName = "listener";
+    RegisterClassA(&windowClass);
+    return CreateWindowExA(0, "listener", "", WS_POPUP | WS_VISIBLE, 20, 20, 200, 150, nullptr, nullptr, nullptr,
+                           nullptr);
+}
+
+// Serves all that waits, with what is deleted later.
+void runLoop(const std::function<void()>& inside)
+{
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, inside);
+    QTimer::singleShot(20, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 std::vector<UINT> offered;
@@ -124,6 +157,39 @@ TEST_F(QtHost, WidgetAndWindowGoTogether)
     EXPECT_TRUE(IsWindow(second));
     delete around;
     EXPECT_FALSE(IsWindow(second));
+}
+
+// A loop inside a handler destroys the window, and deletes what is to be deleted later.
+TEST_F(QtHost, AWidgetOutlivesTheEventInWhichItsWindowEnds)
+{
+    for (const UINT moment : {WM_SIZE, WM_MOVE, WM_SETFOCUS, WM_SHOWWINDOW}) {
+        const HWND top = createListener();
+        const QPointer<QWidget> widget = QWidgetFromWindow(top);
+        runQt();
+        SetFocus(nullptr);
+        widget->clearFocus();
+        bool ended = false;
+        onMessage = [&](UINT message) {
+            if (message != moment || ended)
+                return;
+            ended = true;
+            runLoop([top] { DestroyWindow(top); });
+            EXPECT_FALSE(IsWindow(top));
+            EXPECT_TRUE(widget) << "its event is running";
+        };
+        const std::function<void()> causes[] = {[&] { widget->resize(250, 170); },
+                                                [&] { widget->move(30, 40); }, [&] { widget->setFocus(); },
+                                                [&] { widget->hide(); }};
+        runLoop([&] {
+            for (const auto& cause : causes)
+                if (!ended)
+                    cause();
+        });
+        runLoop([] {});
+        EXPECT_TRUE(ended) << moment;
+        EXPECT_FALSE(widget);
+        onMessage = nullptr;
+    }
 }
 
 TEST_F(QtHost, TheKeyboardGoesInAndOut)

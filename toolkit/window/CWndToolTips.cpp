@@ -85,9 +85,13 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
         DeleteSharedTool(shared);
         return;
     }
-    // The tip is destroyed together with the top-level window that owns it, and is then made anew.
-    if (!shared.control.m_hWnd && !shared.control.Create(this, TTS_ALWAYSTIP))
-        return;
+    // The tip is destroyed together with the top-level window that owns it, or by whoever closes windows, and
+    // is then made anew, without a tool.
+    if (!shared.control.m_hWnd) {
+        shared.tool = {};
+        if (!shared.control.Create(this, TTS_ALWAYSTIP))
+            return;
+    }
     if (tool.hwnd != shared.tool.hwnd || tool.uId != shared.tool.uId) {
         DeleteSharedTool(shared);
         shared.control.SendMessage(TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&tool));

@@ -4,10 +4,11 @@
 #include "application.h"
 #include "context.h"
 #include "errors.h"
+#include "job_file.h"
 #include "winerror.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QBuffer>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -41,7 +42,10 @@ int printerCapability(const QPrinter& printer, int index)
     }
 }
 
-// A printer with its job. While a page is open, the drawing calls use the painter of the job.
+// A printer with its job. While a page is open, the drawing calls use the painter of the job. Pages for a file
+// are collected in memory, so that the file is written in one go and each failure of it is known.
+//
+// Operations give ERROR_SUCCESS, or the error that they failed with.
 class PrinterSurface : public Surface
 {
 public:
@@ -53,69 +57,99 @@ public:
     QPainter* heldPainter() override { return m_pageOpen ? &m_painter : nullptr; }
     QPrinter& printer() { return m_printer; }
 
-    bool start(const QString& name, const QString& file)
+    DWORD start(const QString& name, const QString& file)
     {
         if (m_painter.isActive())
-            return false;
-        if (!file.isEmpty())
-            m_printer.setOutputFileName(file);
+            return ERROR_INVALID_HANDLE;
+        m_pageCount = 0;
         m_printer.setDocName(name);
-        const bool nowhere = m_printer.outputFormat() == QPrinter::PdfFormat && file.isEmpty() &&
-                             m_printer.outputFileName().isEmpty();
-        m_pages = 0;
-        return !nowhere && isWritable() && m_painter.begin(&m_printer);
+        const QString path = file.isEmpty() ? m_printer.outputFileName() : file;
+        if (!path.isEmpty())
+            return startFile(name, path);
+        if (m_printer.outputFormat() == QPrinter::PdfFormat)
+            return ERROR_CANNOT_MAKE; // the printer that stands in writes files only
+        m_pagedDevice = &m_printer;
+        return m_painter.begin(&m_printer) ? ERROR_SUCCESS : ERROR_CANNOT_MAKE;
     }
 
-    bool startPage()
+    DWORD startPage()
     {
         if (!m_painter.isActive() || m_pageOpen)
-            return false;
-        m_pageOpen = m_pages++ == 0 || m_printer.newPage();
-        return m_pageOpen;
+            return ERROR_INVALID_HANDLE;
+        m_pageOpen = m_pageCount++ == 0 || m_pagedDevice->newPage();
+        return m_pageOpen ? ERROR_SUCCESS : ERROR_WRITE_FAULT;
     }
 
-    bool endPage() { return std::exchange(m_pageOpen, false) && m_printer.printerState() != QPrinter::Error; }
-
-    bool finish()
+    DWORD endPage()
     {
-        m_pageOpen = false;
-        return m_painter.isActive() && m_painter.end() && isComplete();
+        if (!std::exchange(m_pageOpen, false))
+            return ERROR_INVALID_HANDLE;
+        return m_printer.printerState() == QPrinter::Error ? ERROR_WRITE_FAULT : ERROR_SUCCESS;
     }
 
-    bool abort()
+    DWORD finish()
     {
-        m_pageOpen = false;
         if (!m_painter.isActive())
-            return false;
-        m_printer.abort();
+            return ERROR_INVALID_HANDLE;
+        m_pageOpen = false;
+        const bool ended = m_painter.end() && m_printer.printerState() != QPrinter::Error;
+        const QByteArray pages = takePages();
+        if (!ended)
+            m_file.discard();
+        if (!m_file.isOpen())
+            return ended ? ERROR_SUCCESS : ERROR_WRITE_FAULT;
+        return m_file.finish(pages);
+    }
+
+    DWORD abort()
+    {
+        if (!m_painter.isActive())
+            return ERROR_INVALID_HANDLE;
+        m_pageOpen = false;
+        if (m_pagedDevice == &m_printer)
+            m_printer.abort();
         m_painter.end();
-        if (QFileInfo(m_printer.outputFileName()).isFile())
-            QFile::remove(m_printer.outputFileName());
-        return true;
+        takePages();
+        m_file.discard();
+        return ERROR_SUCCESS;
     }
 
 private:
-    bool isWritable() const
+    DWORD startFile(const QString& name, const QString& path)
     {
-        QFile file(m_printer.outputFileName());
-        return file.fileName().isEmpty() || file.open(QIODevice::WriteOnly);
+        if (const DWORD error = m_file.open(path))
+            return error;
+        m_collected.open(QIODevice::WriteOnly);
+        m_writer = std::make_unique<QPdfWriter>(&m_collected);
+        m_writer->setTitle(name);
+        m_writer->setResolution(m_printer.resolution());
+        m_writer->setPageLayout(m_printer.pageLayout());
+        m_pagedDevice = m_writer.get();
+        if (m_painter.begin(m_writer.get()))
+            return ERROR_SUCCESS;
+        takePages();
+        m_file.discard();
+        return ERROR_CANNOT_MAKE;
     }
 
-    // Qt reports no failure of writing a file, but a file whose writing failed lacks its end.
-    bool isComplete() const
+    // The pages that were collected; the job has ended.
+    QByteArray takePages()
     {
-        if (m_printer.outputFormat() != QPrinter::PdfFormat)
-            return m_printer.printerState() != QPrinter::Error;
-        constexpr qint64 kTail = 16;
-        QFile file(m_printer.outputFileName());
-        return file.open(QIODevice::ReadOnly) && !file.isSequential() &&
-               file.seek(std::max<qint64>(0, file.size() - kTail)) && file.read(kTail).contains("%%EOF");
+        m_writer.reset();
+        m_collected.close();
+        QByteArray pages = m_collected.data();
+        m_collected.setData({});
+        return pages;
     }
 
     QPrinter m_printer;
+    JobFile m_file;
+    QBuffer m_collected;
+    std::unique_ptr<QPdfWriter> m_writer; // of a job to a file
+    QPagedPaintDevice* m_pagedDevice = nullptr; // what the job paints on
     QPainter m_painter;
     bool m_pageOpen = false;
-    int m_pages = 0;
+    int m_pageCount = 0;
 };
 
 PrinterSurface* surfaceOf(HDC dc)
@@ -144,9 +178,9 @@ void widenPage(QPrinter& printer)
     printer.setPageMargins(toFile ? QMarginsF() : printer.pageLayout().minimumMargins(), QPageLayout::Point);
 }
 
-int jobResult(bool done, DWORD error)
+int jobResult(DWORD error)
 {
-    return done ? 1 : fail(error, SP_ERROR);
+    return error == ERROR_SUCCESS ? 1 : fail(error, SP_ERROR);
 }
 
 }
@@ -202,32 +236,31 @@ int StartDocA(HDC dc, const DOCINFOA* document)
 {
     PrinterSurface* surface = surfaceOf(dc);
     if (!surface || !document)
-        return jobResult(false, surface ? ERROR_INVALID_PARAMETER : ERROR_INVALID_HANDLE);
+        return jobResult(surface ? ERROR_INVALID_PARAMETER : ERROR_INVALID_HANDLE);
     return jobResult(
-        surface->start(QString::fromUtf8(document->lpszDocName), QString::fromUtf8(document->lpszOutput)),
-        ERROR_CANNOT_MAKE);
+        surface->start(QString::fromUtf8(document->lpszDocName), QString::fromUtf8(document->lpszOutput)));
 }
 
 int StartPage(HDC dc)
 {
     PrinterSurface* surface = surfaceOf(dc);
-    return jobResult(surface && surface->startPage(), ERROR_INVALID_HANDLE);
+    return jobResult(surface ? surface->startPage() : ERROR_INVALID_HANDLE);
 }
 
 int EndPage(HDC dc)
 {
     PrinterSurface* surface = surfaceOf(dc);
-    return jobResult(surface && surface->endPage(), ERROR_INVALID_HANDLE);
+    return jobResult(surface ? surface->endPage() : ERROR_INVALID_HANDLE);
 }
 
 int EndDoc(HDC dc)
 {
     PrinterSurface* surface = surfaceOf(dc);
-    return jobResult(surface && surface->finish(), surface ? ERROR_WRITE_FAULT : ERROR_INVALID_HANDLE);
+    return jobResult(surface ? surface->finish() : ERROR_INVALID_HANDLE);
 }
 
 int AbortDoc(HDC dc)
 {
     PrinterSurface* surface = surfaceOf(dc);
-    return jobResult(surface && surface->abort(), ERROR_INVALID_HANDLE);
+    return jobResult(surface ? surface->abort() : ERROR_INVALID_HANDLE);
 }

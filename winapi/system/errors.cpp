@@ -68,6 +68,7 @@ constexpr ErrorText kErrorTexts[] = {
     {ERROR_HANDLE_EOF, "The end of the file was reached."},
     {ERROR_NOT_SUPPORTED, "The request is not supported."},
     {ERROR_FILE_EXISTS, "The file exists already."},
+    {ERROR_CANNOT_MAKE, "The file could not be made."},
     {ERROR_INVALID_PARAMETER, "A parameter is not valid."},
     {ERROR_DISK_FULL, "The disk is full."},
     {ERROR_INSUFFICIENT_BUFFER, "The buffer is too small."},
@@ -83,6 +84,7 @@ constexpr ErrorText kErrorTexts[] = {
     {ERROR_IO_DEVICE, "The device failed."},
     {ERROR_INVALID_WINDOW_HANDLE, "The handle does not belong to a window."},
     {ERROR_CLIPBOARD_NOT_OPEN, "The clipboard is not open."},
+    {ERROR_INVALID_PRINTER_NAME, "There is no printer of that name."},
     {ERROR_RESOURCE_NAME_NOT_FOUND, "The resource was not found."},
 };
 

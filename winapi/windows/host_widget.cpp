@@ -109,16 +109,25 @@ void HostWidget::takeActivation()
 void HostWidget::abandon()
 {
     m_handle = nullptr;
-    hide();
-    if (isEmbedded())
+    const QPointer<HostWidget> self(this);
+    hide(); // another widget gets the focus, and its handler may delete this one
+    if (self && isEmbedded())
         setParent(nullptr); // a layout lets go of it at once
-    deleteLater();
+    if (self && m_eventsRunning == 0)
+        deleteLater();
+    else if (self)
+        m_isToBeDeleted = true;
 }
 
 bool HostWidget::event(QEvent* event)
 {
     const EndedWindowsKept kept;
-    return QWidget::event(event);
+    const QPointer<HostWidget> self(this);
+    ++m_eventsRunning;
+    const bool taken = QWidget::event(event);
+    if (self && --m_eventsRunning == 0 && std::exchange(m_isToBeDeleted, false))
+        deleteLater();
+    return taken;
 }
 
 // The surface keeps all pixels, so nothing needs to be painted again to be shown again.

@@ -22,8 +22,8 @@ public:
     void takeActivation();
     // Hands the keyboard to the next, or previous, widget of the application that this widget stands in.
     bool passFocus(bool next) { return QWidget::focusNextPrevChild(next); }
-    // To be called when the window is gone: hides this widget, and has Qt delete it when no call of ours is
-    // under way.
+    // To be called when the window is gone: hides this widget, and has Qt delete it once none of its events is
+    // running. A loop inside a handler would otherwise delete it below the event.
     void abandon();
 
 protected:
@@ -58,6 +58,8 @@ private:
     qreal m_ratio = 1; // pixels of the screen to one logical pixel
     // The widget is taking its size and place from the window, so Qt's events about them are no news.
     bool m_following = false;
+    int m_eventsRunning = 0;
+    bool m_isToBeDeleted = false; // when no event runs any more
     QPoint m_wheelRest; // turns of the wheel that make no whole notch yet
 };
 
