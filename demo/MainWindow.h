@@ -13,6 +13,7 @@ class MainWindow : public CWnd
 public:
     // `attended`: somebody is there to answer a message box.
     explicit MainWindow(bool attended);
+    ~MainWindow() override { DestroyWindow(); } // its messages still reach the members
 
     bool CreateMain();
     // Tells the user, once the window is there, if the data file could not be read.

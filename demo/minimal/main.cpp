@@ -3,6 +3,8 @@
 class Host : public CWnd
 {
 public:
+    ~Host() override { DestroyWindow(); }
+
     bool CreateHost()
     {
         return CreateEx(0, AfxRegisterWndClass(0), "Calendar", WS_OVERLAPPEDWINDOW, CRect(100, 100, 480, 420),

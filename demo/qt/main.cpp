@@ -16,6 +16,7 @@ class CalendarHost : public CWnd
 {
 public:
     explicit CalendarHost(QLabel& label) : m_label(label) {}
+    ~CalendarHost() override { DestroyWindow(); }
 
     bool CreateHost()
     {
