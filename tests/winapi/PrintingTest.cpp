@@ -124,14 +124,16 @@ TEST(PrintingTest, WhatGoesWrongIsToldInWords)
         EXPECT_LE(start(dc, path), 0) << path;
         EXPECT_EQ(error, GetLastError()) << path;
         char text[200];
-        EXPECT_GT(FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, error, 0, text, sizeof text, nullptr), 0u);
+        EXPECT_GT(FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, error, 0, text, sizeof text, nullptr),
+                  0u);
     }
     DeleteDC(dc);
     EXPECT_EQ(names, folder.Names());
     EXPECT_EQ(nullptr, winapi::createPrinterContext("no such printer", nullptr, nullptr));
 }
 
-// Each step of making the file fails in turn: the older file or the new one is there whole, and nothing beside it.
+// Each step of making the file fails in turn: the older file or the new one is there whole, and nothing
+// beside it.
 TEST(PrintingTest, AJobThatFailsLeavesTheOlderFile)
 {
     const TemporaryDirectory folder;

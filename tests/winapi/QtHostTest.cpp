@@ -47,8 +47,8 @@ HWND createListener()
     windowClass.lpfnWndProc = listen;
     windowClass.lpszClassName = "listener";
     RegisterClassA(&windowClass);
-    return CreateWindowExA(0, "listener", "", WS_POPUP | WS_VISIBLE, 20, 20, 200, 150, nullptr, nullptr, nullptr,
-                           nullptr);
+    return CreateWindowExA(0, "listener", "", WS_POPUP | WS_VISIBLE, 20, 20, 200, 150, nullptr, nullptr,
+                           nullptr, nullptr);
 }
 
 // Serves all that waits, with what is deleted later.

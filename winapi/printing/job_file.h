@@ -10,9 +10,9 @@
 
 namespace winapi {
 
-// A new file that stands beside the one that it will replace, until it is whole: whatever fails before that, the
-// older file stays as it was. The new file gets the owner and the permissions of the older one. A directory, a
-// device, a pipe, a read-only file or a link that leads nowhere is not replaced.
+// A new file that stands beside the one that it will replace, until it is whole: whatever fails before that,
+// the older file stays as it was. The new file gets the owner and the permissions of the older one. A
+// directory, a device, a pipe, a read-only file or a link that leads nowhere is not replaced.
 //
 // Operations give ERROR_SUCCESS, or the error that they failed with.
 class JobFile

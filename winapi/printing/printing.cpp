@@ -42,8 +42,8 @@ int printerCapability(const QPrinter& printer, int index)
     }
 }
 
-// A printer with its job. While a page is open, the drawing calls use the painter of the job. Pages for a file
-// are collected in memory, so that the file is written in one go and each failure of it is known.
+// A printer with its job. While a page is open, the drawing calls use the painter of the job. Pages for a
+// file are collected in memory, so that the file is written in one go and each failure of it is known.
 //
 // Operations give ERROR_SUCCESS, or the error that they failed with.
 class PrinterSurface : public Surface
@@ -145,7 +145,7 @@ private:
     QPrinter m_printer;
     JobFile m_file;
     QBuffer m_collected;
-    std::unique_ptr<QPdfWriter> m_writer; // of a job to a file
+    std::unique_ptr<QPdfWriter> m_writer;       // of a job to a file
     QPagedPaintDevice* m_pagedDevice = nullptr; // what the job paints on
     QPainter m_painter;
     bool m_pageOpen = false;

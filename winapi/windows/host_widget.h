@@ -22,8 +22,8 @@ public:
     void takeActivation();
     // Hands the keyboard to the next, or previous, widget of the application that this widget stands in.
     bool passFocus(bool next) { return QWidget::focusNextPrevChild(next); }
-    // To be called when the window is gone: hides this widget, and has Qt delete it once none of its events is
-    // running. A loop inside a handler would otherwise delete it below the event.
+    // To be called when the window is gone: hides this widget, and has Qt delete it once none of its events
+    // is running. A loop inside a handler would otherwise delete it below the event.
     void abandon();
 
 protected:
@@ -60,7 +60,7 @@ private:
     bool m_following = false;
     int m_eventsRunning = 0;
     bool m_isToBeDeleted = false; // when no event runs any more
-    QPoint m_wheelRest; // turns of the wheel that make no whole notch yet
+    QPoint m_wheelRest;           // turns of the wheel that make no whole notch yet
 };
 
 // Made when first asked for.
