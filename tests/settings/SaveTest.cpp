@@ -6,10 +6,8 @@
 #include <FileUtils.h>
 #include <FullDisk.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <future>
-#include <iostream>
 #include <vector>
 
 namespace {
@@ -168,53 +166,4 @@ TEST_F(Save, FailsWhereSomethingElseStands)
     std::ofstream(m_root / "file") << "x";
     UseDirectory(m_root / "file" / "data");
     EXPECT_EQ(SaveAndCatch(settings), CFileException::badPath) << "a file for a directory";
-}
-
-// A user's list is short, but a long one must do no harm.
-TEST_F(Save, ServesALongList)
-{
-    using Clock = std::chrono::steady_clock;
-    constexpr int kEntries = 100000;
-    CalendarSettings settings;
-    for (int i = 0; i < kEntries; ++i) {
-        auto pEntry = std::make_unique<CalendarDateEntry>();
-        CString strDesc;
-        strDesc.Format("Appointment %d", i);
-        if (i % 10 == 0)
-            pEntry->SetDay(strDesc, 1, 5);
-        else if (i % 2 == 0)
-            pEntry->SetDay(strDesc, 1 + i % 28, 1 + i % 12);
-        else
-            pEntry->SetBeforeAfterDayOfWeek(strDesc, DateEntry::OCCURRENCE_LAST, 6, 1 + i % 12, -4);
-        settings.AddCustomEntry(pEntry.release());
-    }
-
-    const auto measure = [](const char* szWhat, const auto& action) {
-        const auto start = Clock::now();
-        action();
-        const double dSeconds = std::chrono::duration<double>(Clock::now() - start).count();
-        std::cout << szWhat << ": " << dSeconds << " s\n";
-        return dSeconds;
-    };
-    // The bounds are wide, so that they hold on a busy machine and under the sanitizers too. Still, what
-    // takes time by the square of the length would be far above them.
-    EXPECT_LT(measure("save", [&] { settings.Save(); }), 5);
-    EXPECT_LT(measure("load", [&] { EXPECT_TRUE(settings.Load()); }), 5);
-    EXPECT_EQ(settings.GetCount(CalendarSettings::GroupCustom), static_cast<size_t>(kEntries));
-    const auto lookUpMonth = [&] {
-        DWORD dwColor = 0;
-        for (int nCell = 0; nCell < 42; ++nCell)
-            settings.GetDateDesc(1 + nCell % 28, 4 + nCell / 28, 2026, dwColor);
-    };
-    EXPECT_LT(measure("a month", lookUpMonth), 5);
-    const auto lookUpDay = [&] {
-        DWORD dwColor = 0;
-        EXPECT_GT(settings.GetDateDesc(1, 5, 2026, dwColor).GetLength(), 150000);
-    };
-    EXPECT_LT(measure("a day of 10000 texts", lookUpDay), 1);
-    const auto deleteSome = [&] {
-        for (size_t i = 0; i < 100; ++i)
-            settings.DeleteCustomEntry(settings.GetAt(CalendarSettings::GroupCustom, kEntries / 2));
-    };
-    EXPECT_LT(measure("100 deletions", deleteSome), 2);
 }
