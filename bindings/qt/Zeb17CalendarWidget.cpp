@@ -11,6 +11,7 @@
 
 #include <QEvent>
 #include <QFocusEvent>
+#include <QScopeGuard>
 
 using namespace conversions;
 
@@ -67,7 +68,7 @@ QSize Zeb17CalendarWidget::sizeHint() const
 
 QSize Zeb17CalendarWidget::minimumSizeHint() const
 {
-    return {220, 180};
+    return {250, 180};
 }
 
 void Zeb17CalendarWidget::setSelectedDate(QDate date)
@@ -121,11 +122,10 @@ void Zeb17CalendarWidget::showPreviousYear()
 
 bool Zeb17CalendarWidget::saveWebPage(const QString& path)
 {
-    bool written = false;
-    const bool good =
-        m_host->run([&](Control& control) { written = control.SaveCalendarWebPage(toCString(path)); });
-    return written || !good ? written
-                            : m_host->fail(tr("The web page could not be written to %1.").arg(path));
+    return m_host->run([&](Control& control) {
+        if (!control.SaveCalendarWebPage(toCString(path)))
+            m_host->fail(tr("The web page could not be written to %1.").arg(path));
+    });
 }
 
 bool Zeb17CalendarWidget::print()
@@ -137,8 +137,8 @@ bool Zeb17CalendarWidget::printToPdf(const QString& path)
 {
     return m_host->run([&](Control& control) {
         UIPrinter::SetOutputFile(toCString(path));
+        const auto askAgain = qScopeGuard([] { UIPrinter::SetOutputFile(""); });
         control.print();
-        UIPrinter::SetOutputFile("");
     });
 }
 

@@ -150,8 +150,8 @@ public Q_SLOTS:
     void showNextYear();
     void showPreviousYear();
 
-    // Reads the data file anew; what was changed and not saved is lost. False on failure: then there are no
-    // special dates until a later call can read the file.
+    // Reads the data file anew; what was changed and not saved is lost. Where there is no file, everything
+    // stays as it is. False on failure: then there are no special dates until a later call can read the file.
     bool reloadSpecialDates();
     // Writes the data file, whole or not at all.
     bool saveSpecialDates();

@@ -17,7 +17,8 @@ bool Zeb17CalendarWidget::Control::createIn(CWnd& around, Options options)
     if (!Create(kId, rect, false, &around, options.testFlag(NoDate), options.testFlag(OptionsMenu),
                 options.testFlag(WebPage), options.testFlag(DateRanges)))
         return false;
-    CreateToolTip();
+    if (options.testFlag(SpecialDates))
+        CreateToolTip();
     return true;
 }
 

@@ -144,6 +144,8 @@ bool Zeb17CalendarWidget::Host::createControl()
     if (m_options.testFlag(SpecialDates))
         load();
     setEnabled(m_widget.isEnabled());
+    // Shown with the widget. It paints itself already, for a picture of a widget that is not shown yet.
+    ShowWindow(SW_SHOWNA);
     return true;
 }
 
@@ -305,15 +307,15 @@ bool Zeb17CalendarWidget::Host::load()
 {
     if (!m_options.testFlag(SpecialDates))
         return needSpecialDates();
-    bool read = false;
+    bool good = false;
     guarded([&] {
-        m_control.settings().Load();
-        read = true;
+        const bool read = m_control.settings().Load();
+        m_unsaved = m_unsaved && !read; // without a file everything stays as it is
+        good = true;
     });
-    m_unsaved = false;
-    m_control.useSpecialDates(read);
+    m_control.useSpecialDates(good);
     hear([](auto& widget) { Q_EMIT widget.specialDatesChanged(); });
-    return read;
+    return good;
 }
 
 bool Zeb17CalendarWidget::Host::save()
