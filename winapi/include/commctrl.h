@@ -5,14 +5,15 @@
 
 #define ICC_WIN95_CLASSES 0x000000FF
 
-struct INITCOMMONCONTROLSEX
+typedef struct INITCOMMONCONTROLSEX
 {
     DWORD dwSize;
     DWORD dwICC;
-};
+} INITCOMMONCONTROLSEX;
 
 // Gives TRUE; the class needs no preparation.
-WINCOMMCTRLAPI BOOL InitCommonControlsEx(const INITCOMMONCONTROLSEX* request);
+WINCOMMCTRLAPI BOOL InitCommonControlsEx(const INITCOMMONCONTROLSEX* request)
+    ZEB17_NAME(InitCommonControlsEx);
 
 #define TOOLTIPS_CLASSA "tooltips_class32"
 #define TOOLTIPS_CLASS TOOLTIPS_CLASSA
@@ -40,10 +41,10 @@ WINCOMMCTRLAPI BOOL InitCommonControlsEx(const INITCOMMONCONTROLSEX* request);
 #define TTN_NEEDTEXTW TTN_GETDISPINFOW
 #define TTN_NEEDTEXT TTN_NEEDTEXTA
 
-#define LPSTR_TEXTCALLBACKA (reinterpret_cast<LPSTR>(static_cast<INT_PTR>(-1)))
+#define LPSTR_TEXTCALLBACKA (ZEB17_AS(LPSTR, ZEB17_CAST(INT_PTR, -1)))
 #define LPSTR_TEXTCALLBACK LPSTR_TEXTCALLBACKA
 
-struct TOOLINFOA
+typedef struct TOOLINFOA
 {
     UINT cbSize;
     UINT uFlags;
@@ -54,9 +55,9 @@ struct TOOLINFOA
     LPSTR lpszText;
     LPARAM lParam;
     void* lpReserved;
-};
+} TOOLINFOA;
 
-struct NMTTDISPINFOA
+typedef struct NMTTDISPINFOA
 {
     NMHDR hdr;
     LPSTR lpszText;
@@ -64,10 +65,10 @@ struct NMTTDISPINFOA
     HINSTANCE hinst;
     UINT uFlags;
     LPARAM lParam;
-};
-using TOOLTIPTEXTA = NMTTDISPINFOA;
+} NMTTDISPINFOA;
+typedef NMTTDISPINFOA TOOLTIPTEXTA;
 
-struct NMTTDISPINFOW
+typedef struct NMTTDISPINFOW
 {
     NMHDR hdr;
     LPWSTR lpszText;
@@ -75,7 +76,7 @@ struct NMTTDISPINFOW
     HINSTANCE hinst;
     UINT uFlags;
     LPARAM lParam;
-};
-using TOOLTIPTEXTW = NMTTDISPINFOW;
+} NMTTDISPINFOW;
+typedef NMTTDISPINFOW TOOLTIPTEXTW;
 
 #define TTTOOLINFOA_V1_SIZE (offsetof(TOOLINFOA, lParam))

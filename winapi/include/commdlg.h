@@ -22,10 +22,10 @@
 #define PDERR_NODEFAULTPRN 0x1008
 #define PDERR_PRINTERNOTFOUND 0x100B
 
-using LPPRINTHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
-using LPSETUPHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
+typedef UINT_PTR (*LPPRINTHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
+typedef UINT_PTR (*LPSETUPHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
 
-struct PRINTDLGA
+typedef struct PRINTDLGA
 {
     DWORD lStructSize;
     HWND hwndOwner;
@@ -46,19 +46,19 @@ struct PRINTDLGA
     LPCSTR lpSetupTemplateName;
     HGLOBAL hPrintTemplate;
     HGLOBAL hSetupTemplate;
-};
+} PRINTDLGA;
 
-struct DEVNAMES
+typedef struct DEVNAMES
 {
     WORD wDriverOffset; // offsets of texts from the beginning of the structure
     WORD wDeviceOffset;
     WORD wOutputOffset;
     WORD wDefault;
-};
+} DEVNAMES;
 
 // Asks for a printer. FALSE when cancelled or failed; CommDlgExtendedError tells which: 0 when cancelled.
-WINUSERAPI BOOL PrintDlgA(PRINTDLGA* dialog);
-WINUSERAPI DWORD CommDlgExtendedError();
+WINUSERAPI BOOL PrintDlgA(PRINTDLGA* dialog) ZEB17_NAME(PrintDlgA);
+WINUSERAPI DWORD CommDlgExtendedError(void) ZEB17_NAME(CommDlgExtendedError);
 
 #define PrintDlg PrintDlgA
 
@@ -67,9 +67,9 @@ WINUSERAPI DWORD CommDlgExtendedError();
 #define CC_RGBINIT 0x00000001
 #define CC_FULLOPEN 0x00000002
 
-using LPCCHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
+typedef UINT_PTR (*LPCCHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
 
-struct CHOOSECOLORA
+typedef struct CHOOSECOLORA
 {
     DWORD lStructSize;
     HWND hwndOwner;
@@ -80,10 +80,10 @@ struct CHOOSECOLORA
     LPARAM lCustData;
     LPCCHOOKPROC lpfnHook;
     LPCSTR lpTemplateName;
-};
+} CHOOSECOLORA;
 
 // Asks for a colour. FALSE when cancelled or failed.
-WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog);
+WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog) ZEB17_NAME(ChooseColorA);
 
 #define ChooseColor ChooseColorA
 
@@ -95,9 +95,9 @@ WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog);
 
 #define FNERR_BUFFERTOOSMALL 0x3003
 
-using LPOFNHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
+typedef UINT_PTR (*LPOFNHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
 
-struct OPENFILENAMEA
+typedef struct OPENFILENAMEA
 {
     DWORD lStructSize;
     HWND hwndOwner;
@@ -123,11 +123,11 @@ struct OPENFILENAMEA
     void* pvReserved;
     DWORD dwReserved;
     DWORD FlagsEx;
-};
+} OPENFILENAMEA;
 
 // Ask for a file to open or to save to. FALSE when cancelled or failed.
-WINUSERAPI BOOL GetOpenFileNameA(OPENFILENAMEA* dialog);
-WINUSERAPI BOOL GetSaveFileNameA(OPENFILENAMEA* dialog);
+WINUSERAPI BOOL GetOpenFileNameA(OPENFILENAMEA* dialog) ZEB17_NAME(GetOpenFileNameA);
+WINUSERAPI BOOL GetSaveFileNameA(OPENFILENAMEA* dialog) ZEB17_NAME(GetSaveFileNameA);
 
 #define GetOpenFileName GetOpenFileNameA
 #define GetSaveFileName GetSaveFileNameA

@@ -42,25 +42,27 @@ struct GdiplusStartupInput
 struct GdiplusStartupOutput;
 
 WINGDIAPI GpStatus GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
-                                  GdiplusStartupOutput* output);
-WINGDIAPI void GdiplusShutdown(ULONG_PTR token);
+                                  GdiplusStartupOutput* output) ZEB17_NAME(GdiplusStartup);
+WINGDIAPI void GdiplusShutdown(ULONG_PTR token) ZEB17_NAME(GdiplusShutdown);
 
 namespace DllExports {
 
-WINGDIAPI GpStatus GdipCreateFromHDC(HDC dc, GpGraphics** graphics);
-WINGDIAPI GpStatus GdipDeleteGraphics(GpGraphics* graphics);
-WINGDIAPI GpStatus GdipSetSmoothingMode(GpGraphics* graphics, SmoothingMode mode);
-WINGDIAPI GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush);
-WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush);
-WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width,
-                                    INT height);
+WINGDIAPI GpStatus GdipCreateFromHDC(HDC dc, GpGraphics** graphics) ZEB17_NAME(GdipCreateFromHDC);
+WINGDIAPI GpStatus GdipDeleteGraphics(GpGraphics* graphics) ZEB17_NAME(GdipDeleteGraphics);
+WINGDIAPI GpStatus GdipSetSmoothingMode(GpGraphics* graphics, SmoothingMode mode)
+    ZEB17_NAME(GdipSetSmoothingMode);
+WINGDIAPI GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush) ZEB17_NAME(GdipCreateSolidFill);
+WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush) ZEB17_NAME(GdipDeleteBrush);
+WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width, INT height)
+    ZEB17_NAME(GdipFillEllipseI);
 
 // Copies the pixels of the bitmap; GdipDisposeImage releases the copy. The palette is not used.
-WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image);
-WINGDIAPI GpStatus GdipDisposeImage(GpImage* image);
+WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image)
+    ZEB17_NAME(GdipCreateBitmapFromHBITMAP);
+WINGDIAPI GpStatus GdipDisposeImage(GpImage* image) ZEB17_NAME(GdipDisposeImage);
 // Writes a picture file. There is one encoder, for PNG; the parameters are not used.
 WINGDIAPI GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder,
-                                       const EncoderParameters* parameters);
+                                       const EncoderParameters* parameters) ZEB17_NAME(GdipSaveImageToFile);
 
 }
 }

@@ -13,7 +13,8 @@ struct MenuResourceItem
 };
 
 // `items` must live as long as the module that holds it. LoadMenu finds the menu in that module.
-WINBASEAPI void RegisterMenuResource(UINT id, const MenuResourceItem* items, int count);
+WINBASEAPI void RegisterMenuResource(UINT id, const MenuResourceItem* items, int count)
+    ZEB17_NAME(RegisterMenuResource);
 
 // Registers one menu while the module loads.
 struct MenuResource

@@ -65,11 +65,14 @@ struct IAccessible : IDispatch
 
 // What a window answers to WM_GETOBJECT with, for the object that speaks for it. The answer holds a reference
 // of its own to the object until AccessibleObjectFromWindow takes it.
-WINUSERAPI LRESULT WINAPI LresultFromObject(REFIID id, WPARAM wParam, IUnknown* object);
+WINUSERAPI LRESULT WINAPI LresultFromObject(REFIID id, WPARAM wParam, IUnknown* object)
+    ZEB17_NAME(LresultFromObject);
 
 // The object that speaks for a window, its own or the standard one. Only OBJID_CLIENT is served.
-WINUSERAPI HRESULT WINAPI AccessibleObjectFromWindow(HWND window, DWORD objectId, REFIID id, void** object);
-WINUSERAPI HRESULT WINAPI CreateStdAccessibleObject(HWND window, LONG objectId, REFIID id, void** object);
+WINUSERAPI HRESULT WINAPI AccessibleObjectFromWindow(HWND window, DWORD objectId, REFIID id, void** object)
+    ZEB17_NAME(AccessibleObjectFromWindow);
+WINUSERAPI HRESULT WINAPI CreateStdAccessibleObject(HWND window, LONG objectId, REFIID id, void** object)
+    ZEB17_NAME(CreateStdAccessibleObject);
 
 // ---- events ----
 
@@ -85,9 +88,10 @@ using WINEVENTPROC = void (*)(HWINEVENTHOOK, DWORD event, HWND, LONG objectId, L
                               DWORD time);
 
 // Tells assistive technology that something has changed about a window, or about a child of its object.
-WINUSERAPI void WINAPI NotifyWinEvent(DWORD event, HWND window, LONG objectId, LONG child);
+WINUSERAPI void WINAPI NotifyWinEvent(DWORD event, HWND window, LONG objectId, LONG child)
+    ZEB17_NAME(NotifyWinEvent);
 // The procedure is called for each event of this process, at once.
 WINUSERAPI HWINEVENTHOOK WINAPI SetWinEventHook(DWORD eventMin, DWORD eventMax, HMODULE module,
                                                 WINEVENTPROC procedure, DWORD process, DWORD thread,
-                                                DWORD flags);
-WINUSERAPI BOOL WINAPI UnhookWinEvent(HWINEVENTHOOK hook);
+                                                DWORD flags) ZEB17_NAME(SetWinEventHook);
+WINUSERAPI BOOL WINAPI UnhookWinEvent(HWINEVENTHOOK hook) ZEB17_NAME(UnhookWinEvent);

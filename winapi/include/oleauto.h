@@ -63,9 +63,9 @@ struct IDispatch : IUnknown
 
 using BSTR = OLECHAR*;
 
-WINBASEAPI BSTR WINAPI SysAllocStringLen(const OLECHAR* text, UINT length);
-WINBASEAPI void WINAPI SysFreeString(BSTR text);
-WINBASEAPI UINT WINAPI SysStringLen(BSTR text);
+WINBASEAPI BSTR WINAPI SysAllocStringLen(const OLECHAR* text, UINT length) ZEB17_NAME(SysAllocStringLen);
+WINBASEAPI void WINAPI SysFreeString(BSTR text) ZEB17_NAME(SysFreeString);
+WINBASEAPI UINT WINAPI SysStringLen(BSTR text) ZEB17_NAME(SysStringLen);
 
 // ---- Variants: a number or an object.
 
@@ -90,6 +90,6 @@ struct VARIANT
     };
 };
 
-WINBASEAPI void WINAPI VariantInit(VARIANT* variant);
+WINBASEAPI void WINAPI VariantInit(VARIANT* variant) ZEB17_NAME(VariantInit);
 // Releases what the variant holds, and empties it.
-WINBASEAPI HRESULT WINAPI VariantClear(VARIANT* variant);
+WINBASEAPI HRESULT WINAPI VariantClear(VARIANT* variant) ZEB17_NAME(VariantClear);

@@ -9,5 +9,6 @@
 
 // Gives the folder of the user's application data: $XDG_DATA_HOME, else ~/.local/share. `path` holds MAX_PATH
 // characters.
-WINBASEAPI HRESULT WINAPI SHGetFolderPathA(HWND owner, int folder, HANDLE token, DWORD flags, LPSTR path);
+WINBASEAPI HRESULT WINAPI SHGetFolderPathA(HWND owner, int folder, HANDLE token, DWORD flags, LPSTR path)
+    ZEB17_NAME(SHGetFolderPathA);
 #define SHGetFolderPath SHGetFolderPathA

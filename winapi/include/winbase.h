@@ -6,8 +6,8 @@
 
 // ---- Errors. Each thread has a last error of its own. A call that succeeds may leave it as it was.
 
-WINBASEAPI DWORD WINAPI GetLastError();
-WINBASEAPI void WINAPI SetLastError(DWORD error);
+WINBASEAPI DWORD WINAPI GetLastError(void) ZEB17_NAME(GetLastError);
+WINBASEAPI void WINAPI SetLastError(DWORD error) ZEB17_NAME(SetLastError);
 
 #define FORMAT_MESSAGE_IGNORE_INSERTS 0x00000200u
 #define FORMAT_MESSAGE_FROM_SYSTEM 0x00001000u
@@ -16,35 +16,36 @@ WINBASEAPI void WINAPI SetLastError(DWORD error);
 // Writes the text of a system error to `buffer`, which holds `size` bytes, and gives its length; 0 if that
 // fails. The flags must hold FORMAT_MESSAGE_FROM_SYSTEM.
 WINBASEAPI DWORD WINAPI FormatMessageA(DWORD flags, LPCVOID source, DWORD messageId, DWORD languageId,
-                                       LPSTR buffer, DWORD size, va_list* arguments);
+                                       LPSTR buffer, DWORD size, va_list* arguments)
+    ZEB17_NAME(FormatMessageA);
 #define FormatMessage FormatMessageA
 
 // ---- Handles.
 
-struct SECURITY_ATTRIBUTES
+typedef struct SECURITY_ATTRIBUTES
 {
     DWORD nLength;
     LPVOID lpSecurityDescriptor;
     BOOL bInheritHandle;
-};
-using LPSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
+} SECURITY_ATTRIBUTES;
+typedef SECURITY_ATTRIBUTES* LPSECURITY_ATTRIBUTES;
 
-WINBASEAPI BOOL WINAPI CloseHandle(HANDLE handle);
+WINBASEAPI BOOL WINAPI CloseHandle(HANDLE handle) ZEB17_NAME(CloseHandle);
 
 // ---- Files. Paths are UTF-8 with the slash as separator.
 
-union LARGE_INTEGER {
+typedef union LARGE_INTEGER {
     struct
     {
         DWORD LowPart;
         LONG HighPart;
     } u;
     LONGLONG QuadPart;
-};
-using PLARGE_INTEGER = LARGE_INTEGER*;
+} LARGE_INTEGER;
+typedef LARGE_INTEGER* PLARGE_INTEGER;
 
-struct OVERLAPPED;
-using LPOVERLAPPED = OVERLAPPED*;
+typedef struct OVERLAPPED OVERLAPPED;
+typedef OVERLAPPED* LPOVERLAPPED;
 
 #define GENERIC_READ 0x80000000u
 #define GENERIC_WRITE 0x40000000u
@@ -59,7 +60,7 @@ using LPOVERLAPPED = OVERLAPPED*;
 #define FILE_ATTRIBUTE_DEVICE 0x00000040u
 #define FILE_ATTRIBUTE_NORMAL 0x00000080u
 #define FILE_ATTRIBUTE_REPARSE_POINT 0x00000400u
-#define INVALID_FILE_ATTRIBUTES (static_cast<DWORD>(-1))
+#define INVALID_FILE_ATTRIBUTES (ZEB17_CAST(DWORD, -1))
 #define FILE_TYPE_UNKNOWN 0u
 #define FILE_TYPE_DISK 1u
 #define FILE_TYPE_CHAR 2u
@@ -75,30 +76,34 @@ using LPOVERLAPPED = OVERLAPPED*;
 // not enforced.
 WINBASEAPI HANDLE WINAPI CreateFileA(LPCSTR path, DWORD access, DWORD shareMode,
                                      LPSECURITY_ATTRIBUTES security, DWORD disposition,
-                                     DWORD flagsAndAttributes, HANDLE templateFile);
-WINBASEAPI DWORD WINAPI GetFileType(HANDLE file); // one of FILE_TYPE_XXX
-WINBASEAPI BOOL WINAPI ReadFile(HANDLE file, LPVOID buffer, DWORD count, LPDWORD read, LPOVERLAPPED);
-WINBASEAPI BOOL WINAPI WriteFile(HANDLE file, LPCVOID buffer, DWORD count, LPDWORD written, LPOVERLAPPED);
+                                     DWORD flagsAndAttributes, HANDLE templateFile) ZEB17_NAME(CreateFileA);
+WINBASEAPI DWORD WINAPI GetFileType(HANDLE file) ZEB17_NAME(GetFileType); // one of FILE_TYPE_XXX
+WINBASEAPI BOOL WINAPI ReadFile(HANDLE file, LPVOID buffer, DWORD count, LPDWORD read, LPOVERLAPPED)
+    ZEB17_NAME(ReadFile);
+WINBASEAPI BOOL WINAPI WriteFile(HANDLE file, LPCVOID buffer, DWORD count, LPDWORD written, LPOVERLAPPED)
+    ZEB17_NAME(WriteFile);
 WINBASEAPI BOOL WINAPI SetFilePointerEx(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER position,
-                                        DWORD from);
-WINBASEAPI BOOL WINAPI GetFileSizeEx(HANDLE file, PLARGE_INTEGER size);
-WINBASEAPI BOOL WINAPI FlushFileBuffers(HANDLE file);
-WINBASEAPI DWORD WINAPI GetFinalPathNameByHandleA(HANDLE file, LPSTR path, DWORD size, DWORD flags);
-WINBASEAPI BOOL WINAPI DeleteFileA(LPCSTR path);
+                                        DWORD from) ZEB17_NAME(SetFilePointerEx);
+WINBASEAPI BOOL WINAPI GetFileSizeEx(HANDLE file, PLARGE_INTEGER size) ZEB17_NAME(GetFileSizeEx);
+WINBASEAPI BOOL WINAPI FlushFileBuffers(HANDLE file) ZEB17_NAME(FlushFileBuffers);
+WINBASEAPI DWORD WINAPI GetFinalPathNameByHandleA(HANDLE file, LPSTR path, DWORD size, DWORD flags)
+    ZEB17_NAME(GetFinalPathNameByHandleA);
+WINBASEAPI BOOL WINAPI DeleteFileA(LPCSTR path) ZEB17_NAME(DeleteFileA);
 // With MOVEFILE_WRITE_THROUGH the directory is brought to the disk too; a failure of that is none of the
 // move.
-WINBASEAPI BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
-WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path);
-WINBASEAPI BOOL WINAPI SetFileAttributesA(LPCSTR path, DWORD attributes);
-WINBASEAPI BOOL WINAPI CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES security);
+WINBASEAPI BOOL WINAPI MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags) ZEB17_NAME(MoveFileExA);
+WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path) ZEB17_NAME(GetFileAttributesA);
+WINBASEAPI BOOL WINAPI SetFileAttributesA(LPCSTR path, DWORD attributes) ZEB17_NAME(SetFileAttributesA);
+WINBASEAPI BOOL WINAPI CreateDirectoryA(LPCSTR path, LPSECURITY_ATTRIBUTES security)
+    ZEB17_NAME(CreateDirectoryA);
 
-struct FILETIME
+typedef struct FILETIME
 {
     DWORD dwLowDateTime;
     DWORD dwHighDateTime;
-};
+} FILETIME;
 
-struct WIN32_FIND_DATAA
+typedef struct WIN32_FIND_DATAA
 {
     DWORD dwFileAttributes;
     FILETIME ftCreationTime;
@@ -110,13 +115,13 @@ struct WIN32_FIND_DATAA
     DWORD dwReserved1;
     char cFileName[MAX_PATH];
     char cAlternateFileName[14];
-};
-using LPWIN32_FIND_DATAA = WIN32_FIND_DATAA*;
+} WIN32_FIND_DATAA;
+typedef WIN32_FIND_DATAA* LPWIN32_FIND_DATAA;
 
 // The search tells attributes and names only.
-WINBASEAPI HANDLE WINAPI FindFirstFileA(LPCSTR pattern, LPWIN32_FIND_DATAA data);
-WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data);
-WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
+WINBASEAPI HANDLE WINAPI FindFirstFileA(LPCSTR pattern, LPWIN32_FIND_DATAA data) ZEB17_NAME(FindFirstFileA);
+WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data) ZEB17_NAME(FindNextFileA);
+WINBASEAPI BOOL WINAPI FindClose(HANDLE search) ZEB17_NAME(FindClose);
 
 #define CreateFile CreateFileA
 #define FindFirstFile FindFirstFileA
@@ -139,9 +144,11 @@ WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
 #define WAIT_TIMEOUT 258u
 #define WAIT_FAILED 0xFFFFFFFFu
 
-WINBASEAPI HANDLE WINAPI CreateMutexA(LPSECURITY_ATTRIBUTES security, BOOL initialOwner, LPCSTR name);
-WINBASEAPI BOOL WINAPI ReleaseMutex(HANDLE mutex);
-WINBASEAPI DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
+WINBASEAPI HANDLE WINAPI CreateMutexA(LPSECURITY_ATTRIBUTES security, BOOL initialOwner, LPCSTR name)
+    ZEB17_NAME(CreateMutexA);
+WINBASEAPI BOOL WINAPI ReleaseMutex(HANDLE mutex) ZEB17_NAME(ReleaseMutex);
+WINBASEAPI DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds)
+    ZEB17_NAME(WaitForSingleObject);
 #define CreateMutex CreateMutexA
 
 // ---- Modules: the program and its libraries. A DllMain that is linked in is called as the module comes and
@@ -150,10 +157,15 @@ WINBASEAPI DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
 #define DLL_PROCESS_DETACH 0u
 #define DLL_PROCESS_ATTACH 1u
 
+#define GET_MODULE_HANDLE_EX_FLAG_PIN 1u
 #define GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT 2u
+#define GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS 4u
 
-WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name);
-WINBASEAPI BOOL WINAPI GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module);
+WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name) ZEB17_NAME(GetModuleHandleA);
+// With the flags UNCHANGED_REFCOUNT, or with PIN and FROM_ADDRESS: the module that an address lies in then
+// stays to the end of the process.
+WINBASEAPI BOOL WINAPI GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module)
+    ZEB17_NAME(GetModuleHandleExA);
 #define GetModuleHandle GetModuleHandleA
 #define GetModuleHandleEx GetModuleHandleExA
 
@@ -161,19 +173,19 @@ WINBASEAPI BOOL WINAPI GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* mod
 
 #define GMEM_MOVEABLE 0x0002u
 
-WINBASEAPI HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T bytes);
-WINBASEAPI HGLOBAL WINAPI GlobalFree(HGLOBAL memory);
-WINBASEAPI LPVOID WINAPI GlobalLock(HGLOBAL memory);
-WINBASEAPI BOOL WINAPI GlobalUnlock(HGLOBAL memory);
+WINBASEAPI HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T bytes) ZEB17_NAME(GlobalAlloc);
+WINBASEAPI HGLOBAL WINAPI GlobalFree(HGLOBAL memory) ZEB17_NAME(GlobalFree);
+WINBASEAPI LPVOID WINAPI GlobalLock(HGLOBAL memory) ZEB17_NAME(GlobalLock);
+WINBASEAPI BOOL WINAPI GlobalUnlock(HGLOBAL memory) ZEB17_NAME(GlobalUnlock);
 
 // ---- Text.
 
-WINBASEAPI LPSTR WINAPI lstrcpynA(LPSTR destination, LPCSTR source, int size);
+WINBASEAPI LPSTR WINAPI lstrcpynA(LPSTR destination, LPCSTR source, int size) ZEB17_NAME(lstrcpynA);
 #define lstrcpyn lstrcpynA
 
 // ---- Time, and the ids of the process and the thread.
 
-struct SYSTEMTIME
+typedef struct SYSTEMTIME
 {
     WORD wYear;
     WORD wMonth;
@@ -183,10 +195,10 @@ struct SYSTEMTIME
     WORD wMinute;
     WORD wSecond;
     WORD wMilliseconds;
-};
-using LPSYSTEMTIME = SYSTEMTIME*;
+} SYSTEMTIME;
+typedef SYSTEMTIME* LPSYSTEMTIME;
 
-WINBASEAPI void WINAPI GetLocalTime(LPSYSTEMTIME time);
-WINBASEAPI void WINAPI Sleep(DWORD milliseconds);
-WINBASEAPI DWORD WINAPI GetCurrentProcessId();
-WINBASEAPI DWORD WINAPI GetCurrentThreadId();
+WINBASEAPI void WINAPI GetLocalTime(LPSYSTEMTIME time) ZEB17_NAME(GetLocalTime);
+WINBASEAPI void WINAPI Sleep(DWORD milliseconds) ZEB17_NAME(Sleep);
+WINBASEAPI DWORD WINAPI GetCurrentProcessId(void) ZEB17_NAME(GetCurrentProcessId);
+WINBASEAPI DWORD WINAPI GetCurrentThreadId(void) ZEB17_NAME(GetCurrentThreadId);

@@ -83,5 +83,5 @@
 
 // Shows a text, and no more than MB_OK and MB_ICONEXCLAMATION of `type`. The owner is disabled meanwhile.
 // Without a caption the box says "Error". Gives IDOK; 0 when `type` asks for other buttons.
-WINUSERAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
+WINUSERAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) ZEB17_NAME(MessageBoxA);
 #define MessageBox MessageBoxA

@@ -56,9 +56,9 @@
 #define ERROR_INVALID_PRINTER_NAME 1801u
 #define ERROR_RESOURCE_NAME_NOT_FOUND 1814u
 
-#define S_OK (static_cast<HRESULT>(0))
-#define S_FALSE (static_cast<HRESULT>(1))
-#define E_FAIL (static_cast<HRESULT>(0x80004005u))
-#define E_INVALIDARG (static_cast<HRESULT>(0x80070057u))
-#define SUCCEEDED(hr) (static_cast<HRESULT>(hr) >= 0)
-#define FAILED(hr) (static_cast<HRESULT>(hr) < 0)
+#define S_OK (ZEB17_CAST(HRESULT, 0))
+#define S_FALSE (ZEB17_CAST(HRESULT, 1))
+#define E_FAIL (ZEB17_CAST(HRESULT, 0x80004005u))
+#define E_INVALIDARG (ZEB17_CAST(HRESULT, 0x80070057u))
+#define SUCCEEDED(hr) (ZEB17_CAST(HRESULT, hr) >= 0)
+#define FAILED(hr) (ZEB17_CAST(HRESULT, hr) < 0)

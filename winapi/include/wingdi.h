@@ -53,7 +53,7 @@
 #define DMORIENT_LANDSCAPE 2
 #define SP_ERROR (-1)
 
-struct LOGFONTA
+typedef struct LOGFONTA
 {
     LONG lfHeight; // in logical units; below 0: of the letters; above 0: of the line
     LONG lfWidth;
@@ -69,9 +69,9 @@ struct LOGFONTA
     BYTE lfQuality;
     BYTE lfPitchAndFamily;
     CHAR lfFaceName[LF_FACESIZE];
-};
-using LOGFONT = LOGFONTA;
-struct TEXTMETRICA
+} LOGFONTA;
+typedef LOGFONTA LOGFONT;
+typedef struct TEXTMETRICA
 {
     LONG tmHeight;
     LONG tmAscent;
@@ -93,8 +93,8 @@ struct TEXTMETRICA
     BYTE tmStruckOut;
     BYTE tmPitchAndFamily;
     BYTE tmCharSet;
-};
-struct DEVMODEA
+} TEXTMETRICA;
+typedef struct DEVMODEA
 {
     BYTE dmDeviceName[CCHDEVICENAME];
     WORD dmSpecVersion;
@@ -122,64 +122,65 @@ struct DEVMODEA
     DWORD dmPelsHeight;
     DWORD dmDisplayFlags;
     DWORD dmDisplayFrequency;
-};
-struct DOCINFOA
+} DEVMODEA;
+typedef struct DOCINFOA
 {
     int cbSize;
     LPCSTR lpszDocName;
     LPCSTR lpszOutput; // a file to print to, or null
     LPCSTR lpszDatatype;
     DWORD fwType;
-};
+} DOCINFOA;
 
 // Contexts. A memory context begins with a bitmap of one pixel, and is released by DeleteDC.
-WINGDIAPI HDC CreateCompatibleDC(HDC dc);
-WINGDIAPI BOOL DeleteDC(HDC dc);
-WINGDIAPI int GetDeviceCaps(HDC dc, int index);
-WINGDIAPI int SetMapMode(HDC dc, int mode);
-WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old);
-WINGDIAPI BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old);
-WINGDIAPI BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old);
-WINGDIAPI BOOL DPtoLP(HDC dc, POINT* points, int count);
+WINGDIAPI HDC CreateCompatibleDC(HDC dc) ZEB17_NAME(CreateCompatibleDC);
+WINGDIAPI BOOL DeleteDC(HDC dc) ZEB17_NAME(DeleteDC);
+WINGDIAPI int GetDeviceCaps(HDC dc, int index) ZEB17_NAME(GetDeviceCaps);
+WINGDIAPI int SetMapMode(HDC dc, int mode) ZEB17_NAME(SetMapMode);
+WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old) ZEB17_NAME(SetWindowExtEx);
+WINGDIAPI BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old) ZEB17_NAME(SetViewportExtEx);
+WINGDIAPI BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old) ZEB17_NAME(SetWindowOrgEx);
+WINGDIAPI BOOL DPtoLP(HDC dc, POINT* points, int count) ZEB17_NAME(DPtoLP);
 
 // Objects. A selected object lives on after DeleteObject until another takes its place. SelectObject gives
 // the object that was selected before, or null if there is no such context or object, or if the bitmap is in
 // another context.
-WINGDIAPI HGDIOBJ GetStockObject(int index); // WHITE_BRUSH only
-WINGDIAPI HGDIOBJ SelectObject(HDC dc, HGDIOBJ object);
-WINGDIAPI BOOL DeleteObject(HGDIOBJ object);
-WINGDIAPI HPEN CreatePen(int style, int width, COLORREF color); // PS_SOLID only; width 0 is 1 pixel
-WINGDIAPI HBRUSH CreateSolidBrush(COLORREF color);
-WINGDIAPI HFONT CreateFontIndirectA(const LOGFONTA* font);
-WINGDIAPI HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height);
+WINGDIAPI HGDIOBJ GetStockObject(int index) ZEB17_NAME(GetStockObject); // WHITE_BRUSH only
+WINGDIAPI HGDIOBJ SelectObject(HDC dc, HGDIOBJ object) ZEB17_NAME(SelectObject);
+WINGDIAPI BOOL DeleteObject(HGDIOBJ object) ZEB17_NAME(DeleteObject);
+WINGDIAPI HPEN CreatePen(int style, int width, COLORREF color)
+    ZEB17_NAME(CreatePen); // PS_SOLID only; width 0 is 1 pixel
+WINGDIAPI HBRUSH CreateSolidBrush(COLORREF color) ZEB17_NAME(CreateSolidBrush);
+WINGDIAPI HFONT CreateFontIndirectA(const LOGFONTA* font) ZEB17_NAME(CreateFontIndirectA);
+WINGDIAPI HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height) ZEB17_NAME(CreateCompatibleBitmap);
 
 // How a context draws. The setters return the value before.
-WINGDIAPI COLORREF SetBkColor(HDC dc, COLORREF color);
-WINGDIAPI int SetBkMode(HDC dc, int mode);
-WINGDIAPI COLORREF SetTextColor(HDC dc, COLORREF color);
+WINGDIAPI COLORREF SetBkColor(HDC dc, COLORREF color) ZEB17_NAME(SetBkColor);
+WINGDIAPI int SetBkMode(HDC dc, int mode) ZEB17_NAME(SetBkMode);
+WINGDIAPI COLORREF SetTextColor(HDC dc, COLORREF color) ZEB17_NAME(SetTextColor);
 
 // Lines, shapes and pixels. A line leaves its last point out; shapes end before their right and bottom edges.
-WINGDIAPI BOOL MoveToEx(HDC dc, int x, int y, POINT* old);
-WINGDIAPI BOOL LineTo(HDC dc, int x, int y);
-WINGDIAPI BOOL Polygon(HDC dc, const POINT* points, int count);
-WINGDIAPI BOOL Rectangle(HDC dc, int left, int top, int right, int bottom);
-WINGDIAPI COLORREF GetPixel(HDC dc, int x, int y);
+WINGDIAPI BOOL MoveToEx(HDC dc, int x, int y, POINT* old) ZEB17_NAME(MoveToEx);
+WINGDIAPI BOOL LineTo(HDC dc, int x, int y) ZEB17_NAME(LineTo);
+WINGDIAPI BOOL Polygon(HDC dc, const POINT* points, int count) ZEB17_NAME(Polygon);
+WINGDIAPI BOOL Rectangle(HDC dc, int left, int top, int right, int bottom) ZEB17_NAME(Rectangle);
+WINGDIAPI COLORREF GetPixel(HDC dc, int x, int y) ZEB17_NAME(GetPixel);
 WINGDIAPI BOOL BitBlt(HDC target, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
-                      DWORD operation);
+                      DWORD operation) ZEB17_NAME(BitBlt);
 
 // Text, in UTF-8. DrawText below writes it.
 // Only fills `rect` with the background colour: the option has to be ETO_OPAQUE, and the length 0.
 WINGDIAPI BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* rect, LPCSTR text, UINT length,
-                           const INT* advances);
-WINGDIAPI BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* metrics);
+                           const INT* advances) ZEB17_NAME(ExtTextOutA);
+WINGDIAPI BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* metrics) ZEB17_NAME(GetTextMetricsA);
 
 // Printing: a job of pages on a printer's context, which PrintDlg gives. Failure is 0 or less, and sets the
 // last error.
-WINGDIAPI int StartDocA(HDC dc, const DOCINFOA* document);
-WINGDIAPI int EndDoc(HDC dc);
-WINGDIAPI int AbortDoc(HDC dc);
-WINGDIAPI int StartPage(HDC dc);
-WINGDIAPI int EndPage(HDC dc);
+WINGDIAPI int StartDocA(HDC dc, const DOCINFOA* document) ZEB17_NAME(StartDocA);
+WINGDIAPI int EndDoc(HDC dc) ZEB17_NAME(EndDoc);
+WINGDIAPI int AbortDoc(HDC dc) ZEB17_NAME(AbortDoc);
+WINGDIAPI int StartPage(HDC dc) ZEB17_NAME(StartPage);
+WINGDIAPI int EndPage(HDC dc) ZEB17_NAME(EndPage);
 
 #define CreateFontIndirect CreateFontIndirectA
 #define ExtTextOut ExtTextOutA
@@ -214,14 +215,14 @@ WINGDIAPI int EndPage(HDC dc);
 #define SM_CXVSCROLL 2
 #define SM_CYHSCROLL 3
 
-WINUSERAPI int GetSystemMetrics(int index);
-WINUSERAPI DWORD GetSysColor(int index);
+WINUSERAPI int GetSystemMetrics(int index) ZEB17_NAME(GetSystemMetrics);
+WINUSERAPI DWORD GetSysColor(int index) ZEB17_NAME(GetSysColor);
 
-WINUSERAPI BOOL PtInRect(const RECT* rect, POINT point);
+WINUSERAPI BOOL PtInRect(const RECT* rect, POINT point) ZEB17_NAME(PtInRect);
 
-WINUSERAPI int FillRect(HDC dc, const RECT* rect, HBRUSH brush);
-WINUSERAPI int FrameRect(HDC dc, const RECT* rect, HBRUSH brush);
-WINUSERAPI BOOL DrawFocusRect(HDC dc, const RECT* rect);
-WINUSERAPI int DrawTextA(HDC dc, LPCSTR text, int length, RECT* rect, UINT format);
+WINUSERAPI int FillRect(HDC dc, const RECT* rect, HBRUSH brush) ZEB17_NAME(FillRect);
+WINUSERAPI int FrameRect(HDC dc, const RECT* rect, HBRUSH brush) ZEB17_NAME(FrameRect);
+WINUSERAPI BOOL DrawFocusRect(HDC dc, const RECT* rect) ZEB17_NAME(DrawFocusRect);
+WINUSERAPI int DrawTextA(HDC dc, LPCSTR text, int length, RECT* rect, UINT format) ZEB17_NAME(DrawTextA);
 
 #define DrawText DrawTextA

@@ -13,12 +13,13 @@
 // result asks for the length needed. What is no UTF-8, or no UTF-16, turns into U+FFFD; bytes that are no
 // UTF-8 fail with MB_ERR_INVALID_CHARS.
 WINBASEAPI int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int size, LPWSTR wide,
-                                          int wideSize);
+                                          int wideSize) ZEB17_NAME(MultiByteToWideChar);
 WINBASEAPI int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideSize, LPSTR text,
-                                          int size, LPCSTR defaultChar, LPBOOL usedDefaultChar);
-WINBASEAPI BOOL WINAPI IsDBCSLeadByte(BYTE byte); // false for every byte of UTF-8
+                                          int size, LPCSTR defaultChar, LPBOOL usedDefaultChar)
+    ZEB17_NAME(WideCharToMultiByte);
+WINBASEAPI BOOL WINAPI IsDBCSLeadByte(BYTE byte) ZEB17_NAME(IsDBCSLeadByte); // false for every byte of UTF-8
 
-#define LOCALE_NAME_USER_DEFAULT (static_cast<LPCWSTR>(nullptr))
+#define LOCALE_NAME_USER_DEFAULT (ZEB17_CAST(LPCWSTR, NULL))
 #define LOCALE_SSHORTDATE 0x0000001Fu
 #define LOCALE_SLONGDATE 0x00000020u
 #define LOCALE_SDAYNAME1 0x0000002Au // Monday; to 7, Sunday
@@ -30,5 +31,6 @@ WINBASEAPI BOOL WINAPI IsDBCSLeadByte(BYTE byte); // false for every byte of UTF
 
 // Locale names are those of BCP 47 ("nl-NL"). LOCALE_NAME_USER_DEFAULT is the user's locale. Gives the length
 // of the text with its null, also for a size of 0; 0 if that fails.
-WINBASEAPI int WINAPI GetLocaleInfoEx(LPCWSTR localeName, LCTYPE type, LPWSTR data, int size);
-WINBASEAPI BOOL WINAPI IsValidLocaleName(LPCWSTR localeName);
+WINBASEAPI int WINAPI GetLocaleInfoEx(LPCWSTR localeName, LCTYPE type, LPWSTR data, int size)
+    ZEB17_NAME(GetLocaleInfoEx);
+WINBASEAPI BOOL WINAPI IsValidLocaleName(LPCWSTR localeName) ZEB17_NAME(IsValidLocaleName);

@@ -93,7 +93,7 @@
 #define WM_USER 0x0400
 
 #define WHEEL_DELTA 120
-#define GET_WHEEL_DELTA_WPARAM(w) (static_cast<short>(HIWORD(w)))
+#define GET_WHEEL_DELTA_WPARAM(w) (ZEB17_CAST(short, HIWORD(w)))
 
 #define SIZE_RESTORED 0 // WM_SIZE
 #define SIZE_MINIMIZED 1
@@ -114,6 +114,7 @@
 
 // WM_GETDLGCODE
 #define DLGC_WANTARROWS 0x0001
+#define DLGC_WANTTAB 0x0002
 #define DLGC_WANTALLKEYS 0x0004
 #define DLGC_HASSETSEL 0x0008
 #define DLGC_DEFPUSHBUTTON 0x0010
@@ -213,10 +214,11 @@
 #define CS_DBLCLKS 0x0008
 #define CS_CLASSDC 0x0040
 #define CS_SAVEBITS 0x0800
+#define CS_GLOBALCLASS 0x4000 // all classes are
 
 // ---- structures ----
 
-struct MSG
+typedef struct MSG
 {
     HWND hwnd;
     UINT message;
@@ -224,9 +226,9 @@ struct MSG
     LPARAM lParam;
     DWORD time;
     POINT pt;
-};
+} MSG;
 
-struct WNDCLASSA
+typedef struct WNDCLASSA
 {
     UINT style;
     WNDPROC lpfnWndProc;
@@ -238,9 +240,9 @@ struct WNDCLASSA
     HBRUSH hbrBackground;
     LPCSTR lpszMenuName;
     LPCSTR lpszClassName;
-};
+} WNDCLASSA;
 
-struct WNDCLASSEXA
+typedef struct WNDCLASSEXA
 {
     UINT cbSize;
     UINT style;
@@ -254,9 +256,9 @@ struct WNDCLASSEXA
     LPCSTR lpszMenuName;
     LPCSTR lpszClassName;
     HICON hIconSm;
-};
+} WNDCLASSEXA;
 
-struct CREATESTRUCTA
+typedef struct CREATESTRUCTA
 {
     LPVOID lpCreateParams;
     HINSTANCE hInstance;
@@ -270,15 +272,15 @@ struct CREATESTRUCTA
     LPCSTR lpszName;
     LPCSTR lpszClass;
     DWORD dwExStyle;
-};
+} CREATESTRUCTA;
 
-struct CBT_CREATEWNDA
+typedef struct CBT_CREATEWNDA
 {
     CREATESTRUCTA* lpcs;
     HWND hwndInsertAfter;
-};
+} CBT_CREATEWNDA;
 
-struct PAINTSTRUCT
+typedef struct PAINTSTRUCT
 {
     HDC hdc;
     BOOL fErase;
@@ -286,10 +288,10 @@ struct PAINTSTRUCT
     BOOL fRestore;
     BOOL fIncUpdate;
     BYTE rgbReserved[32];
-};
-using LPPAINTSTRUCT = PAINTSTRUCT*;
+} PAINTSTRUCT;
+typedef PAINTSTRUCT* LPPAINTSTRUCT;
 
-struct WINDOWPOS
+typedef struct WINDOWPOS
 {
     HWND hwnd;
     HWND hwndInsertAfter;
@@ -298,28 +300,28 @@ struct WINDOWPOS
     int cx;
     int cy;
     UINT flags;
-};
+} WINDOWPOS;
 
-struct NCCALCSIZE_PARAMS
+typedef struct NCCALCSIZE_PARAMS
 {
     RECT rgrc[3];
     WINDOWPOS* lppos;
-};
+} NCCALCSIZE_PARAMS;
 
-struct STYLESTRUCT
+typedef struct STYLESTRUCT
 {
     DWORD styleOld;
     DWORD styleNew;
-};
+} STYLESTRUCT;
 
-struct NMHDR
+typedef struct NMHDR
 {
     HWND hwndFrom;
     UINT_PTR idFrom;
     UINT code;
-};
+} NMHDR;
 
-struct DRAWITEMSTRUCT
+typedef struct DRAWITEMSTRUCT
 {
     UINT CtlType;
     UINT CtlID;
@@ -330,10 +332,10 @@ struct DRAWITEMSTRUCT
     HDC hDC;
     RECT rcItem;
     ULONG_PTR itemData;
-};
-using LPDRAWITEMSTRUCT = DRAWITEMSTRUCT*;
+} DRAWITEMSTRUCT;
+typedef DRAWITEMSTRUCT* LPDRAWITEMSTRUCT;
 
-struct MEASUREITEMSTRUCT
+typedef struct MEASUREITEMSTRUCT
 {
     UINT CtlType;
     UINT CtlID;
@@ -341,8 +343,8 @@ struct MEASUREITEMSTRUCT
     UINT itemWidth;
     UINT itemHeight;
     ULONG_PTR itemData;
-};
-using LPMEASUREITEMSTRUCT = MEASUREITEMSTRUCT*;
+} MEASUREITEMSTRUCT;
+typedef MEASUREITEMSTRUCT* LPMEASUREITEMSTRUCT;
 
 #define ODT_MENU 1
 #define ODT_LISTBOX 2
@@ -356,30 +358,30 @@ using LPMEASUREITEMSTRUCT = MEASUREITEMSTRUCT*;
 #define ODS_NOACCEL 0x0100
 #define ODS_NOFOCUSRECT 0x0200
 
-struct TRACKMOUSEEVENT
+typedef struct TRACKMOUSEEVENT
 {
     DWORD cbSize;
     DWORD dwFlags;
     HWND hwndTrack;
     DWORD dwHoverTime;
-};
-using LPTRACKMOUSEEVENT = TRACKMOUSEEVENT*;
+} TRACKMOUSEEVENT;
+typedef TRACKMOUSEEVENT* LPTRACKMOUSEEVENT;
 
 #define TME_LEAVE 0x00000002
 
 // ---- window classes and creation ----
 
-#define CW_USEDEFAULT (static_cast<int>(0x80000000))
-#define HWND_TOP (static_cast<HWND>(nullptr))
+#define CW_USEDEFAULT (ZEB17_CAST(int, 0x80000000))
+#define HWND_TOP (ZEB17_CAST(HWND, NULL))
 
-WINUSERAPI ATOM RegisterClassA(const WNDCLASSA* windowClass);
-WINUSERAPI ATOM RegisterClassExA(const WNDCLASSEXA* windowClass);
-WINUSERAPI BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
-WINUSERAPI int GetClassNameA(HWND window, LPSTR buffer, int size);
+WINUSERAPI ATOM RegisterClassA(const WNDCLASSA* windowClass) ZEB17_NAME(RegisterClassA);
+WINUSERAPI ATOM RegisterClassExA(const WNDCLASSEXA* windowClass) ZEB17_NAME(RegisterClassExA);
+WINUSERAPI BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance) ZEB17_NAME(UnregisterClassA);
+WINUSERAPI int GetClassNameA(HWND window, LPSTR buffer, int size) ZEB17_NAME(GetClassNameA);
 WINUSERAPI HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
                                 int width, int height, HWND parent, HMENU menuOrId, HINSTANCE instance,
-                                LPVOID param);
-WINUSERAPI BOOL DestroyWindow(HWND window);
+                                LPVOID param) ZEB17_NAME(CreateWindowExA);
+WINUSERAPI BOOL DestroyWindow(HWND window) ZEB17_NAME(DestroyWindow);
 #define RegisterClass RegisterClassA
 #define RegisterClassEx RegisterClassExA
 #define UnregisterClass UnregisterClassA
@@ -387,14 +389,17 @@ WINUSERAPI BOOL DestroyWindow(HWND window);
 #define CreateWindowEx CreateWindowExA
 
 #define GWL_STYLE (-16)
+#define GWL_EXSTYLE (-20)
 #define GWLP_WNDPROC (-4)
 
-// The index is one of these two.
-WINUSERAPI LONG_PTR GetWindowLongPtrA(HWND window, int index);
-WINUSERAPI LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
-WINUSERAPI LONG GetWindowLongA(HWND window, int index);
-WINUSERAPI LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+// The index is one of these three; the extended style is not to be set.
+WINUSERAPI LONG_PTR GetWindowLongPtrA(HWND window, int index) ZEB17_NAME(GetWindowLongPtrA);
+WINUSERAPI LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value) ZEB17_NAME(SetWindowLongPtrA);
+WINUSERAPI LONG GetWindowLongA(HWND window, int index) ZEB17_NAME(GetWindowLongA);
+WINUSERAPI LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    ZEB17_NAME(DefWindowProcA);
+WINUSERAPI LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    ZEB17_NAME(CallWindowProcA);
 #define GetWindowLongPtr GetWindowLongPtrA
 #define SetWindowLongPtr SetWindowLongPtrA
 #define GetWindowLong GetWindowLongA
@@ -407,19 +412,20 @@ WINUSERAPI LRESULT CallWindowProcA(WNDPROC proc, HWND window, UINT message, WPAR
 #define GW_CHILD 5
 #define GA_ROOT 2
 
-using WNDENUMPROC = BOOL (*)(HWND, LPARAM);
+typedef BOOL (*WNDENUMPROC)(HWND, LPARAM);
 
-WINUSERAPI BOOL IsWindow(HWND window);
-WINUSERAPI BOOL IsChild(HWND parent, HWND window);
-WINUSERAPI HWND GetParent(HWND window);
+WINUSERAPI BOOL IsWindow(HWND window) ZEB17_NAME(IsWindow);
+WINUSERAPI BOOL IsChild(HWND parent, HWND window) ZEB17_NAME(IsChild);
+WINUSERAPI HWND GetParent(HWND window) ZEB17_NAME(GetParent);
 // Only GA_ROOT is served: the top-level window above.
-WINUSERAPI HWND GetAncestor(HWND window, UINT flags);
-WINUSERAPI HWND GetWindow(HWND window, UINT command);
-WINUSERAPI HWND GetDlgItem(HWND parent, int id);
-WINUSERAPI int GetDlgCtrlID(HWND window);
-WINUSERAPI BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC proc, LPARAM lParam);
-WINUSERAPI DWORD GetWindowThreadProcessId(HWND window, LPDWORD process);
-WINUSERAPI HWND ChildWindowFromPoint(HWND parent, POINT point);
+WINUSERAPI HWND GetAncestor(HWND window, UINT flags) ZEB17_NAME(GetAncestor);
+WINUSERAPI HWND GetWindow(HWND window, UINT command) ZEB17_NAME(GetWindow);
+WINUSERAPI HWND GetDlgItem(HWND parent, int id) ZEB17_NAME(GetDlgItem);
+WINUSERAPI int GetDlgCtrlID(HWND window) ZEB17_NAME(GetDlgCtrlID);
+WINUSERAPI BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC proc, LPARAM lParam)
+    ZEB17_NAME(EnumThreadWindows);
+WINUSERAPI DWORD GetWindowThreadProcessId(HWND window, LPDWORD process) ZEB17_NAME(GetWindowThreadProcessId);
+WINUSERAPI HWND ChildWindowFromPoint(HWND parent, POINT point) ZEB17_NAME(ChildWindowFromPoint);
 
 // ---- size, position, visibility, state ----
 
@@ -435,20 +441,22 @@ WINUSERAPI HWND ChildWindowFromPoint(HWND parent, POINT point);
 #define SWP_SHOWWINDOW 0x0040
 #define SWP_HIDEWINDOW 0x0080
 
-WINUSERAPI BOOL ShowWindow(HWND window, int command);
-WINUSERAPI BOOL IsWindowVisible(HWND window);
-WINUSERAPI BOOL EnableWindow(HWND window, BOOL enable);
-WINUSERAPI BOOL IsWindowEnabled(HWND window);
-WINUSERAPI BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
-WINUSERAPI BOOL GetClientRect(HWND window, LPRECT rect);
-WINUSERAPI BOOL GetWindowRect(HWND window, LPRECT rect);
-WINUSERAPI BOOL ScreenToClient(HWND window, LPPOINT point);
-WINUSERAPI BOOL ClientToScreen(HWND window, LPPOINT point);
-WINUSERAPI int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
-WINUSERAPI BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle);
-WINUSERAPI BOOL SetWindowTextA(HWND window, LPCSTR text);
-WINUSERAPI int GetWindowTextA(HWND window, LPSTR buffer, int size);
-WINUSERAPI int GetWindowTextLengthA(HWND window);
+WINUSERAPI BOOL ShowWindow(HWND window, int command) ZEB17_NAME(ShowWindow);
+WINUSERAPI BOOL IsWindowVisible(HWND window) ZEB17_NAME(IsWindowVisible);
+WINUSERAPI BOOL EnableWindow(HWND window, BOOL enable) ZEB17_NAME(EnableWindow);
+WINUSERAPI BOOL IsWindowEnabled(HWND window) ZEB17_NAME(IsWindowEnabled);
+WINUSERAPI BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint)
+    ZEB17_NAME(MoveWindow);
+WINUSERAPI BOOL GetClientRect(HWND window, LPRECT rect) ZEB17_NAME(GetClientRect);
+WINUSERAPI BOOL GetWindowRect(HWND window, LPRECT rect) ZEB17_NAME(GetWindowRect);
+WINUSERAPI BOOL ScreenToClient(HWND window, LPPOINT point) ZEB17_NAME(ScreenToClient);
+WINUSERAPI BOOL ClientToScreen(HWND window, LPPOINT point) ZEB17_NAME(ClientToScreen);
+WINUSERAPI int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) ZEB17_NAME(MapWindowPoints);
+WINUSERAPI BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle)
+    ZEB17_NAME(AdjustWindowRectEx);
+WINUSERAPI BOOL SetWindowTextA(HWND window, LPCSTR text) ZEB17_NAME(SetWindowTextA);
+WINUSERAPI int GetWindowTextA(HWND window, LPSTR buffer, int size) ZEB17_NAME(GetWindowTextA);
+WINUSERAPI int GetWindowTextLengthA(HWND window) ZEB17_NAME(GetWindowTextLengthA);
 #define SetWindowText SetWindowTextA
 #define GetWindowText GetWindowTextA
 #define GetWindowTextLength GetWindowTextLengthA
@@ -458,20 +466,23 @@ WINUSERAPI int GetWindowTextLengthA(HWND window);
 #define PM_NOREMOVE 0
 #define PM_REMOVE 1
 
-WINUSERAPI UINT RegisterWindowMessageA(LPCSTR name);
-WINUSERAPI LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI void PostQuitMessage(int exitCode);
-WINUSERAPI BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last);
-WINUSERAPI BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
-WINUSERAPI BOOL TranslateMessage(const MSG* message);
-WINUSERAPI LRESULT DispatchMessageA(const MSG* message);
+WINUSERAPI UINT RegisterWindowMessageA(LPCSTR name) ZEB17_NAME(RegisterWindowMessageA);
+WINUSERAPI LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    ZEB17_NAME(SendMessageA);
+WINUSERAPI BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+    ZEB17_NAME(PostMessageA);
+WINUSERAPI void PostQuitMessage(int exitCode) ZEB17_NAME(PostQuitMessage);
+WINUSERAPI BOOL GetMessageA(MSG* message, HWND window, UINT first, UINT last) ZEB17_NAME(GetMessageA);
+WINUSERAPI BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
+    ZEB17_NAME(PeekMessageA);
+WINUSERAPI BOOL TranslateMessage(const MSG* message) ZEB17_NAME(TranslateMessage);
+WINUSERAPI LRESULT DispatchMessageA(const MSG* message) ZEB17_NAME(DispatchMessageA);
 // Serves Tab, Enter, Escape and mnemonics of a dialog, or of any window with controls, and hands on all other
 // messages. Arrow keys reach the control.
-WINUSERAPI BOOL IsDialogMessageA(HWND dialog, MSG* message);
-WINUSERAPI HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
-WINUSERAPI DWORD GetMessagePos();
-WINUSERAPI LONG GetMessageTime();
+WINUSERAPI BOOL IsDialogMessageA(HWND dialog, MSG* message) ZEB17_NAME(IsDialogMessageA);
+WINUSERAPI HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) ZEB17_NAME(GetNextDlgTabItem);
+WINUSERAPI DWORD GetMessagePos(void) ZEB17_NAME(GetMessagePos);
+WINUSERAPI LONG GetMessageTime(void) ZEB17_NAME(GetMessageTime);
 #define RegisterWindowMessage RegisterWindowMessageA
 #define SendMessage SendMessageA
 #define PostMessage PostMessageA
@@ -480,8 +491,9 @@ WINUSERAPI LONG GetMessageTime();
 #define DispatchMessage DispatchMessageA
 #define IsDialogMessage IsDialogMessageA
 
-WINUSERAPI UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC proc);
-WINUSERAPI BOOL KillTimer(HWND window, UINT_PTR id);
+WINUSERAPI UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC proc)
+    ZEB17_NAME(SetTimer);
+WINUSERAPI BOOL KillTimer(HWND window, UINT_PTR id) ZEB17_NAME(KillTimer);
 
 // ---- hooks ----
 
@@ -494,45 +506,47 @@ WINUSERAPI BOOL KillTimer(HWND window, UINT_PTR id);
 #define MSGF_DIALOGBOX 0
 #define MSGF_USER 4096
 
-WINUSERAPI HHOOK SetWindowsHookExA(int type, HOOKPROC proc, HINSTANCE module, DWORD thread);
-WINUSERAPI BOOL UnhookWindowsHookEx(HHOOK hook);
-WINUSERAPI LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wParam, LPARAM lParam);
+WINUSERAPI HHOOK SetWindowsHookExA(int type, HOOKPROC proc, HINSTANCE module, DWORD thread)
+    ZEB17_NAME(SetWindowsHookExA);
+WINUSERAPI BOOL UnhookWindowsHookEx(HHOOK hook) ZEB17_NAME(UnhookWindowsHookEx);
+WINUSERAPI LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wParam, LPARAM lParam)
+    ZEB17_NAME(CallNextHookEx);
 // While a Qt application runs its own loop, each message is offered here with MSGF_USER before it is
 // translated and dispatched.
-WINUSERAPI BOOL CallMsgFilterA(MSG* message, int code);
+WINUSERAPI BOOL CallMsgFilterA(MSG* message, int code) ZEB17_NAME(CallMsgFilterA);
 #define SetWindowsHookEx SetWindowsHookExA
 #define CallMsgFilter CallMsgFilterA
 
 // ---- focus, activation, mouse, keyboard ----
 
-WINUSERAPI HWND SetFocus(HWND window);
-WINUSERAPI HWND GetFocus();
-WINUSERAPI HWND GetActiveWindow();
+WINUSERAPI HWND SetFocus(HWND window) ZEB17_NAME(SetFocus);
+WINUSERAPI HWND GetFocus(void) ZEB17_NAME(GetFocus);
+WINUSERAPI HWND GetActiveWindow(void) ZEB17_NAME(GetActiveWindow);
 // Once the pointer has left the window, it gets WM_MOUSELEAVE. Only TME_LEAVE is served.
-WINUSERAPI BOOL TrackMouseEvent(LPTRACKMOUSEEVENT request);
+WINUSERAPI BOOL TrackMouseEvent(LPTRACKMOUSEEVENT request) ZEB17_NAME(TrackMouseEvent);
 
 #define IDC_ARROW MAKEINTRESOURCEA(32512)
 #define IDC_IBEAM MAKEINTRESOURCEA(32513)
 
-WINUSERAPI HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
-WINUSERAPI HCURSOR SetCursor(HCURSOR cursor);
-WINUSERAPI BOOL SetCursorPos(int x, int y);
+WINUSERAPI HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) ZEB17_NAME(LoadCursorA);
+WINUSERAPI HCURSOR SetCursor(HCURSOR cursor) ZEB17_NAME(SetCursor);
+WINUSERAPI BOOL SetCursorPos(int x, int y) ZEB17_NAME(SetCursorPos);
 #define LoadCursor LoadCursorA
 
-WINUSERAPI SHORT GetKeyState(int key);
-WINUSERAPI BOOL SetKeyboardState(BYTE* state);
+WINUSERAPI SHORT GetKeyState(int key) ZEB17_NAME(GetKeyState);
+WINUSERAPI BOOL SetKeyboardState(BYTE* state) ZEB17_NAME(SetKeyboardState);
 
 // ---- painting ----
 
-WINUSERAPI HDC GetDC(HWND window);
-WINUSERAPI int ReleaseDC(HWND window, HDC dc);
-WINUSERAPI HDC BeginPaint(HWND window, LPPAINTSTRUCT paint);
-WINUSERAPI BOOL EndPaint(HWND window, const PAINTSTRUCT* paint);
-WINUSERAPI BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase);
-WINUSERAPI BOOL ValidateRect(HWND window, const RECT* rect);
-WINUSERAPI BOOL UpdateWindow(HWND window);
+WINUSERAPI HDC GetDC(HWND window) ZEB17_NAME(GetDC);
+WINUSERAPI int ReleaseDC(HWND window, HDC dc) ZEB17_NAME(ReleaseDC);
+WINUSERAPI HDC BeginPaint(HWND window, LPPAINTSTRUCT paint) ZEB17_NAME(BeginPaint);
+WINUSERAPI BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) ZEB17_NAME(EndPaint);
+WINUSERAPI BOOL InvalidateRect(HWND window, const RECT* rect, BOOL erase) ZEB17_NAME(InvalidateRect);
+WINUSERAPI BOOL ValidateRect(HWND window, const RECT* rect) ZEB17_NAME(ValidateRect);
+WINUSERAPI BOOL UpdateWindow(HWND window) ZEB17_NAME(UpdateWindow);
 // False, and an empty rectangle, when nothing waits to be painted. Erases nothing, whatever `erase` says.
-WINUSERAPI BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
+WINUSERAPI BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase) ZEB17_NAME(GetUpdateRect);
 
 // ---- controls ----
 

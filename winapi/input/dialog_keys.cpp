@@ -134,7 +134,8 @@ bool act(HWND dialog, MSG& message)
     if (message.message != WM_KEYDOWN && message.message != WM_CHAR)
         return false;
     const LRESULT code = dialogCode(message.hwnd, &message);
-    if (code & DLGC_WANTALLKEYS)
+    const bool isTab = message.message == WM_KEYDOWN && message.wParam == VK_TAB;
+    if (code & (isTab ? DLGC_WANTALLKEYS | DLGC_WANTTAB : DLGC_WANTALLKEYS))
         return false;
     if (message.message == WM_KEYDOWN)
         return actOnKey(dialog, message);

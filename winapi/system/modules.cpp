@@ -2,6 +2,7 @@
 // loaded, as on Windows; "name.dll" is libname.so.
 #include "errors.h"
 
+#include <dlfcn.h>
 #include <link.h>
 
 #include <cctype>
@@ -62,12 +63,53 @@ HMODULE GetModuleHandleA(LPCSTR name)
     return search.found;
 }
 
+namespace {
+
+struct SearchByAddress
+{
+    ULONG_PTR address;
+    HMODULE found = nullptr;
+    std::string path; // empty: the program
+};
+
+int testAddress(dl_phdr_info* module, std::size_t, void* data)
+{
+    auto& search = *static_cast<SearchByAddress*>(data);
+    for (int i = 0; i < module->dlpi_phnum; ++i) {
+        const auto& part = module->dlpi_phdr[i];
+        const ULONG_PTR begin = module->dlpi_addr + part.p_vaddr;
+        if (part.p_type != PT_LOAD || search.address < begin || search.address - begin >= part.p_memsz)
+            continue;
+        search.found = loadAddress(*module);
+        search.path = module->dlpi_name;
+        return 1;
+    }
+    return 0;
+}
+
+// The program itself stays anyway.
+HMODULE pinModuleAt(LPCSTR address)
+{
+    SearchByAddress search{reinterpret_cast<ULONG_PTR>(address), nullptr, {}};
+    dl_iterate_phdr(testAddress, &search);
+    const bool pinned =
+        search.path.empty() || dlopen(search.path.c_str(), RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+    if (!search.found || !pinned)
+        fail(ERROR_MOD_NOT_FOUND);
+    return pinned ? search.found : nullptr;
+}
+
+}
+
 BOOL GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module)
 {
     *module = nullptr;
+    if (flags == (GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS))
+        *module = pinModuleAt(name);
     // Nothing is counted here, so a caller who wants the module counted is refused.
-    if (flags != GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT)
+    else if (flags != GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT)
         return fail(ERROR_INVALID_PARAMETER);
-    *module = GetModuleHandleA(name);
+    else
+        *module = GetModuleHandleA(name);
     return *module != nullptr;
 }

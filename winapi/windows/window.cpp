@@ -1,11 +1,13 @@
 // The windows there are, by their handles.
 #include "window.h"
 
+#include "errors.h"
 #include "handle_table.h"
 #include "host_widget.h"
 #include "window_surface.h"
 #include "window_tree.h"
 
+#include <atomic>
 #include <mutex>
 
 namespace winapi {
@@ -41,6 +43,9 @@ std::mutex& tableMutex()
     return mutex;
 }
 
+// The thread that made the first window, and makes all others.
+std::atomic<DWORD> threadOfWindows = 0;
+
 struct Ended
 {
     int calls = 0; // that are under way
@@ -66,6 +71,8 @@ WindowPtr findWindow(HWND handle)
 WindowPtr addWindow()
 {
     auto window = std::make_shared<Window>();
+    if (threadOfWindows == 0)
+        threadOfWindows = GetCurrentThreadId();
     const std::lock_guard lock(tableMutex());
     window->handle = windows().add(window);
     return window;
@@ -121,14 +128,14 @@ using namespace winapi;
 
 BOOL IsWindow(HWND window)
 {
-    return window && findWindow(window) != nullptr;
+    return window && (existsForAnyThread(window) || fail(ERROR_INVALID_WINDOW_HANDLE));
 }
 
 DWORD GetWindowThreadProcessId(HWND window, LPDWORD process)
 {
-    if (!findWindow(window))
+    if (!IsWindow(window))
         return 0;
     if (process)
         *process = GetCurrentProcessId();
-    return GetCurrentThreadId();
+    return threadOfWindows;
 }

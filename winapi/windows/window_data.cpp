@@ -31,6 +31,8 @@ LONG_PTR GetWindowLongPtrA(HWND handle, int index)
     switch (index) {
     case GWL_STYLE:
         return static_cast<LONG>(window->style);
+    case GWL_EXSTYLE:
+        return static_cast<LONG>(window->exStyle);
     case GWLP_WNDPROC:
         return reinterpret_cast<LONG_PTR>(window->procedure);
     default:
