@@ -42,5 +42,6 @@ struct ThreadState
     LPCSTR lpszCreatingClass = nullptr;
     HHOOK hMessageFilter = nullptr;
     const MSG* pOffered = nullptr; // the message that is being offered to windows
+    MSG lastOffered{};             // the last one that was
     SharedToolTip toolTip;         // behind the maps, since its end needs them
 };

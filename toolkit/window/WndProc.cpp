@@ -37,14 +37,6 @@ bool IsOfClass(HWND hWnd, LPCSTR lpszClassName)
 
 }
 
-bool MessageOffer::IsAtHand(const MSG& message)
-{
-    const MSG* const pOffered = ThreadState::Current().pOffered;
-    return pOffered && pOffered->hwnd == message.hwnd && pOffered->message == message.message &&
-           pOffered->wParam == message.wParam && pOffered->lParam == message.lParam &&
-           pOffered->time == message.time;
-}
-
 LRESULT CALLBACK CWnd::Procedure(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     CWnd* pWnd = FromHandlePermanent(hWnd);

@@ -43,15 +43,37 @@ public:
         : m_pBefore(std::exchange(ThreadState::Current().pOffered, &message))
     {
     }
-    ~MessageOffer() { ThreadState::Current().pOffered = m_pBefore; }
+    ~MessageOffer()
+    {
+        ThreadState& state = ThreadState::Current();
+        state.lastOffered = *state.pOffered;
+        state.pOffered = m_pBefore;
+    }
     MessageOffer(const MessageOffer&) = delete;
     MessageOffer& operator=(const MessageOffer&) = delete;
 
     // Whether this message is already being offered. A window that is offered a message may pass it to
     // IsDialogMessage, whose filter would offer it a second time.
-    static bool IsAtHand(const MSG& message);
+    static bool IsAtHand(const MSG& message)
+    {
+        const MSG* const pOffered = ThreadState::Current().pOffered;
+        return pOffered && IsSame(*pOffered, message);
+    }
+
+    // Whether the message is the last one that was offered; says so once for each offer. A window that gets a
+    // message learns by it whether a loop has offered the message before.
+    static bool WasMade(const MSG& message)
+    {
+        return IsSame(std::exchange(ThreadState::Current().lastOffered, {}), message);
+    }
 
 private:
+    static bool IsSame(const MSG& one, const MSG& other)
+    {
+        return one.hwnd == other.hwnd && one.message == other.message && one.wParam == other.wParam &&
+               one.lParam == other.lParam && one.time == other.time;
+    }
+
     const MSG* m_pBefore;
 };
 

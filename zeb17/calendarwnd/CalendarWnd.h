@@ -126,7 +126,15 @@ protected:
     // a Tab that moved the focus.
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    // Creation.
+    // The class style of the window: without CS_DBLCLKS a double click arrives as two presses.
+    static constexpr UINT kClassStyle = CS_VREDRAW | CS_HREDRAW | CS_CLASSDC | CS_SAVEBITS;
+
+    // Creation. The first two are what Create does before there is a window, and then to the window: for a
+    // derived class whose window others make. BeginCreation throws what CalendarSettings::Load throws;
+    // SetUpWindow is false if a button object is missing, or if the host deleted the control meanwhile.
+    void BeginCreation(bool bUseSpecialDates, CWnd* pParent, bool bAllowNoDate, bool bShowOptions,
+                       bool bAllowWebPage, bool bAllowDateRanges);
+    bool SetUpWindow(int cx, int cy);
     void StandOnToday(); // back to the state of a new object: today, nothing selected, laid out or painted
     std::array<CZEBButton*, 8> GetButtons() const; // in the order of their creation
     bool HasAllButtons() const;
@@ -168,7 +176,7 @@ protected:
     void NotifyIfDate() const; // CALWND_ONSELCHANGE, if a date is selected
     void NotifyParentWnd(UINT nMessage, bool bFlag) const;
     void NotifyParentWndDateRange(const DateTime& dtEnd) const;
-    void SendToParent(UINT nMessage, LPARAM lParam) const;
+    virtual void SendToParent(UINT nMessage, LPARAM lParam) const; // every message takes this way
 
     // Input.
     bool HandleKey(WPARAM nKey); // true if the key must go no further

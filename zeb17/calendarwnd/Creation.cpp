@@ -16,9 +16,6 @@ namespace {
 
 constexpr DWORD kChildStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
-// Without CS_DBLCLKS a double click arrives as two presses.
-constexpr UINT kClassStyle = CS_VREDRAW | CS_HREDRAW | CS_CLASSDC | CS_SAVEBITS;
-
 struct ButtonFont
 {
     long nHeight; // 0: the button keeps its own font
@@ -77,6 +74,19 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
         return false;
     }
 
+    BeginCreation(bUseSpecialDates, pParent, bAllowNoDate, bShowOptions, bAllowWebPage, bAllowDateRanges);
+    const LPCTSTR pClass = AfxRegisterWndClass(kClassStyle, nullptr,
+                                               static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)), nullptr);
+    if (!CreateEx(0, pClass, "", kChildStyle, rect, pParent, nID, nullptr)) {
+        LogLine(kNoWindowMark);
+        return false;
+    }
+    return SetUpWindow(rect.Width(), rect.Height());
+}
+
+void CCalendarWnd::BeginCreation(bool bUseSpecialDates, CWnd* pParent, bool bAllowNoDate, bool bShowOptions,
+                                 bool bAllowWebPage, bool bAllowDateRanges)
+{
     StandOnToday(); // nothing is left of an earlier window
     m_bUseSpecialDates = bUseSpecialDates;
     m_bAllowNoDate = bAllowNoDate;
@@ -87,13 +97,10 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
     m_pParentWatch = pParent ? std::make_unique<CWndWatch>(*pParent) : nullptr;
     if (bUseSpecialDates)
         m_settings.Load();
+}
 
-    const LPCTSTR pClass = AfxRegisterWndClass(kClassStyle, nullptr,
-                                               static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)), nullptr);
-    if (!CreateEx(0, pClass, "", kChildStyle, rect, pParent, nID, nullptr)) {
-        LogLine(kNoWindowMark);
-        return false;
-    }
+bool CCalendarWnd::SetUpWindow(int cx, int cy)
+{
     if (!HasAllButtons()) {
         LogLine("{D110EEBF-8B1E-462E-9AE9-2E70E72F2BDC}");
         return false;
@@ -106,7 +113,7 @@ bool CCalendarWnd::Create(UINT nID, const CRect& rect, bool bUseSpecialDates, CW
                 CreateToolTip();
         },
         [&] { CreateButtons(); }, [&] { CreateGridFont(); }, [&] { ApplyBkgShading(); },
-        [&] { OnSize(0, rect.Width(), rect.Height()); }, [&] { RefreshMonth(); },
+        [&] { OnSize(0, cx, cy); }, [&] { RefreshMonth(); },
         [&] { NotifyParentWnd(CALWND_ONNODATE, false); });
 }
 
