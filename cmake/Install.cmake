@@ -13,6 +13,8 @@ set(config_dir "${CMAKE_INSTALL_LIBDIR}/cmake/zeb17")
 install(DIRECTORY zeb17/datemodel/ zeb17/settings/ zeb17/calendarwnd/ cmake/export/
     DESTINATION "${include_dir}" COMPONENT development FILES_MATCHING PATTERN "*.h"
     REGEX "/(CalendarTexts|DateTexts|LogLine|MonthBlock|SeenPieces)\\.h$" EXCLUDE)
+install(FILES bindings/c/zeb17.h DESTINATION "${include_dir}" COMPONENT development)
+install(FILES bindings/python/zeb17.py DESTINATION "${CMAKE_INSTALL_DATADIR}/zeb17" COMPONENT development)
 target_include_directories(zeb17 PUBLIC "$<INSTALL_INTERFACE:${include_dir}>")
 set(ZEB17_PC_CFLAGS "-I\${includedir}/zeb17")
 foreach(folder IN LISTS folders)
@@ -47,6 +49,8 @@ install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
 
 if(WIN32)
     install(FILES ${ZEB17_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+    install(FILES bindings/c/zeb17.def "${PROJECT_BINARY_DIR}/bindings/c/zeb17.lib"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
     if(TARGET zeb17_demo)
         install(TARGETS zeb17_demo RUNTIME COMPONENT demo)
     endif()
