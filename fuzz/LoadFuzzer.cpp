@@ -1,7 +1,8 @@
 // Loads any bytes as the data file of one version (PATH_VERSION), and uses what was loaded.
+#include "FuzzDirectory.h"
+
 #include <CalendarSettings.h>
 #include <ZebrikUtils.h>
-#include <mutexes.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -25,26 +26,6 @@ fs::path PathOf(unsigned short nVersion)
 {
     return ZebrikUtils::GetCalendarSettingsPath(nVersion).GetString();
 }
-
-// In memory where there is such a place, since a save waits for the disk. Removed when the process ends.
-class Directory
-{
-public:
-    Directory()
-    {
-        const fs::path memory("/dev/shm");
-        m_path = (fs::is_directory(memory) ? memory : fs::temp_directory_path()) /
-                 ("zeb17-fuzz-" + std::to_string(GetCurrentProcessId()));
-        fs::create_directories(m_path);
-        ZebrikUtils::SetDataDirectory(m_path.string().c_str());
-        winapi::setMutexHome(m_path.string());
-        CalendarSettings::EnableToDoList();
-    }
-    ~Directory() { fs::remove_all(m_path); }
-
-private:
-    fs::path m_path;
-};
 
 // The only failures that a damaged file may end in.
 bool Load(CalendarSettings& settings)
@@ -88,7 +69,7 @@ void Use(CalendarSettings& settings)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
 {
-    static const Directory directory;
+    static const FuzzDirectory directory;
     fs::remove(PathOf(4));
     std::ofstream(PathOf(PATH_VERSION), std::ios::binary)
         .write(reinterpret_cast<const char*>(pData), static_cast<std::streamsize>(nSize));

@@ -72,5 +72,5 @@ int main(int argc, char** argv)
     layout.addWidget(QWidgetFromWindow(host), 1);
     window.resize(400, 340);
     window.show();
-    return application.exec();
+    return QApplication::exec();
 }

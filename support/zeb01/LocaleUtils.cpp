@@ -2,7 +2,7 @@
 // that does not take all years.
 #include "LocaleUtils.h"
 
-#include <WideText.h>
+#include "DatePattern.h"
 
 #include <algorithm>
 #include <string>
@@ -48,53 +48,6 @@ WideText GetMonthInfo(int nMonth, bool bShort, bool bBesideDay)
     return strName.empty() ? GetInfo(nType) : strName;
 }
 
-// A piece of a date pattern: a run of one pattern letter, or text that stands for itself.
-struct PatternPiece
-{
-    WCHAR letter; // 0: text
-    std::size_t nCount;
-    WideText strText;
-};
-
-constexpr bool IsPatternLetter(WCHAR ch)
-{
-    return ch == 'd' || ch == 'M' || ch == 'y';
-}
-
-void AddText(std::vector<PatternPiece>& vPieces, WideTextView strText)
-{
-    vPieces.push_back({0, 0, WideText(strText)});
-}
-
-// Takes the quoted text at the beginning off the pattern, and gives it without quotes. A doubled quote stands
-// for one quote.
-WideTextView TakeQuoted(WideTextView& strPattern)
-{
-    const std::size_t nEnd = std::min(strPattern.find('\'', 1), strPattern.size());
-    const WideTextView strText = nEnd == 1 ? strPattern.substr(0, 1) : strPattern.substr(1, nEnd - 1);
-    strPattern.remove_prefix(std::min(nEnd + 1, strPattern.size()));
-    return strText;
-}
-
-std::vector<PatternPiece> SplitPattern(WideTextView strPattern)
-{
-    std::vector<PatternPiece> vPieces;
-    while (!strPattern.empty()) {
-        const WCHAR ch = strPattern.front();
-        if (ch == '\'') {
-            AddText(vPieces, TakeQuoted(strPattern));
-            continue;
-        }
-        const std::size_t nRun = std::min(strPattern.find_first_not_of(ch), strPattern.size());
-        if (IsPatternLetter(ch))
-            vPieces.push_back({ch, nRun, {}});
-        else
-            AddText(vPieces, strPattern.substr(0, nRun));
-        strPattern.remove_prefix(nRun);
-    }
-    return vPieces;
-}
-
 WideText ToDigits(int nNumber, std::size_t nMinDigits)
 {
     std::string strDigits = std::to_string(nNumber);
@@ -111,9 +64,9 @@ struct DateParts
     int nDayOfWeek;
 };
 
-// One or two letters of a kind stand for a number, more of them for a name; a year of three letters or more
-// is written with its century.
-WideText FormatPiece(const PatternPiece& piece, const DateParts& date, bool bBesideDay)
+// One or two letters of a kind stand for a number, more of them for a name. The year is written with its
+// century also where the pattern leaves that out, so that 1924 and 2024 differ.
+WideText FormatPiece(const DatePattern::Piece& piece, const DateParts& date, bool bBesideDay)
 {
     switch (piece.letter) {
     case 'd':
@@ -123,13 +76,13 @@ WideText FormatPiece(const PatternPiece& piece, const DateParts& date, bool bBes
         return piece.nCount < 3 ? ToDigits(date.nMonth, piece.nCount)
                                 : GetMonthInfo(date.nMonth, piece.nCount == 3, bBesideDay);
     case 'y':
-        return piece.nCount < 3 ? ToDigits(date.nYear % 100, piece.nCount) : ToDigits(date.nYear, 4);
+        return ToDigits(date.nYear, 1);
     default:
         return piece.strText;
     }
 }
 
-bool IsDayNumber(const PatternPiece& piece)
+bool IsDayNumber(const DatePattern::Piece& piece)
 {
     return piece.letter == 'd' && piece.nCount < 3;
 }
@@ -155,12 +108,14 @@ CString LocaleUtils::GetMonthName(int nMonth, bool bShort)
 
 CString LocaleUtils::FormatDate(int nYear, int nMonth, int nDay, int nDayOfWeek, bool bShort)
 {
-    const auto vPieces = SplitPattern(GetInfo(bShort ? LOCALE_SSHORTDATE : LOCALE_SLONGDATE));
+    const auto vPieces = DatePattern::Split(GetInfo(bShort ? LOCALE_SSHORTDATE : LOCALE_SLONGDATE));
     const bool bBesideDay = std::any_of(vPieces.begin(), vPieces.end(), IsDayNumber);
     WideText strDate;
-    for (const PatternPiece& piece : vPieces)
+    for (const DatePattern::Piece& piece : vPieces)
         strDate += FormatPiece(piece, {nYear, nMonth, nDay, nDayOfWeek}, bBesideDay);
-    return FromWide(strDate);
+    CString strText = FromWide(strDate);
+    strText.TrimLeft(); // what stood behind an era
+    return strText;
 }
 
 bool LocaleUtils::SetLocale(const CString& strName)

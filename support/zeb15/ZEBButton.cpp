@@ -215,6 +215,17 @@ void CZEBButton::DrawCaption(CDC& dc, CRect rect, UINT nItemState)
     dc.SetBkMode(nOldMode);
 }
 
+bool CZEBButton::IsMarkedBy(WPARAM nKey) const
+{
+    if (nKey < 'A' || nKey > 'Z' || !::IsWindowVisible(m_hWnd) || !IsWindowEnabled())
+        return false;
+    CString strCaption;
+    GetWindowText(strCaption);
+    strCaption.Replace("&&", ""); // an ampersand that is shown
+    const int nMark = strCaption.Find('&');
+    return nMark >= 0 && strCaption.Mid(nMark + 1, 1).CompareNoCase(CString(static_cast<char>(nKey))) == 0;
+}
+
 void CZEBButton::RedrawIfCreated()
 {
     if (m_hWnd)

@@ -37,6 +37,10 @@ public:
     // Copies the shading and repaints. Before the first call the button is flat, in colours of the system.
     void SetShadeProps(const ShadeProps& props);
 
+    // Whether this key, a letter's virtual key, presses the button together with Alt: its caption marks the
+    // letter, and the button can be pressed.
+    bool IsMarkedBy(WPARAM nKey) const;
+
     // The button shows nothing but the icon, which is centred on the whole face.
     bool m_bIconOnly = false;
 

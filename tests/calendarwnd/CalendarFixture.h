@@ -51,6 +51,7 @@ public:
 
     using CCalendarWnd::FilterOptionsMenu;
     using CCalendarWnd::GetCellRect;
+    using CCalendarWnd::MoveSelectionRect;
     using CCalendarWnd::OnClearButton;
     using CCalendarWnd::OnOptionsButton;
     using CCalendarWnd::OnSize;

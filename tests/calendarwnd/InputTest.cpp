@@ -177,3 +177,26 @@ TEST_F(InputTest, CursorIsTheArrow)
     EXPECT_EQ(calendar->SendMessage(WM_SETCURSOR), 1);
     EXPECT_EQ(::SetCursor(nullptr), ::LoadCursorA(nullptr, IDC_ARROW));
 }
+
+// Wherever the focus is in the control; a button that is not offered has no letter.
+TEST_F(InputTest, UnderlinedLettersPressTheirButtons)
+{
+    const auto press = [this](WPARAM nKey) {
+        MSG msg{::GetFocus(), WM_SYSKEYDOWN, nKey, 1 << 29, 0, {}};
+        return CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg) != FALSE;
+    };
+    Start();
+    Show(Date(2026, 7, 8), true);
+    calendar->m_pNextYearButton->SetFocus();
+    EXPECT_TRUE(press('T'));
+    EXPECT_THAT(TakeHeard(), ElementsAre("SELCHANGE 1"));
+    EXPECT_TRUE(press('C'));
+    EXPECT_THAT(TakeHeard(), ElementsAre("NODATE 0"));
+    EXPECT_FALSE(press('X'));
+    EXPECT_FALSE(press(VK_F10));
+    Renew();
+    Start({.bAllowNoDate = false, .bShowOptions = false});
+    EXPECT_FALSE(press('C'));
+    EXPECT_FALSE(press('O'));
+    EXPECT_THAT(TakeHeard(), IsEmpty());
+}

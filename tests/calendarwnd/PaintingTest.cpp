@@ -125,6 +125,7 @@ TEST_F(PaintingTest, FrameFollowsTheFocus)
     ExpectFrame(rc, kBlack);
     calendar->m_pTodayButton->SetFocus();
     EXPECT_EQ(GetInvalid(), CRect(rc.left - 2, rc.top, rc.right, rc.bottom));
+    ExpectFrame(rc, kGray); // at once
     Repaint();
     ExpectFrame(rc, kGray);
     calendar->SetFocus(); // at once
@@ -137,6 +138,31 @@ TEST_F(PaintingTest, FrameFollowsTheFocus)
     calendar->m_pTodayButton->SetFocus();
     Repaint();
     calendar->SetFocus();
+    ExpectFrame(rc, kWhite);
+}
+
+// The control has the focus and shows today, with no date selected: no paint will come.
+TEST_F(PaintingTest, TodayFramesADayThatIsShownAlready)
+{
+    Show(Date(2026, 7, 15), false);
+    const CRect rc = calendar->m_rcSelection;
+    COLORREF crHeard = kWhite;
+    parent.m_onHeard = [&] { crHeard = Picture(*calendar).GetPixel(rc.right, rc.top); };
+    Key('T');
+    ExpectFrame(rc, kBlack);
+    EXPECT_EQ(crHeard, kBlack) << "before the parent hears";
+    EXPECT_EQ(GetInvalid(), CRect());
+}
+
+// A frame leaves no ghost of today's colour in a month that shows today's place, but not today.
+TEST_F(PaintingTest, AFrameLeavesWhiteWhereTodayWasInAnotherMonth)
+{
+    Show(Date(2026, 7, 15), true);
+    const int nCell = calendar->m_nTodayCell;
+    Show(Date(2027, 4, 15), true);
+    const CRect rc = calendar->GetRectOfCell(nCell);
+    calendar->MoveSelectionRect(rc);
+    calendar->MoveSelectionRect(calendar->GetRectOfCell(nCell + 1));
     ExpectFrame(rc, kWhite);
 }
 

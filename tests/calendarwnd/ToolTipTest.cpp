@@ -89,6 +89,10 @@ TEST_F(ToolTipTest, TipsComeAndGo)
     EXPECT_TRUE(Shows("")) << "a press";
     PointAt(*calendar->m_pPrevMonthButton);
     EXPECT_TRUE(Shows("Show August, 2026"));
+    ::PostMessageA(calendar->m_hWnd, WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    EXPECT_TRUE(Shows("")) << "a turn of the wheel, which changes what the tip says";
+    PointAt(*calendar->m_pNextMonthButton);
+    EXPECT_TRUE(Shows("Show September, 2026"));
     PointAt(*calendar->m_pTodayButton);
     EXPECT_TRUE(Shows("")) << "no step button";
 }

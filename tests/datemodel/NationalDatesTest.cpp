@@ -75,13 +75,13 @@ const Observance kMovingDates[] = {
     {{213}, "Einde van de zomertijd", {{24, 9, 1995}, {29, 9, 1996}}},
     {{214}, "Einde zomertijd (3)", {{29, 10, 2000}}},
     {{214}, "Einde zomertijd (29)", {{25, 10, 2026}}},
-    {{215}, "Eerste Paasdag", {{4, 4, 2021}, {31, 3, 2024}}},
-    {{216}, "Tweede Paasdag", {{5, 4, 2021}, {1, 4, 2024}}},
+    {{215}, "Eerste paasdag", {{4, 4, 2021}, {31, 3, 2024}}},
+    {{216}, "Tweede paasdag", {{5, 4, 2021}, {1, 4, 2024}}},
     {{217}, "Aswoensdag", {{6, 3, 2019}, {5, 3, 2025}}},
     {{218}, "Palmpaasdag", {{28, 3, 2021}, {13, 4, 2025}}},
     {{219}, "Hemelvaartweek", {{14, 5, 2021}, {30, 5, 2025}}},
     {{220}, "Pinksteren", {{23, 5, 2021}, {8, 6, 2025}}},
-    {{221}, "Tweede Pinksterdag", {{24, 5, 2021}, {9, 6, 2025}}},
+    {{221}, "Tweede pinksterdag", {{24, 5, 2021}, {9, 6, 2025}}},
 };
 
 // The dates on which an entry would fall without its limit of years. Elections are held in even years; Ash

@@ -75,7 +75,7 @@ TEST_F(Settings, JoinTheGroupsAndTakeTheColourOfTheLast)
         {26, 12, 2026, "Boxing Day", 2},
         {12, 10, 2026, "Thanksgiving\r\nColumbus Day", 1},
         {23, 5, 2021, "Pinksteren", 3},
-        {4, 4, 2021, "Eerste Paasdag\r\nEaster", 1},
+        {4, 4, 2021, "Eerste paasdag\r\nEaster", 1},
         {3, 1, 2026, "", 7},
     };
     for (const auto& date : dates) {
@@ -104,7 +104,7 @@ TEST_F(Settings, KeepTheColourOverAHiddenCalculatedDate)
     m_settings.SetAllShow(GroupUS, false);
     m_settings.SetAllShow(GroupCanada, false);
     DWORD dwColor = 7;
-    EXPECT_EQ(m_settings.GetDateDesc(4, 4, 2021, dwColor), "Eerste Paasdag");
+    EXPECT_EQ(m_settings.GetDateDesc(4, 4, 2021, dwColor), "Eerste paasdag");
     EXPECT_EQ(dwColor, 3U);
 }
 

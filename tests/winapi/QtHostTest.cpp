@@ -240,6 +240,30 @@ TEST_F(QtHost, SmallWheelStepsMakeOneNotch)
     EXPECT_EQ(recorder.served(), "t.WHEEL");
 }
 
+// A touchpad tells its way down and to the side in events of their own.
+TEST_F(QtHost, WheelStepsAddUpUntilTheyTurnOrEnd)
+{
+    QWidget* const widget = QWidgetFromWindow(recorder.createTop("t"));
+    recorder.only({"WHEEL"});
+    const auto roll = [&](QPoint angle, Qt::ScrollPhase phase = Qt::ScrollUpdate) {
+        const QPointF inside(30, 30);
+        QWheelEvent step(inside, widget->mapToGlobal(inside), {}, angle, Qt::NoButton, Qt::NoModifier, phase,
+                         false);
+        QCoreApplication::sendEvent(widget, &step);
+        return recorder.served();
+    };
+    roll({0, -80}, Qt::ScrollBegin);
+    roll({7, 0});
+    EXPECT_EQ(roll({0, -40}), "t.WHEEL") << "a step to the side loses nothing";
+    roll({0, -80});
+    roll({0, 60});
+    EXPECT_EQ(roll({0, 50}), "") << "a turn begins anew";
+    EXPECT_EQ(roll({0, 10}), "t.WHEEL");
+    roll({0, 80});
+    roll({0, 0}, Qt::ScrollEnd);
+    EXPECT_EQ(roll({0, 80}), "") << "so does another gesture";
+}
+
 TEST_F(QtHost, AModifierLetGoElsewhereIsNoticed)
 {
     QWidget* const widget = QWidgetFromWindow(recorder.createTop("t"));
@@ -247,6 +271,33 @@ TEST_F(QtHost, AModifierLetGoElsewhereIsNoticed)
     EXPECT_TRUE(GetKeyState(VK_SHIFT) & 0x8000);
     sendKey(widget, Qt::Key_A, "a");
     EXPECT_FALSE(GetKeyState(VK_SHIFT) & 0x8000);
+}
+
+// On a layout that is not Latin a key is known by its place. Text that belongs to no key comes alone.
+TEST_F(QtHost, KeysOfEveryLayoutAreHeard)
+{
+    QWidget* const widget = QWidgetFromWindow(recorder.createTop("t"));
+    const struct
+    {
+        int key;
+        quint32 scanCode; // as X11 counts them
+        const char* text;
+        const char* heard;
+    } cases[] = {
+        {0x415, 28, "\u0435", "t.KEYDOWN(84) t.CHAR(208) t.CHAR(181)"}, // Russian, at the place of T
+        {0x3A4, 28, "\u03C4", "t.KEYDOWN(84) t.CHAR(207) t.CHAR(132)"}, // Greek
+        {Qt::Key_Exclam, 10, "!", "t.KEYDOWN(49) t.CHAR(33)"},          // Shift and 1
+        {Qt::Key_T, 45, "t", "t.KEYDOWN(84) t.CHAR(116)"},              // Latin, by its letter
+        {Qt::Key_Odiaeresis, 47, "\u00F6",
+         "t.KEYDOWN(231) t.CHAR(195) t.CHAR(182)"}, // German, no key of Windows
+        {Qt::Key_Dead_Acute, 48, "", ""},
+    };
+    recorder.only({"KEYDOWN", "CHAR"});
+    for (const auto& [key, scanCode, text, heard] : cases) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, scanCode, 0, 0, QString::fromUtf8(text));
+        QCoreApplication::sendEvent(widget, &event);
+        EXPECT_EQ(recorder.served(), heard);
+    }
 }
 
 std::string textOf(HWND window)

@@ -1,6 +1,9 @@
 // The tool tip that the toolkit shows for the children of a window.
 #include "ThreadState.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 void DeleteSharedTool(SharedToolTip& shared)
@@ -69,7 +72,9 @@ INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFOA* pTI) const
 void CWnd::FilterToolTipMessage(MSG* pMsg)
 {
     SharedToolTip& shared = ThreadState::Current().toolTip;
-    if (pMsg->message == WM_KEYDOWN || pMsg->message == WM_SYSKEYDOWN) {
+    // What these do may change what the tip tells.
+    constexpr UINT kTipEnders[] = {WM_KEYDOWN, WM_SYSKEYDOWN, WM_MOUSEWHEEL, WM_MOUSEHWHEEL};
+    if (std::ranges::find(kTipEnders, pMsg->message) != std::end(kTipEnders)) {
         if (shared.control.m_hWnd)
             shared.control.Pop();
         return;

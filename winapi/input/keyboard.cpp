@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace winapi {
 
@@ -57,6 +58,30 @@ const KeyPair* findPair(const KeyPair (&pairs)[Count], int qt)
     return found == std::end(pairs) ? nullptr : found;
 }
 
+WORD scanCodeOf(const QKeyEvent& event)
+{
+    // X11 and Wayland count the codes of a PC keyboard from 8.
+    constexpr quint32 kBase = 8;
+    const quint32 code = event.nativeScanCode();
+    return static_cast<WORD>(code > kBase ? (code - kBase) & 0xff : 0);
+}
+
+// The letter or digit at the place of a key on an American keyboard, which is its virtual key on layouts that
+// are not Latin; 0 for other places.
+int keyAtPlace(WORD scanCode)
+{
+    struct Row
+    {
+        WORD firstScanCode;
+        std::string_view keys;
+    };
+    constexpr Row kRows[] = {{2, "1234567890"}, {16, "QWERTYUIOP"}, {30, "ASDFGHJKL"}, {44, "ZXCVBNM"}};
+    for (const Row& row : kRows)
+        if (scanCode >= row.firstScanCode && scanCode - row.firstScanCode < static_cast<int>(row.keys.size()))
+            return row.keys[static_cast<std::size_t>(scanCode - row.firstScanCode)];
+    return 0;
+}
+
 // The virtual key of an event; 0 when it has none.
 KeyPair translated(const QKeyEvent& event)
 {
@@ -72,7 +97,7 @@ KeyPair translated(const QKeyEvent& event)
         return *found;
     const KeyPair* const found = findPair(kKeyPairs, qt);
     if (!found)
-        return {qt, 0};
+        return {qt, event.text().isEmpty() ? 0 : keyAtPlace(scanCodeOf(event))};
     return {qt, found->key, found->extended && (!pad || found->key == VK_RETURN)};
 }
 
@@ -84,14 +109,6 @@ std::array<BYTE, 256>& states()
 {
     static std::array<BYTE, 256> keys{};
     return keys;
-}
-
-WORD scanCodeOf(const QKeyEvent& event)
-{
-    // X11 and Wayland count the codes of a PC keyboard from 8.
-    constexpr quint32 kBase = 8;
-    const quint32 code = event.nativeScanCode();
-    return static_cast<WORD>(code > kBase ? (code - kBase) & 0xff : 0);
 }
 
 }
@@ -121,11 +138,25 @@ void noteModifiers(Qt::KeyboardModifiers modifiers)
         noteKey(key, modifiers.testFlag(modifier));
 }
 
+namespace {
+
+// Whether the event types text: no control character, and no command of Control or Alt.
+bool isTyped(const QKeyEvent& event)
+{
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return !command && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+}
+
 void postKey(const QKeyEvent& event, bool up)
 {
     const KeyPair key = translated(event);
-    if (!key.key)
+    if (!key.key) {
+        if (!up && isTyped(event))
+            postText(event.text());
         return;
+    }
     const bool alt = event.modifiers().testFlag(Qt::AltModifier) || key.key == VK_MENU;
     postInput(KeyInput{key.key, up, alt, scanCodeOf(event), key.extended, up ? QString() : event.text(),
                        event.modifiers()});

@@ -272,6 +272,8 @@ void postButton(const QMouseEvent& event, bool down, bool doubleClick)
 // Gives whole notches only, however small the steps of the device are, and keeps the rest.
 int takeNotches(int& rest, int delta)
 {
+    if (delta == 0) // a move in the other direction
+        return 0;
     if ((rest < 0) != (delta < 0))
         rest = 0;
     rest += delta;
@@ -305,6 +307,8 @@ void HostWidget::mouseMoveEvent(QMouseEvent* event)
 void HostWidget::wheelEvent(QWheelEvent* event)
 {
     const QPoint screen = event->globalPosition().toPoint();
+    if (event->phase() == Qt::ScrollBegin || event->phase() == Qt::ScrollEnd)
+        m_wheelRest = {};
     if (const int up = takeNotches(m_wheelRest.ry(), event->angleDelta().y()))
         postInput(MouseInput{WM_MOUSEWHEEL, screen, up, false, event->modifiers()});
     if (const int right = takeNotches(m_wheelRest.rx(), -event->angleDelta().x()))

@@ -123,7 +123,7 @@ protected:
     };
 
     // Handles the keys of the control and its buttons, and passes the messages on to the tool tips. TRUE for
-    // a Tab that moved the focus.
+    // a Tab that moved the focus, and for an Alt key that pressed a button.
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
     // The class style of the window: without CS_DBLCLKS a double click arrives as two presses.
@@ -179,7 +179,8 @@ protected:
     virtual void SendToParent(UINT nMessage, LPARAM lParam) const; // every message takes this way
 
     // Input.
-    bool HandleKey(WPARAM nKey); // true if the key must go no further
+    bool HandleKey(WPARAM nKey);         // true if the key must go no further
+    bool PressMarkedButton(WPARAM nKey); // true if a caption marks the letter
     bool MoveFocus(bool bBackward);
     void MoveSelection(void (DateTime::*pStep)(int), int nCount);
     void SelectInMonth(void (DateTime::*pSet)());

@@ -70,11 +70,14 @@ void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
         [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); });
 }
 
-// Sees the keys before the control and its buttons see them. Only a Tab that moved the focus goes no further.
+// Sees the keys before the control and its buttons see them. Only a Tab that moved the focus, and a letter
+// that pressed a button, go no further.
 BOOL CCalendarWnd::PreTranslateMessage(MSG* pMsg)
 {
     const CWndWatch watch(*this);
     if (pMsg && pMsg->message == WM_KEYDOWN && HandleKey(pMsg->wParam))
+        return TRUE;
+    if (pMsg && pMsg->message == WM_SYSKEYDOWN && PressMarkedButton(pMsg->wParam))
         return TRUE;
     if (!watch.IsAlive()) // the key goes on to the window that has the focus
         return FALSE;
@@ -118,6 +121,18 @@ bool CCalendarWnd::HandleKey(WPARAM nKey)
         break;
     default:
         break;
+    }
+    return false;
+}
+
+// By the key and not by its character, so that the letters work on every layout.
+bool CCalendarWnd::PressMarkedButton(WPARAM nKey)
+{
+    for (CZEBButton* const pButton : GetButtons()) {
+        if (!IsLive(pButton) || !pButton->IsMarkedBy(nKey))
+            continue;
+        pButton->SendMessage(BM_CLICK);
+        return true;
     }
     return false;
 }
@@ -240,8 +255,13 @@ void CCalendarWnd::RedrawSelection()
 
 void CCalendarWnd::OnKillFocus(CWnd*)
 {
-    Default();
-    InvalidateSelection();
+    WhileAlive(
+        *this, [&] { Default(); },
+        [&] {
+            InvalidateSelection();
+            if (m_bHaveDate && !m_rcSelection.IsRectEmpty())
+                MoveSelectionRect(m_rcSelection); // in the colour of a frame without the focus
+        });
 }
 
 void CCalendarWnd::InvalidateSelection()

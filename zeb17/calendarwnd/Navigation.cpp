@@ -128,13 +128,18 @@ void CCalendarWnd::NotifyAndRefresh()
 void CCalendarWnd::OnTodayButton()
 {
     m_bHaveDate = true;
+    const bool bShown = m_date.IsToday();
     WhileAlive(
         *this,
         [&] {
-            if (!m_date.IsToday())
+            if (!bShown)
                 ShowDate(Now());
         },
         [&] { AnnounceSelection(); }, [&] { SetFocus(); },
+        [&] {
+            if (bShown && !m_rcSelection.IsRectEmpty()) // no paint will come
+                MoveSelectionRect(CRect());
+        },
         [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); });
 }
 

@@ -180,7 +180,8 @@ void CCalendarWnd::MoveSelectionRect(const CRect& rcNew)
     try {
         CClientDC dc(this);
         if (!m_rcSelection.IsRectEmpty()) {
-            const bool bToday = m_rcSelection.PtInRect(m_rcToday.CenterPoint());
+            // The highlight keeps its last place while a month without today is shown.
+            const bool bToday = m_nTodayCell != -1 && m_rcSelection.PtInRect(m_rcToday.CenterPoint());
             DrawSelectionFrame(&dc, bToday ? kTodayColor : kGridColor);
         }
         if (!rcNew.IsRectEmpty())

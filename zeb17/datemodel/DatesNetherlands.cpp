@@ -17,17 +17,17 @@ const std::vector<int> kHerfst = StoredText<6>("Herfst");
 const std::vector<int> kSinterklaas = StoredText<11>("Sinterklaas");
 const std::vector<int> kKoninkrijksdag = StoredText<14>("Koninkrijksdag");
 const std::vector<int> kKerstmis = StoredText<8>("Kerstmis");
-const std::vector<int> kOudEnNieuwfeest = StoredText<17>("Oud-en-nieuwfeest");
+const std::vector<int> kOudejaarsavond = StoredText<17>("De oudejaarsavond");
 const std::vector<int> kBeginZomertijd = StoredText<15>("Begin zomertijd");
 const std::vector<int> kEindeVanDeZomertijd = StoredText<22>("Einde van de zomertijd");
 const std::vector<int> kEindeZomertijd = StoredText<15>("Einde zomertijd");
-const std::vector<int> kEerstePaasdag = StoredText<14>("Eerste Paasdag");
-const std::vector<int> kTweedePaasdag = StoredText<14>("Tweede Paasdag");
+const std::vector<int> kEerstePaasdag = StoredText<14>("Eerste paasdag");
+const std::vector<int> kTweedePaasdag = StoredText<14>("Tweede paasdag");
 const std::vector<int> kAswoensdag = StoredText<10>("Aswoensdag");
 const std::vector<int> kPalmpaasdag = StoredText<11>("Palmpaasdag");
 const std::vector<int> kHemelvaartweek = StoredText<14>("Hemelvaartweek");
 const std::vector<int> kPinksteren = StoredText<10>("Pinksteren");
-const std::vector<int> kTweedePinksterdag = StoredText<18>("Tweede Pinksterdag");
+const std::vector<int> kTweedePinksterdag = StoredText<18>("Tweede pinksterdag");
 
 using namespace DateTexts;
 using enum DateEntry::OCCURRENCE;
@@ -39,7 +39,7 @@ constexpr DateTable::FixedDate kFixedDates[] = {
     {200, 1, 1, &kNieuwjaar},       {201, 3, 21, &kLente},         {202, 4, 30, &kKoninginnedag},
     {203, 5, 4, &kDodenherdenking}, {204, 5, 5, &kBevrijdingsdag}, {205, 6, 21, &kZomer},
     {206, 9, 21, &kHerfst},         {207, 12, 5, &kSinterklaas},   {208, 12, 15, &kKoninkrijksdag},
-    {209, 12, 21, &kWinter},        {210, 12, 25, &kKerstmis},     {211, 12, 31, &kOudEnNieuwfeest},
+    {209, 12, 21, &kWinter},        {210, 12, 25, &kKerstmis},     {211, 12, 31, &kOudejaarsavond},
 };
 
 constexpr DateTable::WeekdayDate kWeekdayDates[] = {

@@ -1,9 +1,11 @@
 // Week, names and dates of several locales, as both platforms know them.
+#include <DatePattern.h>
 #include <LocaleUtils.h>
-
 #include <WideText.h>
 
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace {
 
@@ -43,15 +45,40 @@ TEST_F(Locale, WritesDates)
 {
     ASSERT_TRUE(LocaleUtils::SetLocale("en-US"));
     EXPECT_EQ(LocaleUtils::FormatDate(2007, 5, 4, 6, false), "Friday, May 4, 2007");
-    const CString shortForm = LocaleUtils::FormatDate(2007, 5, 4, 6, true);
-    EXPECT_TRUE(shortForm == "5/4/2007" || shortForm == "5/4/07") << shortForm.GetString();
+    EXPECT_EQ(LocaleUtils::FormatDate(1924, 5, 4, 1, true), "5/4/1924") << "with the century";
+    for (const char* locale : {"es-ES", "pt-BR"}) {
+        ASSERT_TRUE(LocaleUtils::SetLocale(locale));
+        const CString text = "14 de " + LocaleUtils::GetMonthName(12, false) + " de 2007";
+        EXPECT_NE(LocaleUtils::FormatDate(2007, 12, 14, 6, false).Find(text), -1) << "quoted text";
+        EXPECT_EQ(LocaleUtils::FormatDate(2007, 12, 14, 6, true), "14/12/2007");
+    }
 
     ASSERT_TRUE(LocaleUtils::SetLocale("nl-NL"));
     EXPECT_EQ(LocaleUtils::FormatDate(2007, 5, 4, 6, false).Find("vrijdag 4 mei 2007"), 0);
 
     // The system's own call does not take so early a year.
     ASSERT_TRUE(LocaleUtils::SetLocale("en-US"));
-    EXPECT_EQ(LocaleUtils::FormatDate(33, 4, 3, 6, false), "Friday, April 3, 0033");
+    EXPECT_EQ(LocaleUtils::FormatDate(33, 4, 3, 6, false), "Friday, April 3, 33");
+}
+
+// The text that a pattern writes between its numbers and names, which stand as a digit for how many letters.
+std::string Outline(const char* pattern)
+{
+    std::string outline;
+    for (const DatePattern::Piece& piece : DatePattern::Split(ToWide(pattern)))
+        outline += piece.letter ? char(piece.letter) + std::to_string(piece.nCount)
+                                : FromWide(piece.strText).GetString();
+    return outline;
+}
+
+TEST(DatePatterns, AreSplitIntoLettersAndText)
+{
+    EXPECT_EQ(Outline("dddd, d 'de' MMMM 'de' yyyy"), "d4, d1 de M4 de y4");
+    EXPECT_EQ(Outline("d/M/yy"), "d1/M1/y2");
+    EXPECT_EQ(Outline("d''MMM"), "d1'M3");
+    EXPECT_EQ(Outline("d MMMM yyyy g"), "d1 M4 y4") << "without the era";
+    EXPECT_EQ(Outline("gg y-MM-d"), " y1-M2-d1");
+    EXPECT_EQ(Outline("d MMM 'unended"), "d1 M3 unended");
 }
 
 TEST_F(Locale, PutsTheMonthInTheCaseThatTheDayAsksFor)
