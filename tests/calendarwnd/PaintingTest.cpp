@@ -1,6 +1,15 @@
 // The pixels of the grid, of the days and of the selection frame.
 #include "CalendarFixture.h"
 
+#include <BkgStyle.h>
+#include <GraphicsUtils.h>
+#include <LocaleUtils.h>
+#include <ZEBButton.h>
+#include <gdiplus.h>
+
+#include <array>
+#include <optional>
+
 namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -9,6 +18,94 @@ constexpr COLORREF kHeader = RGB(0xF9, 0xF4, 0x9B);
 constexpr COLORREF kToday = RGB(0xFF, 0xD9, 0xB3);
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kGray = RGB(0x80, 0x80, 0x80);
+constexpr COLORREF kOther = RGB(0xC4, 0xC4, 0xC4); // the days of the months around
+
+// What is to stand in a cell.
+struct Mark
+{
+    CString strText;
+    COLORREF crText = kBlack;
+    COLORREF crPaper = kWhite;
+    std::optional<COLORREF> crDot = {};
+};
+
+// The month as it is to be seen, drawn by the calls that the control is to use, and no other code of its.
+class ExpectedMonth : public Canvas
+{
+public:
+    explicit ExpectedMonth(HWND hWnd) : Canvas(500, 400, hWnd)
+    {
+        LOGFONTA lf{};
+        GraphicsUtils::SetDefaultFont(lf, "", 15, -1, false, false, false);
+        m_font.Attach(::CreateFontIndirectA(&lf));
+        m_hOldFont = ::SelectObject(m_hDC, m_font.m_hObject);
+    }
+    ~ExpectedMonth() override { ::SelectObject(m_hDC, m_hOldFont); }
+
+    void DrawName(const CRect& rc, const char* szName) { DrawText({szName, kBlack, kHeader}, rc, DT_CENTER); }
+
+    void DrawDay(const CRect& rc, const Mark& mark)
+    {
+        FillSolidRect(rc, mark.crPaper);
+        if (mark.crDot)
+            DrawDot(rc.right - 12, rc.top + 2, *mark.crDot);
+        DrawText(mark, rc, DT_LEFT);
+    }
+
+private:
+    void DrawText(const Mark& mark, CRect rc, UINT nAlign)
+    {
+        if (!mark.crDot)
+            FillSolidRect(rc, mark.crPaper);
+        SetBkColor(mark.crPaper);
+        SetTextColor(mark.crText);
+        CDC::DrawText(mark.strText, rc, nAlign | DT_VCENTER | DT_SINGLELINE);
+    }
+
+    void DrawDot(int x, int y, COLORREF cr)
+    {
+        using namespace Gdiplus;
+        GpGraphics* pGraphics = nullptr;
+        GpSolidFill* pBrush = nullptr;
+        DllExports::GdipCreateFromHDC(m_hDC, &pGraphics);
+        const ARGB argb = 0xFF000000U | static_cast<ARGB>(GetRValue(cr)) << 16 |
+                          static_cast<ARGB>(GetGValue(cr)) << 8 | GetBValue(cr);
+        DllExports::GdipCreateSolidFill(argb, &pBrush);
+        DllExports::GdipSetSmoothingMode(pGraphics, SmoothingModeAntiAlias);
+        DllExports::GdipFillEllipseI(pGraphics, pBrush, x, y, 10, 10);
+        DllExports::GdipDeleteBrush(pBrush);
+        DllExports::GdipDeleteGraphics(pGraphics);
+    }
+
+    CFont m_font;
+    HGDIOBJ m_hOldFont;
+};
+
+// The 42 days of a block: those seen of the month before, all of the month, and as many of the next as there
+// is room for.
+std::vector<Mark> DaysOf(int nFirstSeen, int nLastBefore, int nLast)
+{
+    std::vector<Mark> marks;
+    const auto add = [&marks](int nFirst, int nEnd, COLORREF cr) {
+        for (int nDay = nFirst; nDay <= nEnd && marks.size() < 42; ++nDay)
+            marks.push_back({std::to_string(nDay).c_str(), cr});
+    };
+    if (nFirstSeen > 0)
+        add(nFirstSeen, nLastBefore, kOther);
+    add(1, nLast, kBlack);
+    add(1, 14, kOther);
+    return marks;
+}
+
+// The first place at which two pictures differ inside a rectangle.
+std::optional<CPoint> FindDifference(const Canvas& one, const Canvas& other, const CRect& rc)
+{
+    for (LONG y = rc.top; y < rc.bottom; ++y)
+        for (LONG x = rc.left; x < rc.right; ++x)
+            if (one.GetPixel(x, y) != other.GetPixel(x, y))
+                return CPoint(x, y);
+    return {};
+}
 
 }
 
@@ -70,21 +167,52 @@ TEST_F(PaintingTest, LinesAndBands)
         EXPECT_EQ(picture.GetPixel(x, grid.bottom - 2), kLine);
         EXPECT_EQ(picture.GetPixel(x + 1, grid.bottom - 2), kWhite);
     }
-    for (int c = 1; c <= 7; ++c)
-        EXPECT_LT(picture.GetDarkest(calendar->GetCellRect({1, c})), 100) << "name of day " << c;
 }
 
-TEST_F(PaintingTest, NumbersOfThreeMonths)
+// Each name and number in its place, font and colours, pixel by pixel. The months are written down from a
+// wall calendar: the days of the last month that are seen, and of the month itself.
+TEST_F(PaintingTest, NamesNumbersAndDots)
 {
-    Show(Date(2026, 5, 20), false);
-    const Picture picture(*calendar);
-    const auto shape = MonthBlock::ShapeOf(calendar->m_date);
-    for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
-        const int nDarkest = picture.GetDarkest(calendar->GetRectOfCell(nCell));
-        if (MonthBlock::CellAt(*shape, nCell).month == MonthBlock::Month::Shown)
-            EXPECT_LT(nDarkest, 100) << nCell;
-        else
-            EXPECT_TRUE(nDarkest >= 0xC4 && nDarkest < 0xF0) << nCell << ": " << nDarkest;
+    constexpr COLORREF kDot = RGB(10, 120, 220);
+    const struct
+    {
+        const char* szLocale;
+        DateTime date;
+        std::array<const char*, 7> names;
+        int nFirstSeen, nLastBefore, nLast;
+        int nTodayCell; // of 15 July 2026
+        int nDotCell;   // of 4 July 2026
+    } months[] = {
+        {"en-US", Date(2026, 7, 20), {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"}, 28, 30, 31, 17, 6},
+        {"nl-NL", Date(2026, 7, 1), {"ma", "di", "wo", "do", "vr", "za", "zo"}, 29, 30, 31, 16, 5},
+        {"nl-NL", Date(2026, 6, 8), {"ma", "di", "wo", "do", "vr", "za", "zo"}, 0, 0, 30, -1, 33},
+        {"en-US", Date(2026, 3, 31), {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"}, 0, 0, 31, -1, -1},
+    };
+    for (const auto& month : months) {
+        LocaleUtils::SetLocale(month.szLocale);
+        Renew();
+        Start();
+        HideNationalDays();
+        AddSpecialDay("Dot", 4, 7, kDot);
+        Show(month.date, false);
+
+        const Picture picture(*calendar);
+        ExpectedMonth expected(calendar->m_hWnd);
+        for (int c = 1; c <= 7; ++c) {
+            const CRect rc = calendar->GetCellRect({1, c});
+            expected.DrawName(rc, month.names[static_cast<std::size_t>(c - 1)]);
+            EXPECT_FALSE(FindDifference(picture, expected, rc)) << month.szLocale << ": name " << c;
+        }
+        std::vector<Mark> marks = DaysOf(month.nFirstSeen, month.nLastBefore, month.nLast);
+        if (month.nTodayCell >= 0)
+            marks[static_cast<std::size_t>(month.nTodayCell)].crPaper = kToday;
+        if (month.nDotCell >= 0)
+            marks[static_cast<std::size_t>(month.nDotCell)].crDot = kDot;
+        for (int nCell = 0; nCell < MonthBlock::kCells; ++nCell) {
+            const CRect rc = calendar->GetRectOfCell(nCell);
+            expected.DrawDay(rc, marks[static_cast<std::size_t>(nCell)]);
+            EXPECT_FALSE(FindDifference(picture, expected, rc)) << ToText(month.date) << ": cell " << nCell;
+        }
     }
     EXPECT_EQ(MonthBlock::ShapeOf(Date(1, 1, 1))->nPrevDays, 31) << "before the first of all days";
 }
@@ -166,7 +294,7 @@ TEST_F(PaintingTest, AFrameLeavesWhiteWhereTodayWasInAnotherMonth)
     ExpectFrame(rc, kWhite);
 }
 
-TEST_F(PaintingTest, DotsAndTips)
+TEST_F(PaintingTest, TipsOfTheCells)
 {
     AddSpecialDay("Before", 28, 6, RGB(200, 10, 20));
     AddSpecialDay("Salt & pepper", 4, 7, RGB(10, 120, 220));
@@ -182,21 +310,57 @@ TEST_F(PaintingTest, DotsAndTips)
         EXPECT_EQ(GetTip(3), "White");
         EXPECT_EQ(GetTip(4), "After");
     }
-    const Picture picture(*calendar);
-    const std::pair<int, COLORREF> dots[] = {
-        {0, RGB(200, 10, 20)}, {6, RGB(10, 120, 220)}, {22, kWhite}, {23, kWhite}, {41, RGB(200, 10, 20)}};
-    for (const auto& [nCell, cr] : dots) {
-        const CRect rc = calendar->GetRectOfCell(nCell);
-        const CPoint center(rc.right - 12 + 5, rc.top + 2 + 5);
-        for (const CPoint pt : {center, CPoint(center.x - 3, center.y), CPoint(center.x, center.y - 3)})
-            EXPECT_EQ(picture.GetPixel(pt.x, pt.y), cr) << nCell;
-        EXPECT_EQ(picture.GetPixel(rc.right - 12, rc.top + 2), kWhite) << "corner of " << nCell;
-        EXPECT_EQ(picture.GetPixel(center.x, rc.top), kWhite) << "above " << nCell;
-    }
-
     Show(Date(2026, 1, 9), true);
     EXPECT_EQ(CountTools(), 0);
     EXPECT_EQ(calendar->m_nNextToolId, 1u);
+}
+
+// The title and the step buttons look like buttons of their font and icon.
+TEST_F(PaintingTest, TitleAndStepButtons)
+{
+    Show(Date(2026, 5, 20), false);
+    const struct
+    {
+        CZEBButton* pButton;
+        ZEBIcon::ButtonIcon eIcon;
+    } buttons[] = {
+        {calendar->m_pMonthYearButton, ZEBIcon::IconNone},
+        {calendar->m_pPrevMonthButton, ZEBIcon::IconPreviousMonth},
+        {calendar->m_pNextMonthButton, ZEBIcon::IconNextMonth},
+        {calendar->m_pPrevYearButton, ZEBIcon::IconPreviousYear},
+        {calendar->m_pNextYearButton, ZEBIcon::IconNextYear},
+    };
+    ShadeProps* pShading = nullptr;
+    ASSERT_TRUE(BkgStyle::GetInstance()->Get(BkgStyle::UIPushButton, pShading));
+    for (const auto& [pButton, eIcon] : buttons) {
+        CString strText;
+        pButton->GetWindowText(strText);
+        CRect rc;
+        pButton->GetClientRect(&rc);
+        CZEBButton twin;
+        const CRect rcInView(CPoint(10, 300), rc.Size());
+        ASSERT_TRUE(twin.Create(strText, WS_CHILD | WS_VISIBLE, rcInView, &parent, 1));
+        twin.SetShadeProps(*pShading);
+        if (eIcon == ZEBIcon::IconNone) {
+            twin.SetFont("Arial", 16, FW_BOLD, 0, 0);
+            twin.SetRegularFontWhenDisabled(true, true);
+            twin.EnableWindow(FALSE);
+        } else {
+            twin.SetIcon(eIcon, BS_LEFT, BS_VCENTER, false);
+            twin.m_bIconOnly = true;
+        }
+        twin.UpdateWindow();
+        pButton->UpdateWindow();
+        EXPECT_FALSE(FindDifference(Picture(*pButton), Picture(twin), rc)) << pButton->GetDlgCtrlID();
+    }
+}
+
+TEST_F(PaintingTest, AnAreaToBeErasedTurnsWhite)
+{
+    Canvas canvas(50, 50, calendar->m_hWnd);
+    canvas.FillSolidRect(CRect(0, 0, 50, 50), kBlack);
+    calendar->SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.m_hDC), 0);
+    EXPECT_EQ(canvas.GetPixel(20, 20), kWhite);
 }
 
 TEST_F(PaintingTest, WithoutADateTheGridIsEmpty)
