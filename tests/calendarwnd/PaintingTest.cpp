@@ -338,7 +338,12 @@ TEST_F(PaintingTest, TitleAndStepButtons)
         CRect rc;
         pButton->GetClientRect(&rc);
         CZEBButton twin;
-        const CRect rcInView(CPoint(10, 300), rc.Size());
+        CRect rcOnScreen, rcParent;
+        ::GetWindowRect(pButton->m_hWnd, &rcOnScreen);
+        ::GetWindowRect(parent.m_hWnd, &rcParent);
+        // Below the control, at a place that a scaled screen rounds alike.
+        const CRect rcInView(CPoint(rcOnScreen.left - rcParent.left, rcOnScreen.top - rcParent.top + 260),
+                             rc.Size());
         ASSERT_TRUE(twin.Create(strText, WS_CHILD | WS_VISIBLE, rcInView, &parent, 1));
         twin.SetShadeProps(*pShading);
         if (eIcon == ZEBIcon::IconNone) {
