@@ -37,6 +37,7 @@ class ZEB17_EXPORT Zeb17CalendarWidget : public QWidget
     Q_PROPERTY(bool unsavedChanges READ hasUnsavedChanges NOTIFY unsavedChangesChanged)
 
 public:
+    // What the calendar offers.
     enum Option
     {
         SpecialDates = 0x01, // the user's data file is read, special days get a dot and a tool tip
@@ -187,6 +188,7 @@ Q_SIGNALS:
     void failed(const QString& error);
 
 protected:
+    // The widget's own work at these events of Qt's.
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

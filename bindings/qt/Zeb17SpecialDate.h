@@ -1,4 +1,5 @@
-// A special date in Qt's terms: the rule that says on which days it falls, and what the user sees of it.
+// A special date in Qt's terms: the rule that says on which days it falls, and what the user sees of it. For
+// C++17, as Qt itself.
 #pragma once
 
 #include <zeb17_export.h>
@@ -15,6 +16,7 @@
 // throws: a rule of numbers that make no date is not valid, and falls on no day.
 struct ZEB17_EXPORT Zeb17DateRule
 {
+    // What the rule counts from.
     enum Kind : int
     {
         NoRule,      // falls on no day
@@ -24,6 +26,7 @@ struct ZEB17_EXPORT Zeb17DateRule
         NearWeekday, // the `nearWeekday` before or after the `occurrence` of `weekday` in `month`
         WorkedOut    // by the calendar, such as from Easter; of national dates only
     };
+    // Which of a month's days of one weekday the rule picks.
     enum Occurrence : int
     {
         First = 1,
@@ -32,6 +35,7 @@ struct ZEB17_EXPORT Zeb17DateRule
         Fourth,
         Last = 7
     };
+    // Where the rule looks for a weekday.
     enum Side : int
     {
         Before,
@@ -78,18 +82,26 @@ struct ZEB17_EXPORT Zeb17DateRule
     // years of it, or of the year in which the rule begins to hold.
     QDate nextDate(QDate from) const;
 
-    bool operator==(const Zeb17DateRule&) const = default;
+    // Whether all members are the same, also those that play no part.
+    bool operator==(const Zeb17DateRule& other) const;
+    bool operator!=(const Zeb17DateRule& other) const { return !(*this == other); }
 };
 
 // One special date: what the user reads, its look and its rule. A value, for any thread.
 struct Zeb17SpecialDate
 {
-    QString text;
-    QColor color;      // of the dot; opaque. Invalid in a date to be added: the colour of its group
-    bool shown = true; // a date that is not shown keeps its place in the list and in the file
-    Zeb17DateRule rule;
+    QString text;       // one line
+    QColor color;       // of the dot; opaque. Invalid in a date to be added: the colour of its group
+    bool shown = true;  // a date that is not shown keeps its place in the list and in the file
+    Zeb17DateRule rule; // when it falls
 
-    bool operator==(const Zeb17SpecialDate&) const = default;
+    // Whether all members are the same.
+    bool operator==(const Zeb17SpecialDate& other) const
+    {
+        return text == other.text && color == other.color && shown == other.shown && rule == other.rule;
+    }
+    // Whether a member differs.
+    bool operator!=(const Zeb17SpecialDate& other) const { return !(*this == other); }
 };
 
 // What is special about one day. A value, for any thread.

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <tuple>
 
 using namespace conversions;
 
@@ -138,6 +139,12 @@ Rule ruleOf(const CalendarDateEntry& entry)
     return rule;
 }
 
+auto membersOf(const Rule& rule)
+{
+    return std::tie(rule.kind, rule.day, rule.month, rule.occurrence, rule.weekday, rule.nearWeekday,
+                    rule.side, rule.movesToWorkday, rule.years, rule.year);
+}
+
 bool isMatch(const DateEntry& entry, const DateTime& date)
 {
     int year = 0, month = 0, day = 0;
@@ -230,6 +237,11 @@ QDate Zeb17DateRule::nextDate(QDate from) const
         if (isMatch(entry, day))
             return toQDate(day);
     return {};
+}
+
+bool Zeb17DateRule::operator==(const Zeb17DateRule& other) const
+{
+    return membersOf(*this) == membersOf(other);
 }
 
 Zeb17SpecialDate date_entries::fromEntry(const CalendarDateEntry& entry)
