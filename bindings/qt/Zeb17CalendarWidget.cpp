@@ -156,6 +156,13 @@ void Zeb17CalendarWidget::setToday(QDate date)
         Clock::Release();
 }
 
+QDate Zeb17CalendarWidget::today()
+{
+    DateTime day;
+    day.SetToCurrentDate();
+    return toQDate(day);
+}
+
 bool Zeb17CalendarWidget::setCalendarLocale(const QString& name)
 {
     return LocaleUtils::SetLocale(toCString(name));

@@ -1,76 +1,84 @@
-// A Qt application that runs its own loop and shows the calendar among its own widgets.
-#include <CalendarWnd.h>
-#include <zeb17_qt.h>
+// The desk calendar for Linux: a month with special dates, the user's own dates and to-dos, on the calendar
+// widget. Its command line is described in command_line.h.
+#include "main_window.h"
+
+#include <command_line.h>
 
 #include <QApplication>
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QFile>
+#include <QLocale>
+#include <QSettings>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
-// The window in which the calendar lives: the layout of the application sizes it, and it fills it with the
-// calendar.
-class CalendarHost : public CWnd
+// Dates before 15 October 1582 are those of the Julian calendar.
+QDate toDate(const DeskDate& date)
 {
-public:
-    explicit CalendarHost(QLabel& label) : m_label(label) {}
-    ~CalendarHost() override { DestroyWindow(); }
+    if (date.year == 0)
+        return {};
+    const QDate gregorian(date.year, date.month, date.day);
+    return gregorian >= QDate(1582, 10, 15)
+               ? gregorian
+               : QCalendar(QCalendar::System::Julian).dateFromParts(date.year, date.month, date.day);
+}
 
-    bool CreateHost()
-    {
-        return CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_CLIPCHILDREN, CRect(0, 0, 360, 280),
-                        nullptr, 0) &&
-               m_calendar.Create(1, CRect(0, 0, 360, 280), false, this, true, true, false, false);
-    }
+// With a folder for all files the settings stand there too.
+std::unique_ptr<QSettings> openSettings(const QString& folder)
+{
+    if (folder.isEmpty())
+        return std::make_unique<QSettings>(QStringLiteral("zeb17"), QStringLiteral("desk-calendar"));
+    return std::make_unique<QSettings>(folder + QStringLiteral("/desk-calendar.ini"), QSettings::IniFormat);
+}
 
-protected:
-    afx_msg void OnSize(UINT, int cx, int cy)
-    {
-        if (m_calendar.GetSafeHwnd() != nullptr)
-            m_calendar.MoveWindow(0, 0, cx, cy);
-    }
-    afx_msg void OnSetFocus(CWnd*) { m_calendar.SetFocus(); }
-    afx_msg LRESULT OnSelChange(WPARAM, LPARAM)
-    {
-        const CString text = DateTime::ConvertDateToText(m_calendar.GetDate(), false, false, false, false);
-        m_label.setText(QString::fromLocal8Bit(text.GetString()));
-        std::printf("%s\n", static_cast<LPCTSTR>(text));
-        std::fflush(stdout);
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
+void prepare(const DeskOptions& options)
+{
+    Zeb17CalendarWidget::setToday(toDate(options.today));
+    if (options.data)
+        Zeb17CalendarWidget::setDataDirectory(QFile::decodeName(options.data));
+    if (!options.locale)
+        return;
+    Zeb17CalendarWidget::setCalendarLocale(QString::fromUtf8(options.locale));
+    QLocale::setDefault(QLocale(QString::fromUtf8(options.locale)));
+}
 
-private:
-    QLabel& m_label;
-    CCalendarWnd m_calendar;
-};
-
-BEGIN_MESSAGE_MAP(CalendarHost, CWnd)
-    ON_WM_SIZE()
-    ON_WM_SETFOCUS()
-    ON_REGISTERED_MESSAGE(CCalendarWnd::CALWND_ONSELCHANGE, &CalendarHost::OnSelChange)
-END_MESSAGE_MAP()
+// Writes what the command line asks for; the exit code of the program.
+int writeOutputs(MainWindow& window, const DeskOptions& options)
+{
+    QCoreApplication::processEvents(); // what failed meanwhile is told
+    int exitCode = 0;
+    const auto check = [&exitCode](bool written, const char* path) {
+        if (written)
+            return;
+        std::fprintf(stderr, "zeb17_desk: could not write %s\n", path);
+        exitCode = 1;
+    };
+    if (options.png)
+        check(window.grab().save(QFile::decodeName(options.png), "PNG"), options.png);
+    if (options.web)
+        check(window.calendar().saveWebPage(QFile::decodeName(options.web)), options.web);
+    if (options.print)
+        check(window.calendar().printToPdf(QFile::decodeName(options.print)), options.print);
+    return exitCode;
+}
 
 }
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    AfxWinInit(GetModuleHandle(nullptr), nullptr, "", SW_SHOW);
-
-    QWidget window;
-    window.setWindowTitle("zeb17 in Qt");
-    QLabel label("Choose a day.");
-    CalendarHost host(label);
-    if (!host.CreateHost())
-        return 1;
-
-    QVBoxLayout layout(&window);
-    layout.addWidget(&label);
-    layout.addWidget(QWidgetFromWindow(host), 1);
-    window.resize(400, 340);
+    const QApplication application(argc, argv);
+    DeskOptions options;
+    if (!deskReadOptions(&options, argc, argv))
+        return 2;
+    prepare(options);
+    const bool attended = !deskHasOutput(&options);
+    const std::unique_ptr<QSettings> settings =
+        attended ? openSettings(options.data ? QFile::decodeName(options.data) : QString()) : nullptr;
+    MainWindow window(settings.get());
+    if (options.select.year != 0)
+        window.calendar().setSelectedDate(toDate(options.select));
     window.show();
-    return QApplication::exec();
+    return attended ? QApplication::exec() : writeOutputs(window, options);
 }

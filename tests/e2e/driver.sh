@@ -2,9 +2,11 @@
 heard=$work/heard
 failures=0
 checks=0
+desk_title=$([ "$platform" = linux ] && echo 'zeb17 desk calendar' || echo 'zeb17 demo')
 
 cleanup() {
     [ -z "${demo_pid:-}" ] || kill "$demo_pid" 2>/dev/null
+    [ -z "${bus_pid:-}" ] || kill "$bus_pid" 2>/dev/null
     [ "$platform" = linux ] || WINEPREFIX=${ZEB17_WINEPREFIX:-$root/build/wine} wineserver -k 2>/dev/null
     [ -z "${xvfb_pid:-}" ] || kill "$xvfb_pid" 2>/dev/null
     rm -rf "$work"
@@ -15,6 +17,9 @@ start_display() {
     read -r number <&7
     export DISPLAY=:$number
     read -r _ xvfb_pid <"$work/xvfb"
+    [ "$platform" = linux ] || return 0
+    { read -r DBUS_SESSION_BUS_ADDRESS; read -r bus_pid; } < <(dbus-daemon --session --fork --print-address=1 --print-pid=1)
+    export DBUS_SESSION_BUS_ADDRESS
 }
 
 # launch PROGRAM [OPTION...]: runs a program of this platform; what it says goes to $heard and $work/errors. On Linux
@@ -23,7 +28,8 @@ launch() {
     local program=$1
     shift
     if [ "$platform" = linux ]; then
-        HOME=$work QT_QPA_PLATFORM=xcb "$root/build/linux/bin/$program" "$@" >"$heard" 2>"$work/errors" &
+        HOME=$work QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 \
+            "$root/build/linux/bin/$program" "$@" >"$heard" 2>"$work/errors" &
     else
         "$root/scripts/wine-run" "$root/build/windows/bin/$program.exe" "$@" >"$heard" 2>"$work/errors" &
     fi
@@ -43,13 +49,13 @@ wait_for() {
     sleep 0.5
 }
 
-# start_demo [DATA]: the sample host on a data folder of that name in the work folder, made when it isn't there.
+# start_demo [DATA]: the desk calendar on a data folder of that name in the work folder, made when it isn't there.
 start_demo() {
     local data=$work/${1:-data}
     mkdir -p "$data"
     [ "$platform" = linux ] || data="Z:${data//\//\\}"
-    launch zeb17_demo --today 2026-11-24 --locale en-US --data "$data"
-    wait_for 'zeb17 demo'
+    launch "$(by_platform zeb17_desk zeb17_demo)" --today 2026-11-24 --locale en-US --data "$data"
+    wait_for "$desk_title"
     seen=0
     measure
 }
@@ -60,29 +66,47 @@ stop_demo() {
     demo_pid=
 }
 
-# The places of the control in the window, as the host and the control lay them out.
+# The places of the control in the window, as the control lays them out.
 measure() {
     eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
-    # Without a window manager Wine draws a frame and a caption of its own inside the window.
-    [ "$platform" = linux ] || { X=$((X + 4)) Y=$((Y + 23)) WIDTH=$((WIDTH - 8)) HEIGHT=$((HEIGHT - 27)); }
-    left=$((X + 12)) top=$((Y + 12))
-    width=$((WIDTH - 36 - 280)) height=$((HEIGHT - 24 - 8 - 20 - 80))
+    "measure_on_$platform"
     column=$(((width - 2) / 7)) rest=$(((width - 2) % 7))
     [ $rest -lt 5 ] || column=$((column + 1))
     local grid=$((height - 23 - 25 - 2 - 19))
     row=$((grid / 6)) rest=$((grid % 6))
     [ $rest -lt 5 ] || row=$((row + 1))
 }
+measure_on_linux() {
+    local place
+    place=$("$here/where") || { cat "$work/errors"; exit 1; }
+    read -r left top width height <<<"$place"
+}
+measure_on_windows() {
+    # Without a window manager Wine draws a frame and a caption of its own inside the window.
+    X=$((X + 4)) Y=$((Y + 23)) WIDTH=$((WIDTH - 8)) HEIGHT=$((HEIGHT - 27))
+    left=$((X + 12)) top=$((Y + 12))
+    width=$((WIDTH - 36 - 280)) height=$((HEIGHT - 24 - 8 - 20 - 80))
+}
 
 lines() { tr -d '\r' <"$heard" | wc -l; }
 
-# check NAME EXPECTED...: the lines heard since the last check, after a moment.
+by_platform() { [ "$platform" = linux ] && echo "$1" || echo "$2"; } # LINUX WINDOWS
+
+# What the host is to have heard: a signal of the widget, or a message of the control. Where a date is selected
+# that was selected before, only the control tells it.
+date_heard() { by_platform "selectionChanged $1" "CALWND_ONSELCHANGE $1"; }
+press_heard() { by_platform "selectionChanged $1"$'\n'"clicked $1" "CALWND_ONSELCHANGE $1 (press)"; }
+same_heard() { by_platform '' "CALWND_ONSELCHANGE $1"; }
+none_heard() { by_platform 'selectionChanged none' CALWND_ONNODATE; }
+range_heard() { by_platform "rangeSelected $1 to $2" "CALWND_DATERANGE_CHANGED $1 to $2"; }
+
+# check NAME EXPECTED...: the lines heard since the last check, after a moment; without those of another month shown.
 check() {
     local name=$1 expected actual
     shift
     expected=$(printf '%s\n' "$@")
     for _ in $(seq 30); do
-        actual=$(tr -d '\r' <"$heard" | tail -n +$((seen + 1)))
+        actual=$(tr -d '\r' <"$heard" | tail -n +$((seen + 1)) | grep -v "${unheard:-^currentPageChanged}")
         [ "$actual" != "$expected" ] || break
         sleep 0.1
     done
@@ -96,6 +120,16 @@ check_text() { # NAME EXPECTED ACTUAL
     [ "$actual" = "$expected" ] && return
     failures=$((failures + 1))
     printf 'FAILED %s\n  expected: %s\n  found:    %s\n' "$name" "${expected//$'\n'/ | }" "${actual//$'\n'/ | }"
+}
+
+# Without a window manager a dialog of Qt's has the keyboard only if it is given to it.
+in_dialog() { # its title, that of a message by default; the last one that opened
+    [ "$platform" = windows ] || focus_window "$(xdotool search --onlyvisible --name "^${1:-$desk_title}\$" | grep -vx "$window" | tail -n 1)"
+}
+in_window() { [ "$platform" = windows ] || focus_window "$window"; }
+focus_window() {
+    [ -z "$1" ] || xdotool windowfocus "$1"
+    sleep 0.5
 }
 
 click_cell() { # cell 0 to 41

@@ -46,9 +46,9 @@ CString TextOf(const CWnd& control)
 }
 
 // The place of a value in a table of choices; the first one's if it isn't there.
-int IndexOf(std::span<const Choice> choices, int value)
+int IndexOf(std::span<const DeskChoice> choices, int value)
 {
-    const auto found = std::ranges::find(choices, value, &Choice::value);
+    const auto found = std::ranges::find(choices, value, &DeskChoice::value);
     return found == choices.end() ? 0 : static_cast<int>(found - choices.begin());
 }
 
@@ -150,21 +150,21 @@ void EntryEditor::FillChoices()
 {
     for (const CalendarSettings::Group group : kUserGroups)
         m_list.AddString(CalendarSettings::GetName(group));
-    for (const RuleForm& form : RuleForms())
-        m_rule.AddString(form.name);
+    for (const DeskChoice& kind : deskRuleKinds)
+        m_rule.AddString(kind.name);
     for (int day = 1; day <= 7; ++day) {
         m_nearDay.AddString(LocaleUtils::GetDayName(day, false));
         m_dayOfWeek.AddString(LocaleUtils::GetDayName(day, false));
     }
     m_nearSide.AddString("before");
     m_nearSide.AddString("after");
-    for (const Choice& occurrence : Occurrences())
+    for (const DeskChoice& occurrence : deskOccurrences)
         m_occurrence.AddString(occurrence.name);
     for (int month = 1; month <= 12; ++month)
         m_month.AddString(LocaleUtils::GetMonthName(month, false));
     for (int day = 1; day <= 31; ++day)
         m_day.AddString(NumberTextConv::NumberToString(day, false, 0, ""));
-    for (const Choice& limit : YearLimits())
+    for (const DeskChoice& limit : deskYears)
         m_years.AddString(limit.name);
 }
 
@@ -185,7 +185,7 @@ void EntryEditor::ShowEntry()
         ShowPart(Form().parts[i], m_entry.m_anRule[i]);
 
     m_workingDay.SetCheck(m_entry.m_bRuleFlag);
-    m_years.SetCurSel(IndexOf(YearLimits(), m_entry.m_nKind));
+    m_years.SetCurSel(IndexOf(deskYears, m_entry.m_nKind));
     m_year.SetLimitText(4);
     if (NeedsYear())
         m_year.SetWindowText(NumberTextConv::NumberToString(m_entry.m_nStartYear, false, 0, ""));
@@ -203,7 +203,7 @@ void EntryEditor::ShowPart(RulePart part, int value)
         m_month.SetCurSel(value - 1);
         break;
     case RulePart::Occurrence:
-        m_occurrence.SetCurSel(IndexOf(Occurrences(), value));
+        m_occurrence.SetCurSel(IndexOf(deskOccurrences, value));
         break;
     case RulePart::DayOfWeek:
         m_dayOfWeek.SetCurSel(value - 1);
@@ -223,7 +223,7 @@ void EntryEditor::ReadControls()
     ReadRule(TextOf(m_desc));
     m_group = kUserGroups[m_list.GetCurSel()];
     m_entry.m_bRuleFlag = Form().rule == DateEntry::RULE_DAY && m_workingDay.GetCheck() != 0;
-    m_entry.m_nKind = YearLimits()[static_cast<size_t>(m_years.GetCurSel())].value;
+    m_entry.m_nKind = deskYears[static_cast<size_t>(m_years.GetCurSel())].value;
     m_entry.m_nStartYear = NeedsYear() ? NumberTextConv::GetNumberFromString(TextOf(m_year)) : 0;
     m_entry.SetColor(m_color.GetColor());
     m_entry.SetShow(m_show.GetCheck() != 0);
@@ -241,7 +241,7 @@ void EntryEditor::ReadRule(const CString& desc)
     const int dayOfWeek = m_dayOfWeek.GetCurSel() + 1;
     const int nearDay = (m_nearDay.GetCurSel() + 1) * (m_nearSide.GetCurSel() == 0 ? -1 : 1);
     const auto occurrence = static_cast<DateEntry::OCCURRENCE>(
-        Occurrences()[static_cast<size_t>(m_occurrence.GetCurSel())].value);
+        deskOccurrences[static_cast<size_t>(m_occurrence.GetCurSel())].value);
     switch (Form().rule) {
     case DateEntry::RULE_DAY_OF_WEEK:
         m_entry.SetDayOfWeek(desc, occurrence, dayOfWeek, month);
@@ -310,7 +310,7 @@ const RuleForm& EntryEditor::Form() const
 bool EntryEditor::NeedsYear() const
 {
     const int index = m_years.GetSafeHwnd() != nullptr ? m_years.GetCurSel() : 0;
-    const int kind = YearLimits()[static_cast<size_t>(std::max(index, 0))].value;
+    const int kind = deskYears[static_cast<size_t>(std::max(index, 0))].value;
     return kind == DateEntry::KIND_FROM_YEAR || kind == DateEntry::KIND_UNTIL_YEAR ||
            kind == DateEntry::KIND_IN_YEAR;
 }

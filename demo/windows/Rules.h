@@ -1,6 +1,8 @@
 // The rules of dates, as the editor takes them apart and as words for the user.
 #pragma once
 
+#include <rule_words.h>
+
 #include <DateEntry.h>
 #include <DateTime.h>
 
@@ -17,25 +19,16 @@ enum class RulePart
     SignedDayOfWeek,
 };
 
-// A kind of rule: its name for the user, and its parts in the order in which m_anRule holds them.
+// A kind of rule, in the order of deskRuleKinds, and its parts in the order in which m_anRule holds them.
 struct RuleForm
 {
     DateEntry::RULE rule;
-    const char* name;
     std::span<const RulePart> parts;
 
     bool Has(RulePart part) const;
 };
 
 std::span<const RuleForm> RuleForms();
-
-struct Choice
-{
-    int value;
-    const char* name;
-};
-std::span<const Choice> Occurrences();
-std::span<const Choice> YearLimits();
 
 // "The fourth Thursday of November, from 2020", empty without a rule.
 CString DescribeRule(const DateEntry& entry);
