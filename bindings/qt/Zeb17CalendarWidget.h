@@ -136,7 +136,7 @@ public:
     // Follows the locale of that name, such as "nl-NL", instead of the user's. False if there is none.
     static bool setCalendarLocale(const QString& name);
 
-public Q_SLOTS:
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     // Selects the day and shows its month. An invalid date clears the selection. A day out of the range of
     // dates changes nothing and is a failure.
     void setSelectedDate(QDate date);

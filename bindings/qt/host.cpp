@@ -162,8 +162,10 @@ void Zeb17CalendarWidget::Host::setOptions(Options options)
         return;
     run([&](Control& control) {
         control.setMenu(options);
-        if (changes & ~kLateOptions)
+        if (changes & ~kLateOptions) {
             control.createAgain(*this, options);
+            setEnabled(m_widget.isEnabled());
+        }
         if (options.testFlag(SpecialDates) && changes.testFlag(SpecialDates))
             load();
         else
@@ -281,8 +283,7 @@ bool Zeb17CalendarWidget::Host::fail(const QString& words)
 {
     ++m_failures;
     m_lastError = words;
-    QMetaObject::invokeMethod(
-        &m_widget, [widget = &m_widget, words] { Q_EMIT widget->failed(words); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&m_widget, "failed", Qt::QueuedConnection, Q_ARG(QString, words));
     return false;
 }
 

@@ -45,6 +45,7 @@ CalendarDateEntry* entryAt(CalendarSettings& settings, Zeb17CalendarWidget::Grou
 std::vector<CalendarDateEntry*> entriesOf(CalendarSettings& settings, Zeb17CalendarWidget::Group group)
 {
     std::vector<CalendarDateEntry*> entries;
+    entries.reserve(settings.GetCount(toGroup(group)));
     for (int i = 0; i < countOf(settings, group); ++i)
         entries.push_back(entryAt(settings, group, i));
     return entries;
