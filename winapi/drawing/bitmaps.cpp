@@ -32,10 +32,9 @@ namespace {
 // From logical coordinates to the pixels that the surface is made of.
 QTransform toPixels(const Context& context)
 {
-    const QPointF shift = context.origin() + context.gridShift();
-    const qreal ratio = context.surface().device().devicePixelRatio();
-    return context.toDevice() * QTransform::fromTranslate(shift.x(), shift.y()) *
-           QTransform::fromScale(ratio, ratio);
+    const Placement& placement = context.placement();
+    return placement.toSurface * QTransform::fromTranslate(placement.shift.x(), placement.shift.y()) *
+           QTransform::fromScale(placement.ratio, placement.ratio);
 }
 
 // Moves each edge to the nearest pixel, as filling does.
@@ -77,7 +76,7 @@ using namespace winapi;
 HBITMAP CreateCompatibleBitmap(HDC dc, int width, int height)
 {
     const auto context = findContext(dc);
-    return context ? makeBitmap(width, height, context->surface().device().devicePixelRatio()) : nullptr;
+    return context ? makeBitmap(width, height, context->pixelRatio()) : nullptr;
 }
 
 COLORREF GetPixel(HDC dc, int x, int y)
@@ -98,13 +97,18 @@ BOOL BitBlt(HDC targetDc, int x, int y, int width, int height, HDC sourceDc, int
     const QPoint shift = QPoint(x, y) - QPoint(sourceX, sourceY);
     const QRect part = QRect(sourceX, sourceY, width, height) & available(*source);
     const QRect area = part.translated(shift);
+    source->surface().settle();
+    const QImage& pixels = *source->image();
+    const QRect copied = roundEdges(toPixels(*source).mapRect(QRectF(part)));
+    const QTransform toTarget = toPixels(*target);
+    const QRectF rounded = roundEdges(toTarget.mapRect(QRectF(area)));
+    const QRectF place = toTarget.inverted().mapRect(rounded);
     ContextPainter painter(*target, area);
     if (!painter)
         return TRUE;
-    // A copy of the part, since source and target may be one image.
-    const QImage pixels = source->image()->copy(roundEdges(toPixels(*source).mapRect(QRectF(part))));
-    const QTransform toTarget = toPixels(*target);
-    const QRectF rounded = roundEdges(toTarget.mapRect(QRectF(area)));
-    painter->drawImage(toTarget.inverted().mapRect(rounded), pixels, QRectF(pixels.rect()));
+    if (&source->surface() != &target->surface() && pixels.rect().contains(copied))
+        painter->drawImage(place, pixels, QRectF(copied));
+    else // one image is source and target, or less is there than is asked for
+        painter->drawImage(place, pixels.copy(copied), QRectF(QPointF(), QSizeF(copied.size())));
     return TRUE;
 }

@@ -18,24 +18,26 @@ HandleTable<HDC, Context>& contexts()
 }
 
 // What memory contexts draw on: the bitmap that they hold.
-class BitmapSurface : public Surface
+class BitmapSurface : public ImageSurface
 {
 public:
     explicit BitmapSurface(std::shared_ptr<Bitmap> bitmap) : m_bitmap(std::move(bitmap)) {}
+    ~BitmapSurface() override { settle(); }
 
-    QPaintDevice& device() override { return m_bitmap->image; }
+    QImage* image() override { return &m_bitmap->image; }
 
 private:
     std::shared_ptr<Bitmap> m_bitmap;
 };
 
 // Stands for the screen as a whole, which can be asked but not drawn on.
-class ScreenSurface : public Surface
+class ScreenSurface : public ImageSurface
 {
 public:
     ScreenSurface() : m_image(makeImage(1, 1, application().devicePixelRatio())) {}
+    ~ScreenSurface() override { settle(); }
 
-    QPaintDevice& device() override { return m_image; }
+    QImage* image() override { return &m_image; }
 
 private:
     QImage m_image;
@@ -105,11 +107,6 @@ Context::~Context()
         state.bitmap.object->selected = false;
 }
 
-QImage* Context::image() const
-{
-    return dynamic_cast<QImage*>(&m_surface->device());
-}
-
 void Context::selectBitmap(const Selected<Bitmap>& bitmap)
 {
     if (isMemory())
@@ -119,25 +116,46 @@ void Context::selectBitmap(const Selected<Bitmap>& bitmap)
     m_owned = std::make_unique<BitmapSurface>(state.bitmap.object);
     m_surface = m_owned.get();
     m_visible = QRect({}, state.bitmap->image.deviceIndependentSize().toSize());
+    m_placement.reset();
+}
+
+void Context::clipTo(const QRect& area)
+{
+    m_visible &= area.translated(m_origin);
+    m_placement.reset();
+}
+
+Mapping& Context::changeMapping()
+{
+    m_placement.reset();
+    return m_mapping;
+}
+
+const Placement& Context::placement() const
+{
+    const qreal ratio = pixelRatio(); // a window may come to a screen of another density
+    if (!m_placement || m_placement->ratio != ratio)
+        m_placement.emplace(toDevice(), m_origin, gridShift(), m_visible, ratio);
+    return *m_placement;
 }
 
 QSizeF Context::scale() const
 {
-    return {qreal(state.viewportExtent.width()) / state.windowExtent.width(),
-            qreal(state.viewportExtent.height()) / state.windowExtent.height()};
+    return {qreal(m_mapping.viewportExtent.width()) / m_mapping.windowExtent.width(),
+            qreal(m_mapping.viewportExtent.height()) / m_mapping.windowExtent.height()};
 }
 
 QTransform Context::toDevice() const
 {
     return QTransform::fromScale(scale().width(), scale().height())
-        .translate(-state.windowOrigin.x(), -state.windowOrigin.y());
+        .translate(-m_mapping.windowOrigin.x(), -m_mapping.windowOrigin.y());
 }
 
 QPointF Context::gridShift() const
 {
     // Far less than a pixel: it makes halves go up even where a rounding error took something off them.
     constexpr qreal kTieBreak = 1.0 / 1024;
-    const qreal ratio = m_surface->device().devicePixelRatio();
+    const qreal ratio = pixelRatio();
     if (ratio == std::floor(ratio))
         return {};
     const QPointF start = (m_gridOrigin - toDevice().map(QPointF())) * ratio;
@@ -155,7 +173,7 @@ namespace {
 qreal devicePixelRatio(HDC dc)
 {
     const auto context = findContext(dc);
-    return context ? context->surface().device().devicePixelRatio() : application().devicePixelRatio();
+    return context ? context->pixelRatio() : application().devicePixelRatio();
 }
 
 }

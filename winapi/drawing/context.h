@@ -9,6 +9,7 @@
 #include <QTransform>
 
 #include <memory>
+#include <optional>
 
 namespace winapi {
 
@@ -33,7 +34,12 @@ struct DrawingState
     COLORREF backgroundColor = 0xFFFFFF;
     int backgroundMode = OPAQUE;
     QPoint position; // logical
-    int mapMode = MM_TEXT;
+};
+
+// From logical units to those of the device.
+struct Mapping
+{
+    int mode = MM_TEXT;
     QPoint windowOrigin;
     QSize windowExtent{1, 1};   // so many logical units are as long as
     QSize viewportExtent{1, 1}; // so many pixels
@@ -56,9 +62,16 @@ public:
     Surface& surface() const { return *m_surface; }
     bool isMemory() const { return state.bitmap.object != nullptr; }
     // The image drawn on, or null on a printer.
-    QImage* image() const;
+    QImage* image() const { return m_surface->image(); }
+    // Pixels of the device a logical pixel.
+    qreal pixelRatio() const { return m_surface->device().devicePixelRatio(); }
 
     void selectBitmap(const Selected<Bitmap>& bitmap);
+
+    const Mapping& mapping() const { return m_mapping; }
+    Mapping& changeMapping();
+    // Worked out once, until the mapping or the clip changes.
+    const Placement& placement() const;
 
     // From logical units to device units (the origin of the context is device 0, 0), and on to the surface.
     QTransform toDevice() const;
@@ -72,7 +85,7 @@ public:
 
     // Where drawing shows, in device units.
     QRegion visible() const { return m_visible.translated(-m_origin); }
-    void clipTo(const QRect& area) { m_visible &= area.translated(m_origin); }
+    void clipTo(const QRect& area);
 
 private:
     std::unique_ptr<Surface> m_owned;
@@ -80,6 +93,8 @@ private:
     QPoint m_origin;
     QPoint m_gridOrigin;
     QRegion m_visible;
+    Mapping m_mapping;
+    mutable std::optional<Placement> m_placement;
 };
 
 HDC addContext(std::shared_ptr<Context> context);

@@ -1,36 +1,61 @@
 // The painter that each drawing call paints with.
 #include "context_painter.h"
 
+#include <cwchar>
+
 namespace winapi {
 
 ContextPainter::ContextPainter(Context& context, const QRect& touched)
-    : m_context(context), m_touched(context.toDevice().mapRect(touched).translated(context.origin()))
+    : m_surface(context.surface()), m_placement(context.placement()),
+      m_touched(m_placement.shownPart(touched))
 {
-    const QRegion clip = context.visible().translated(context.origin());
-    m_touched &= clip.boundingRect();
-    if (m_touched.isEmpty())
-        return;
-    m_painter = context.surface().heldPainter();
-    if (!m_painter && context.image()) {
-        m_own = std::make_unique<QPainter>(context.image());
-        m_painter = m_own.get();
-    }
-    if (!m_painter)
-        return; // a printer between two pages
-    m_painter->save();
-    m_painter->translate(context.gridShift());
-    m_painter->setClipRegion(clip);
-    m_painter->translate(context.origin());
-    m_painter->setTransform(context.toDevice(), true);
+    if (!m_touched.isEmpty())
+        m_painter = m_surface.beginCall(m_placement);
 }
 
 ContextPainter::~ContextPainter()
 {
-    if (!m_painter)
+    if (m_painter)
+        m_surface.endCall(m_touched);
+}
+
+namespace {
+
+// A wide character is as wide as a pixel here, and the C library fills with it faster than a loop does.
+void fillPixels(QImage& image, const QRect& pixels, QRgb color)
+{
+    static_assert(sizeof(wchar_t) == sizeof(QRgb));
+    uchar* row = image.scanLine(pixels.top()) + sizeof(QRgb) * static_cast<std::size_t>(pixels.left());
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y, row += image.bytesPerLine())
+        std::wmemset(reinterpret_cast<wchar_t*>(row), static_cast<wchar_t>(color),
+                     static_cast<std::size_t>(pixels.width()));
+}
+
+}
+
+void ContextPainter::fill(const QRect& rect, COLORREF color)
+{
+    QImage* const image = m_clips || !m_placement.wholePixels() ? nullptr : m_surface.image();
+    if (!image) {
+        m_painter->fillRect(rect, toColor(color));
         return;
+    }
+    const QRect pixels = m_placement.pixelsOf(m_placement.shownPart(rect));
+    if (!pixels.isEmpty())
+        fillPixels(*image, pixels, toColor(color).rgb());
+}
+
+void ContextPainter::clipTo(const QRect& rect)
+{
+    m_painter->save();
+    m_painter->setClipRect(rect, Qt::IntersectClip);
+    m_clips = true;
+}
+
+void ContextPainter::unclip()
+{
     m_painter->restore();
-    m_own.reset();
-    m_context.surface().changed(m_touched);
+    m_clips = false;
 }
 
 }

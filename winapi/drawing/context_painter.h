@@ -18,14 +18,22 @@ public:
 
     QPainter* operator->() const { return m_painter; }
     QPainter& operator*() const { return *m_painter; }
+    // Fills with one colour. On whole pixels that need no clip it writes to the pixels itself.
+    void fill(const QRect& rect, COLORREF color);
+
+    // Draws inside of `rect` only, until unclip.
+    void clipTo(const QRect& rect);
+    void unclip();
+
     // False if nothing that the call draws would show.
     explicit operator bool() const { return m_painter != nullptr; }
 
 private:
-    Context& m_context;
+    Surface& m_surface;
+    const Placement& m_placement;
     QRect m_touched; // logical pixels of the surface
-    std::unique_ptr<QPainter> m_own;
     QPainter* m_painter = nullptr;
+    bool m_clips = false; // by a clip of the call's own
 };
 
 }

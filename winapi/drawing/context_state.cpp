@@ -33,12 +33,9 @@ Value exchangeState(HDC dc, Value DrawingState::*member, Argument value, Value f
     return context ? std::exchange(context->state.*member, static_cast<Value>(value)) : failure;
 }
 
-BOOL setPoint(HDC dc, QPoint DrawingState::*member, QPoint point, POINT* old)
+BOOL exchangePoint(QPoint& current, QPoint point, POINT* old)
 {
-    const auto context = findContext(dc);
-    if (!context)
-        return FALSE;
-    const QPoint before = std::exchange(context->state.*member, point);
+    const QPoint before = std::exchange(current, point);
     if (old)
         *old = {before.x(), before.y()};
     return TRUE;
@@ -52,20 +49,20 @@ void mapPoints(POINT* points, int count, const QTransform& transform)
     });
 }
 
-BOOL setExtent(HDC dc, QSize DrawingState::*member, QSize extent, SIZE* old)
+BOOL setExtent(HDC dc, QSize Mapping::*member, QSize extent, SIZE* old)
 {
     const auto context = findContext(dc);
     if (!context)
         return FALSE;
-    const QSize before = context->state.*member;
+    const QSize before = context->mapping().*member;
     if (old)
         *old = {before.width(), before.height()};
     // While a logical unit is a pixel, the extents stay 1, and the call succeeds.
-    if (context->state.mapMode != MM_ANISOTROPIC)
+    if (context->mapping().mode != MM_ANISOTROPIC)
         return TRUE;
     if (extent.width() == 0 || extent.height() == 0)
         return FALSE;
-    context->state.*member = extent;
+    context->changeMapping().*member = extent;
     return TRUE;
 }
 
@@ -76,29 +73,32 @@ int SetMapMode(HDC dc, int mode)
     const auto context = findContext(dc);
     if (!context || (mode != MM_TEXT && mode != MM_ANISOTROPIC))
         return 0;
+    Mapping& mapping = context->changeMapping();
     if (mode == MM_TEXT)
-        context->state.windowExtent = context->state.viewportExtent = {1, 1};
-    return std::exchange(context->state.mapMode, mode);
+        mapping.windowExtent = mapping.viewportExtent = {1, 1};
+    return std::exchange(mapping.mode, mode);
 }
 
 BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old)
 {
-    return setExtent(dc, &DrawingState::windowExtent, {width, height}, old);
+    return setExtent(dc, &Mapping::windowExtent, {width, height}, old);
 }
 
 BOOL SetViewportExtEx(HDC dc, int width, int height, SIZE* old)
 {
-    return setExtent(dc, &DrawingState::viewportExtent, {width, height}, old);
+    return setExtent(dc, &Mapping::viewportExtent, {width, height}, old);
 }
 
 BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old)
 {
-    return setPoint(dc, &DrawingState::windowOrigin, {x, y}, old);
+    const auto context = findContext(dc);
+    return context && exchangePoint(context->changeMapping().windowOrigin, {x, y}, old);
 }
 
 BOOL MoveToEx(HDC dc, int x, int y, POINT* old)
 {
-    return setPoint(dc, &DrawingState::position, {x, y}, old);
+    const auto context = findContext(dc);
+    return context && exchangePoint(context->state.position, {x, y}, old);
 }
 
 BOOL DPtoLP(HDC dc, POINT* points, int count)

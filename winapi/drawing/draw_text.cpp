@@ -3,6 +3,7 @@
 #include "text.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 namespace winapi {
@@ -13,16 +14,6 @@ struct Line
 {
     QString text;
     qsizetype underlined = -1; // index of the letter
-    int width = 0;
-};
-
-struct Layout
-{
-    std::vector<Line> lines;
-    int width = 0;
-    int lineHeight = 0;
-
-    int height() const { return lineHeight * static_cast<int>(lines.size()); }
 };
 
 // Takes out the ampersands that mark letters: "&x" underlines x, "&&" is one ampersand, and so is "&" at the
@@ -94,25 +85,32 @@ void shorten(Line& line, const TextMeasure& measure, int width)
         line.underlined = -1;
 }
 
-Layout layOut(const QString& text, UINT format, const TextMeasure& measure, int width)
+using Lines = std::span<const ShapedLinePtr>;
+
+std::vector<ShapedLinePtr> layOut(const QString& text, UINT format, const TextMeasure& measure, int width)
 {
     QStringList texts = splitLines(text, format);
     if ((format & DT_WORDBREAK) && !(format & DT_SINGLELINE))
         texts = breakLines(texts, measure, width);
-    Layout layout;
-    layout.lineHeight = measure.height();
+    std::vector<ShapedLinePtr> lines;
     for (const QString& one : texts) {
         Line line = makeLine(one, format);
         if (format & DT_END_ELLIPSIS)
             shorten(line, measure, width);
-        line.width = measure.width(line.text);
-        layout.width = std::max(layout.width, line.width);
-        layout.lines.push_back(std::move(line));
+        lines.push_back(measure.shape(line.text, line.underlined));
     }
-    return layout;
+    return lines;
 }
 
-int lineLeft(const Line& line, const RECT& rect, UINT format)
+// The single line that a text makes wherever it is drawn, so that it is shaped once.
+ShapedLinePtr keptLine(std::string_view text, UINT format, TextMeasure& measure)
+{
+    return measure.line(text, format & DT_NOPREFIX ? KeptLines::Plain : KeptLines::Marked, [&] {
+        return layOut(toText(text.data(), static_cast<int>(text.size())), format, measure, 0).front();
+    });
+}
+
+int lineLeft(const ShapedLine& line, const RECT& rect, UINT format)
 {
     if (format & DT_CENTER)
         return (rect.left + rect.right - line.width) / 2;
@@ -120,36 +118,80 @@ int lineLeft(const Line& line, const RECT& rect, UINT format)
 }
 
 // Only a single line is placed by the rectangle's height.
-int textTop(const Layout& layout, const RECT& rect, UINT format)
+int textTop(int height, const RECT& rect, UINT format)
 {
     if (!(format & DT_SINGLELINE))
         return rect.top;
-    return format & DT_VCENTER ? rect.top + (rect.bottom - rect.top) / 2 - layout.height() / 2 : rect.top;
+    return format & DT_VCENTER ? rect.top + (rect.bottom - rect.top) / 2 - height / 2 : rect.top;
 }
 
-void underline(QPainter& painter, const Context& context, QPoint position, const Line& line)
+bool showsMark(const ShapedLine& line, UINT format)
 {
-    const TextMeasure measure(context);
-    const int left = position.x() + measure.width(line.text.left(line.underlined));
-    const int width = measure.width(line.text[line.underlined]);
-    const int top = position.y() + measure.ascent() + measure.underlinePosition();
-    painter.fillRect(left, top, width, measure.lineWidth(), toColor(context.state.textColor));
+    return !line.mark.isEmpty() && !(format & DT_HIDEPREFIX);
 }
 
-void drawLayout(Context& context, const Layout& layout, const RECT& rect, UINT format)
+// Whether all that the line draws lies within a rectangle, which then need not clip it. On a dense screen ink
+// may be moved by a part of a pixel.
+bool fits(const ShapedLine& line, QPoint position, const QRect& rect, const TextMeasure& measure,
+          const Context& context, UINT format)
 {
-    ContextPainter painter(context, toQRect(rect));
+    if (line.glyphs.isEmpty())
+        return false;
+    QRect covered = line.ink;
+    if (context.state.backgroundMode == OPAQUE)
+        covered |= QRect(0, 0, line.width, measure.height());
+    if (showsMark(line, format))
+        covered |= line.mark;
+    const int margin = measure.ratio() == 1 ? 0 : 1;
+    return rect.contains(covered.translated(position).adjusted(-margin, -margin, margin, margin));
+}
+
+void drawLine(ContextPainter& painter, const Context& context, const TextMeasure& measure,
+              const ShapedLine& line, QPoint position, UINT format)
+{
+    drawTextLine(painter, context, measure, position, line);
+    if (showsMark(line, format))
+        painter.fill(line.mark.translated(position), context.state.textColor);
+}
+
+void drawLines(Context& context, const TextMeasure& measure, Lines lines, int top, const RECT& rect,
+               UINT format)
+{
+    const QRect area = toQRect(rect);
+    ContextPainter painter(context, area);
     if (!painter)
         return;
-    painter->setClipRect(toQRect(rect), Qt::IntersectClip);
-    int y = textTop(layout, rect, format);
-    for (const Line& line : layout.lines) {
-        const QPoint position(lineLeft(line, rect, format), y);
-        drawTextLine(*painter, context, position, line.text);
-        if (line.underlined >= 0 && !(format & DT_HIDEPREFIX))
-            underline(*painter, context, position, line);
-        y += layout.lineHeight;
+    QPoint position(0, top);
+    for (const ShapedLinePtr& line : lines) {
+        position.setX(lineLeft(*line, rect, format));
+        const bool clips = !fits(*line, position, area, measure, context, format);
+        if (clips) {
+            painter.clipTo(area);
+        }
+        drawLine(painter, context, measure, *line, position, format);
+        if (clips)
+            painter.unclip();
+        position.ry() += measure.height();
     }
+}
+
+// Draws the lines, or only calculates. Gives the height of the text.
+int placeLines(Context& context, const TextMeasure& measure, Lines lines, RECT& rect, UINT format)
+{
+    const int height = measure.height() * static_cast<int>(lines.size());
+    const int top = textTop(height, rect, format);
+    const int bottom = top + height;
+    if (!(format & DT_CALCRECT)) {
+        drawLines(context, measure, lines, top, rect, format);
+        return bottom - rect.top;
+    }
+    int width = 0;
+    for (const ShapedLinePtr& line : lines)
+        width = std::max(width, line->width);
+    const int result = bottom - rect.top;
+    rect.right = rect.left + width;
+    rect.bottom = bottom;
+    return result;
 }
 
 }
@@ -163,15 +205,13 @@ int DrawTextA(HDC dc, LPCSTR text, int length, RECT* rect, UINT format)
     const auto context = findContext(dc);
     if (!context || !text || !rect || length < -1)
         return 0;
-    const TextMeasure measure(*context);
-    const Layout layout = layOut(toText(text, length), format, measure, rect->right - rect->left);
-    const int bottom = textTop(layout, *rect, format) + layout.height();
-    const int height = bottom - rect->top;
-    if (!(format & DT_CALCRECT)) {
-        drawLayout(*context, layout, *rect, format);
-        return height;
+    const TextMeasurePtr measure = measureOf(*context);
+    const std::string_view bytes =
+        length < 0 ? std::string_view(text) : std::string_view(text, static_cast<std::size_t>(length));
+    if ((format & DT_SINGLELINE) && !(format & DT_END_ELLIPSIS)) {
+        const ShapedLinePtr line = keptLine(bytes, format, *measure);
+        return placeLines(*context, *measure, {&line, 1}, *rect, format);
     }
-    rect->right = rect->left + layout.width;
-    rect->bottom = bottom;
-    return height;
+    const auto lines = layOut(toText(text, length), format, *measure, rect->right - rect->left);
+    return placeLines(*context, *measure, lines, *rect, format);
 }

@@ -6,6 +6,8 @@
 #include "system_colors.h"
 #include "text.h"
 
+#include <QCoreApplication>
+
 #include <unordered_set>
 
 namespace winapi {
@@ -31,7 +33,15 @@ HFONT makeFont(LONG height, LONG weight, const char* face)
     description.lfWeight = weight;
     description.lfCharSet = DEFAULT_CHARSET;
     qstrncpy(description.lfFaceName, face, LF_FACESIZE);
-    return static_cast<HFONT>(addPermanentObject(Font{description.lfCharSet, toFont(description)}));
+    return static_cast<HFONT>(addPermanentObject(Font{description.lfCharSet, toFont(description), nullptr}));
+}
+
+void forgetMeasures()
+{
+    objects().forEach([](Object& object) {
+        if (Font* const font = std::get_if<Font>(&object))
+            font->measure.reset();
+    });
 }
 
 }
@@ -52,6 +62,11 @@ HGDIOBJ addPermanentObject(Object object)
 std::shared_ptr<Object> findObject(HGDIOBJ handle)
 {
     return objects().find(handle);
+}
+
+void forgetMeasuresAtExit()
+{
+    [[maybe_unused]] static const bool added = (qAddPostRoutine(forgetMeasures), true);
 }
 
 HPEN blackPen()
@@ -121,5 +136,5 @@ HBRUSH CreateSolidBrush(COLORREF color)
 
 HFONT CreateFontIndirectA(const LOGFONTA* font)
 {
-    return font ? static_cast<HFONT>(addObject(Font{font->lfCharSet, toFont(*font)})) : nullptr;
+    return font ? static_cast<HFONT>(addObject(Font{font->lfCharSet, toFont(*font), nullptr})) : nullptr;
 }

@@ -12,6 +12,8 @@
 
 namespace winapi {
 
+class TextMeasure;
+
 struct Pen
 {
     int width;
@@ -27,6 +29,7 @@ struct Font
 {
     BYTE charSet; // as asked for
     QFont font;
+    std::shared_ptr<TextMeasure> measure; // once text was drawn or measured in it; see measureOf
 };
 
 struct Bitmap
@@ -51,6 +54,9 @@ std::shared_ptr<Kind> findObject(HGDIOBJ handle)
     Kind* kind = object ? std::get_if<Kind>(object.get()) : nullptr;
     return kind ? std::shared_ptr<Kind>(object, kind) : nullptr;
 }
+
+// Has all fonts give back what they keep for drawing, when the Qt application ends: Qt's fonts end with it.
+void forgetMeasuresAtExit();
 
 // What a new context holds.
 HPEN blackPen();

@@ -53,6 +53,7 @@ Gdiplus::GpStatus fillEllipse(void* graphicsHandle, void* brushHandle, const QRe
     painter->setPen(Qt::NoPen);
     painter->setBrush(brush->color);
     painter->drawEllipse(QRectF(area));
+    painter->setRenderHint(QPainter::Antialiasing, false);
     return Gdiplus::Ok;
 }
 

@@ -80,25 +80,28 @@ void drawSmoothLine(QPainter& painter, const QColor& color, QPoint from, QPoint 
     painter.restore();
 }
 
-void drawThinLine(QPainter& painter, const DrawingState& state, QPoint from, QPoint to)
+void drawThinLine(ContextPainter& painter, const DrawingState& state, QPoint from, QPoint to)
 {
-    const QColor color = toColor(state.pen->color);
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    if (from.x() == to.x() || from.y() == to.y())
-        return painter.fillRect(evenLine(straightLine(from, to), ratio), color);
+    const COLORREF color = state.pen->color;
+    const qreal ratio = painter->device()->devicePixelRatioF();
+    if (from.x() == to.x() || from.y() == to.y()) {
+        const QRect line = straightLine(from, to);
+        return ratio == std::floor(ratio) ? painter.fill(line, color)
+                                          : painter->fillRect(evenLine(line, ratio), toColor(color));
+    }
     if (ratio > 1)
-        return drawSmoothLine(painter, color, from, to);
-    walkLine(from, to, [&](QPoint pixel) { painter.fillRect(QRect(pixel, QSize(1, 1)), color); });
+        return drawSmoothLine(*painter, toColor(color), from, to);
+    walkLine(from, to, [&](QPoint pixel) { painter.fill(QRect(pixel, QSize(1, 1)), color); });
 }
 
-void drawLine(QPainter& painter, const DrawingState& state, QPoint from, QPoint to)
+void drawLine(ContextPainter& painter, const DrawingState& state, QPoint from, QPoint to)
 {
     if (from == to)
         return;
     if (isThin(*state.pen.object))
         return drawThinLine(painter, state, from, to);
-    painter.setPen(toWidePen(*state.pen.object));
-    painter.drawLine(middle(from), middle(to));
+    painter->setPen(toWidePen(*state.pen.object));
+    painter->drawLine(middle(from), middle(to));
 }
 
 // What a line or an outline may touch around the area that its points span.
@@ -123,7 +126,7 @@ QPolygon corners(const QRect& frame)
         {frame.topLeft(), frame.topRight(), frame.bottomRight(), frame.bottomLeft(), frame.topLeft()});
 }
 
-void drawLines(QPainter& painter, const DrawingState& state, const QPolygon& points)
+void drawLines(ContextPainter& painter, const DrawingState& state, const QPolygon& points)
 {
     for (qsizetype i = 1; i < points.size(); ++i)
         drawLine(painter, state, points[i - 1], points[i]);
@@ -144,18 +147,19 @@ QRect filledArea(const RECT& rect)
     return area.translated(rect.right < rect.left ? 1 : 0, rect.bottom < rect.top ? 1 : 0);
 }
 
-void fillFrame(QPainter& painter, const QRect& rect, const QColor& color)
+void fillFrame(ContextPainter& painter, const QRect& rect, COLORREF color)
 {
-    painter.fillRect(QRect(rect.topLeft(), QSize(rect.width(), 1)), color);
-    painter.fillRect(QRect(rect.bottomLeft(), QSize(rect.width(), 1)), color);
-    painter.fillRect(QRect(rect.topLeft(), QSize(1, rect.height())), color);
-    painter.fillRect(QRect(rect.topRight(), QSize(1, rect.height())), color);
+    painter.fill(QRect(rect.topLeft(), QSize(rect.width(), 1)), color);
+    painter.fill(QRect(rect.bottomLeft(), QSize(rect.width(), 1)), color);
+    painter.fill(QRect(rect.topLeft(), QSize(1, rect.height())), color);
+    painter.fill(QRect(rect.topRight(), QSize(1, rect.height())), color);
 }
 
 void invert(QPainter& painter, const QRect& rect)
 {
     painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
     painter.fillRect(rect, Qt::white);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 }
@@ -173,7 +177,7 @@ BOOL LineTo(HDC dc, int x, int y)
     const QPoint from = std::exchange(context->state.position, to);
     ContextPainter painter(*context, touchedBy(QRect(from, to), *context->state.pen.object));
     if (painter)
-        drawLine(*painter, context->state, from, to);
+        drawLine(painter, context->state, from, to);
     return TRUE;
 }
 
@@ -191,7 +195,7 @@ BOOL Polygon(HDC dc, const POINT* points, int count)
     painter->setBrush(toColor(context->state.brush->color));
     // The outline runs along the middle of its pixels.
     painter->drawPolygon(QPolygonF(polygon).translated(middle({})));
-    drawLines(*painter, context->state, polygon);
+    drawLines(painter, context->state, polygon);
     return TRUE;
 }
 
@@ -207,8 +211,8 @@ BOOL Rectangle(HDC dc, int left, int top, int right, int bottom)
     ContextPainter painter(*context, touchedBy(area, *state.pen.object));
     if (!painter)
         return TRUE;
-    painter->fillRect(area, toColor(state.brush->color));
-    drawLines(*painter, state, corners(area));
+    painter.fill(area, state.brush->color);
+    drawLines(painter, state, corners(area));
     return TRUE;
 }
 
@@ -221,7 +225,7 @@ int FillRect(HDC dc, const RECT* rect, HBRUSH handle)
     const QRect area = filledArea(*rect);
     ContextPainter painter(*context, area);
     if (painter)
-        painter->fillRect(area, toColor(brush->color));
+        painter.fill(area, brush->color);
     return 1;
 }
 
@@ -234,7 +238,7 @@ int FrameRect(HDC dc, const RECT* rect, HBRUSH handle)
     const QRect area = toQRect(*rect);
     ContextPainter painter(*context, area);
     if (painter)
-        fillFrame(*painter, area, toColor(brush->color));
+        fillFrame(painter, area, brush->color);
     return 1;
 }
 

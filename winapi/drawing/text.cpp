@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <unordered_map>
 
 namespace winapi {
 
@@ -89,7 +90,7 @@ void fillBackground(Context& context, const RECT& rect)
     const QRect area = toQRect(rect);
     ContextPainter painter(context, area);
     if (painter)
-        painter->fillRect(area, toColor(context.state.backgroundColor));
+        painter.fill(area, context.state.backgroundColor);
 }
 
 }
@@ -115,10 +116,41 @@ QFont toFont(const LOGFONTA& description)
     return font;
 }
 
-TextMeasure::TextMeasure(const Context& context)
-    : m_scale(context.scale()), m_font(scaledFont(context.state.font->font, m_scale.height())),
-      m_metrics(m_font, &context.surface().device())
+TextMeasure::TextMeasure(const QFont& font, QSizeF scale, QPaintDevice& device, bool keepsLines)
+    : m_scale(scale), m_font(scaledFont(font, scale.height()), &device), m_metrics(m_font),
+      m_ascent(toLogical(m_metrics.ascent())), m_descent(toLogical(m_metrics.descent())),
+      m_ratio(device.devicePixelRatio()), m_keepsLines(keepsLines)
 {
+}
+
+TextMeasurePtr measureOf(const Context& context)
+{
+    const bool plain = context.image() && context.scale() == QSizeF(1, 1);
+    TextMeasurePtr& kept = context.state.font.object->measure;
+    if (plain && kept && kept->ratio() == context.pixelRatio())
+        return kept;
+    auto measure = std::make_shared<TextMeasure>(context.state.font->font, context.scale(),
+                                                 context.surface().device(), plain);
+    if (plain) {
+        forgetMeasuresAtExit();
+        kept = measure;
+    }
+    return measure;
+}
+
+ShapedLinePtr TextMeasure::shape(const QString& text, qsizetype underlined) const
+{
+    auto line = std::make_shared<ShapedLine>();
+    line->text = text;
+    line->width = width(text);
+    if (underlined >= 0)
+        line->mark = QRect(width(text.left(underlined)), ascent() + underlinePosition(),
+                           width(text[underlined]), lineWidth());
+    if (m_keepsLines) {
+        line->glyphs = shapeGlyphs(text, m_font);
+        line->ink = inkOf(line->glyphs).translated(0, ascent());
+    }
+    return line;
 }
 
 int TextMeasure::width(const QString& text) const
@@ -131,21 +163,42 @@ QString toText(LPCSTR text, int length)
     return text ? QString::fromUtf8(text, length).replace(u'\t', u' ') : QString();
 }
 
-void drawTextLine(QPainter& painter, const Context& context, QPoint position, const QString& text)
+namespace {
+
+// The pens of the colours in use, since Qt takes memory for each pen that is made.
+const QPen& penOf(COLORREF color)
 {
-    const DrawingState& state = context.state;
-    const TextMeasure measure(context);
-    if (state.backgroundMode == OPAQUE) {
-        const QSize extent(measure.width(text), measure.height());
-        painter.fillRect(QRect(position, extent), toColor(state.backgroundColor));
-    }
+    constexpr std::size_t kMostPens = 64;
+    static auto& pens = *new std::unordered_map<COLORREF, QPen>;
+    if (pens.size() == kMostPens && !pens.contains(color))
+        pens.clear();
+    return pens.try_emplace(color, toColor(color)).first->second;
+}
+
+void drawByQt(QPainter& painter, const TextMeasure& measure, QPoint base, const QString& text)
+{
     painter.save();
-    painter.translate(position + QPoint(0, measure.ascent()));
+    painter.translate(base);
     painter.scale(1 / measure.scale().width(), 1 / measure.scale().height());
     painter.setFont(measure.deviceFont());
-    painter.setPen(toColor(state.textColor));
     painter.drawText(QPoint(0, 0), text);
     painter.restore();
+}
+
+}
+
+void drawTextLine(ContextPainter& painter, const Context& context, const TextMeasure& measure,
+                  QPoint position, const ShapedLine& line)
+{
+    const DrawingState& state = context.state;
+    if (state.backgroundMode == OPAQUE)
+        painter.fill(QRect(position, QSize(line.width, measure.height())), state.backgroundColor);
+    const QPoint base = position + QPoint(0, measure.ascent());
+    painter->setPen(penOf(state.textColor));
+    for (const QGlyphRun& run : line.glyphs)
+        painter->drawGlyphRun(base, run);
+    if (line.glyphs.isEmpty())
+        drawByQt(*painter, measure, base, line.text);
 }
 
 }
@@ -167,7 +220,8 @@ BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* result)
     if (!context || !result)
         return FALSE;
     const QFont& font = context->state.font->font;
-    const TextMeasure measure(*context);
+    const TextMeasurePtr kept = measureOf(*context);
+    const TextMeasure& measure = *kept;
     *result = {};
     result->tmHeight = measure.height();
     result->tmAscent = measure.ascent();

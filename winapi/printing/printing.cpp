@@ -54,7 +54,15 @@ public:
 
     QPaintDevice& device() override { return m_printer; }
     int capability(int index) const override { return printerCapability(m_printer, index); }
-    QPainter* heldPainter() override { return m_pageOpen ? &m_painter : nullptr; }
+    QPainter* beginCall(const Placement& placement) override
+    {
+        if (!m_pageOpen)
+            return nullptr;
+        m_painter.save();
+        placement.applyTo(m_painter);
+        return &m_painter;
+    }
+    void endCall(const QRect&) override { m_painter.restore(); }
     QPrinter& printer() { return m_printer; }
 
     DWORD start(const QString& name, const QString& file)

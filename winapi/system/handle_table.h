@@ -46,6 +46,13 @@ public:
         return node ? node.mapped() : nullptr;
     }
 
+    template <class Visit>
+    void forEach(Visit visit)
+    {
+        for (const auto& [value, object] : m_objects)
+            visit(*object);
+    }
+
     std::size_t size() const { return m_objects.size(); }
 
 private:

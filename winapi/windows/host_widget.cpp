@@ -139,9 +139,14 @@ void HostWidget::paintEvent(QPaintEvent* event)
     // On a screen of another density the window is painted anew, so that it stays sharp.
     if (std::exchange(m_ratio, devicePixelRatioF()) != devicePixelRatioF())
         invalidate(*window, window->clientRect(), true, Children::All);
+    WindowSurface& surface = surfaceOf(*window);
+    surface.settle();
     QPainter painter(this);
-    painter.setClipRegion(event->region());
-    painter.drawImage(0, 0, surfaceOf(*window).image());
+    // One by one, since Qt takes far longer for a region of several rectangles.
+    for (const QRect& part : event->region()) {
+        painter.setClipRect(part);
+        painter.drawImage(0, 0, *surface.image());
+    }
 }
 
 // The window system, or the layout that the widget stands in, has the last word on size and place.

@@ -13,27 +13,45 @@ namespace winapi {
 
 namespace {
 
-// The contexts that are open, each with the top-level window that it draws on; null for the screen.
-std::map<HDC, HWND>& openContexts()
+enum class Purpose
 {
-    static auto& contexts = *new std::map<HDC, HWND>;
+    Paint, // BeginPaint made the context
+    Other,
+};
+
+struct OpenContext
+{
+    HWND root; // the top-level window that the context draws on; null for the screen
+    Purpose purpose;
+};
+
+std::map<HDC, OpenContext>& openContexts()
+{
+    static auto& contexts = *new std::map<HDC, OpenContext>;
     return contexts;
 }
 
-HDC openContext(Window& window, const QRegion& clip)
+HDC openContext(Window& window, const QRegion& clip, Purpose purpose)
 {
     Window& root = rootOf(window);
-    const HDC dc = createContext(surfaceOf(root), originInRoot(window), clip);
-    if (dc)
-        openContexts()[dc] = root.handle;
+    WindowSurface& surface = surfaceOf(root);
+    const HDC dc = createContext(surface, originInRoot(window), clip);
+    openContexts()[dc] = {root.handle, purpose};
+    if (purpose == Purpose::Paint)
+        surface.beginPaint();
     return dc;
 }
 
 bool closeContext(HDC dc)
 {
-    if (!openContexts().erase(dc))
+    const auto node = openContexts().extract(dc);
+    if (!node)
         return false;
     destroyContext(dc);
+    const auto [root, purpose] = node.mapped();
+    const WindowPtr window = purpose == Purpose::Paint ? findWindow(root) : nullptr;
+    if (window)
+        surfaceOf(*window).endPaint();
     return true;
 }
 
@@ -42,7 +60,7 @@ bool closeContext(HDC dc)
 void releaseContextsOf(const Window& root)
 {
     std::erase_if(openContexts(), [&](const auto& entry) {
-        if (entry.second != root.handle)
+        if (entry.second.root != root.handle)
             return false;
         destroyContext(entry.first);
         return true;
@@ -57,11 +75,11 @@ HDC GetDC(HWND handle)
 {
     if (!handle || handle == desktop().handle) {
         const HDC dc = createScreenContext();
-        openContexts()[dc] = nullptr;
+        openContexts()[dc] = {nullptr, Purpose::Other};
         return dc;
     }
     const WindowPtr window = findWindow(handle);
-    return window ? openContext(*window, visibleRegion(*window)) : nullptr;
+    return window ? openContext(*window, visibleRegion(*window), Purpose::Other) : nullptr;
 }
 
 int ReleaseDC(HWND, HDC dc)
@@ -80,9 +98,7 @@ HDC BeginPaint(HWND handle, LPPAINTSTRUCT paint)
 
     const QRegion clip = visibleRegion(*window) & update.translated(originInRoot(*window));
     *paint = {};
-    paint->hdc = openContext(*window, clip);
-    if (!paint->hdc)
-        return nullptr;
+    paint->hdc = openContext(*window, clip, Purpose::Paint);
     paint->rcPaint = toRect(update.boundingRect());
     if (erase)
         paint->fErase = !SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(paint->hdc), 0);

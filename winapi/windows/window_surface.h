@@ -8,24 +8,32 @@
 
 namespace winapi {
 
-class WindowSurface : public Surface
+class WindowSurface : public ImageSurface
 {
 public:
     explicit WindowSurface(Window& root) : m_root(root) {}
-
-    QPaintDevice& device() override { return image(); }
-    void changed(const QRect& rect) override;
+    ~WindowSurface() override { settle(); }
 
     // As large as the window. When the window grows, the old pixels stay in place and the new ones are white.
-    QImage& image();
+    QImage* image() override;
+    void endCall(const QRect& changed) override;
+
+    // Between these, in pairs, what changes is gathered, and is then shown in one step.
+    void beginPaint() { ++m_paints; }
+    void endPaint();
+
     // Moves pixels by `delta`, to the region `target`.
     void copy(const QRegion& target, QPoint delta);
     // False when such a move would end between two pixels of the screen.
     bool canCopy(QPoint delta);
 
 private:
+    void show(const QRect& changed);
+
     Window& m_root;
     QImage m_image;
+    int m_paints = 0; // that are under way
+    QRect m_gathered; // around all that they have changed
 };
 
 // Made when first asked for.
