@@ -20,13 +20,11 @@ const WCHAR* GetLocaleName()
 // Empty if the locale has no such information.
 WideText GetInfo(LCTYPE nType)
 {
-    const int nLength = GetLocaleInfoEx(GetLocaleName(), nType, nullptr, 0);
-    if (nLength <= 0)
-        return {};
-    WideText strInfo(static_cast<std::size_t>(nLength), WCHAR());
-    GetLocaleInfoEx(GetLocaleName(), nType, strInfo.data(), nLength);
-    strInfo.pop_back(); // the null
-    return strInfo;
+    constexpr int kLongestInfo =
+        80; // of those that are asked for here, with the null, as the system documents
+    WCHAR info[kLongestInfo];
+    const int nLength = GetLocaleInfoEx(GetLocaleName(), nType, info, kLongestInfo);
+    return nLength > 0 ? WideText(info, static_cast<std::size_t>(nLength) - 1) : WideText();
 }
 
 WideText GetDayInfo(int nDayOfWeek, bool bShort)

@@ -2,15 +2,25 @@
 #include "NumberTextConv.h"
 
 #include <charconv>
+#include <iterator>
+#include <limits>
 
 CString NumberTextConv::NumberToString(int nNumber, bool bPlusSign, int nMinDigits, const CString& strSuffix)
 {
+    char digits[std::numeric_limits<unsigned>::digits10 + 1];
+    const unsigned nDistance =
+        nNumber < 0 ? 0U - static_cast<unsigned>(nNumber) : static_cast<unsigned>(nNumber);
+    const int nDigits =
+        static_cast<int>(std::to_chars(std::begin(digits), std::end(digits), nDistance).ptr - digits);
     CString strNumber;
-    if (bPlusSign && nNumber > 0)
-        strNumber.Format("+%.*d", nMinDigits > 0 ? nMinDigits : 1, nNumber);
-    else
-        strNumber.Format("%.*d", nMinDigits > 0 ? nMinDigits : 1, nNumber);
-    return strNumber + strSuffix;
+    if (nNumber < 0)
+        strNumber += '-';
+    else if (bPlusSign && nNumber > 0)
+        strNumber += '+';
+    if (nMinDigits > nDigits)
+        strNumber += CString('0', nMinDigits - nDigits);
+    strNumber += CString(digits, nDigits);
+    return strNumber += strSuffix;
 }
 
 int NumberTextConv::GetNumberFromString(const CString& strText)

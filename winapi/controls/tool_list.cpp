@@ -24,7 +24,7 @@ std::optional<Tool> toTool(const TOOLINFOA* info)
     return tool;
 }
 
-std::vector<Tool>::const_iterator ToolList::placeOf(const Tool& like) const
+std::deque<Tool>::const_iterator ToolList::placeOf(const Tool& like) const
 {
     return std::find_if(m_tools.begin(), m_tools.end(), [&](const Tool& tool) { return tool.isSame(like); });
 }

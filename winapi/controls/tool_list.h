@@ -3,9 +3,9 @@
 
 #include "commctrl.h"
 
+#include <deque>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace winapi {
 
@@ -37,9 +37,10 @@ public:
     std::size_t count() const { return m_tools.size(); }
 
 private:
-    std::vector<Tool>::const_iterator placeOf(const Tool& like) const;
+    std::deque<Tool>::const_iterator placeOf(const Tool& like) const;
 
-    std::vector<Tool> m_tools;
+    std::deque<Tool>
+        m_tools; // those that were added first go first, so the first one is found and taken at once
 };
 
 // What a tip shows of a text: a single ampersand is left out, a double one shows as one.

@@ -6,16 +6,32 @@
 #include <QString>
 
 #include <algorithm>
+#include <mutex>
+#include <string>
 
 using namespace winapi;
 
 namespace {
 
+// The locale that was asked for last, by its name. Any thread may ask.
+struct LastLocale
+{
+    std::mutex mutex;
+    std::u16string name;
+    QLocale locale = QLocale::c();
+};
+
 QLocale localeFromName(LPCWSTR name)
 {
+    static auto& last = *new LastLocale;
     if (!name)
         return QLocale::system();
-    return QLocale(QString::fromUtf16(name).replace('-', '_'));
+    const std::lock_guard lock(last.mutex);
+    if (last.name != name) {
+        last.locale = QLocale(QString::fromUtf16(name).replace('-', '_'));
+        last.name = name;
+    }
+    return last.locale;
 }
 
 // LOCALE_SDAYNAME1 begins a run of 7 types, and so on: the place in the run, from 1; 0 for a type outside of
