@@ -127,7 +127,7 @@ void DateEntry::SetBeforeAfterDayOfWeek(const CString& strDesc, OCCURRENCE occur
     SetRule(strDesc, RULE_NEAR_DAY_OF_WEEK, {occurrence, nDayOfWeek, nMonth, nSignedDayOfWeek});
 }
 
-bool DateEntry::IsMatch(int nDay, int nMonth, int nYear) const
+bool DateEntry::IsMatchInMonth(int nDay, int nMonth, int nYear) const
 {
     if (!HoldsInYear(nYear))
         return false;
@@ -180,7 +180,7 @@ bool DateEntry::HasCompleteRule() const
 bool DateEntry::IsMatchFixed(int nDay, int nMonth, int nYear) const
 {
     if (!m_bRuleFlag)
-        return nDay == m_anRule[0] && nMonth == m_anRule[1];
+        return nDay == m_anRule[0];
     const std::int32_t nFixed = DayNumbers::FromDate({nYear, m_anRule[1], m_anRule[0]});
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     if (nFixed == DayNumbers::kNone || nQueried == DayNumbers::kNone)
@@ -190,8 +190,6 @@ bool DateEntry::IsMatchFixed(int nDay, int nMonth, int nYear) const
 
 bool DateEntry::IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const
 {
-    if (nMonth != m_anRule[2]) // most dates end here, before any arithmetic
-        return false;
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     return nQueried != DayNumbers::kNone && nQueried == FindAnchor(nYear);
 }
@@ -199,10 +197,6 @@ bool DateEntry::IsMatchDayOfWeek(int nDay, int nMonth, int nYear) const
 bool DateEntry::IsMatchNear(int nDay, int nMonth, int nYear) const
 {
     const bool bNearDay = m_nRuleWord == RULE_NEAR_DAY;
-    const long long nAnchorMonth = bNearDay ? m_anRule[1] : m_anRule[2];
-    if (std::abs(nAnchorMonth - nMonth) > 1) // most dates end here, before any arithmetic
-        return false;
-
     const std::int32_t nSigned = bNearDay ? m_anRule[2] : m_anRule[3];
     const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     if (nQueried == DayNumbers::kNone || !IsSignedDayOfWeek(nSigned) ||

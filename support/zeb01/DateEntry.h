@@ -71,7 +71,10 @@ public:
     // Whether the rule falls on the date; false for numbers that are no date. A weekday before or after
     // another date is looked for from that date in nYear only: the day that a rule picks for one year and
     // that lies in the year before or after it never matches.
-    bool IsMatch(int nDay, int nMonth, int nYear) const;
+    bool IsMatch(int nDay, int nMonth, int nYear) const
+    {
+        return MayFallIn(nMonth) && IsMatchInMonth(nDay, nMonth, nYear);
+    }
 
     std::int32_t m_nRuleWord = RULE_NONE;   // a RULE
     std::int32_t m_nKind = KIND_EVERY_YEAR; // the limit of years, a KIND
@@ -82,6 +85,16 @@ public:
     CString m_strDesc;                      // what the user reads
 
 private:
+    // Whether the rule can fall on a day of the month: most entries are passed over by this one look at the
+    // month of the rule, which stands in m_anRule[1] by odd rules and in m_anRule[2] by even ones. A rule
+    // that counts from a day, or moves it, reaches the neighbouring months.
+    bool MayFallIn(int nMonth) const
+    {
+        const auto nRuleMonth = static_cast<std::uint32_t>(m_anRule[2 - (m_nRuleWord & 1)]);
+        const auto nReach = static_cast<std::uint32_t>((m_nRuleWord >= RULE_NEAR_DAY) | m_bRuleFlag);
+        return static_cast<std::uint32_t>(nMonth) - nRuleMonth + nReach <= 2 * nReach;
+    }
+    bool IsMatchInMonth(int nDay, int nMonth, int nYear) const;
     bool HoldsInYear(int nYear) const;
     bool HasCompleteRule() const;
     bool IsMatchFixed(int nDay, int nMonth, int nYear) const;

@@ -110,9 +110,12 @@ constexpr Date ToDate(std::int32_t nDayNumber)
         nDayOfCentury = nQuarters % kDaysInFourCenturies / 4;
     }
 
-    const std::uint32_t nQuarters = 4 * nDayOfCentury + 3;
-    const std::uint32_t nYearOfCentury = nQuarters / kDaysInFourYears;
-    const std::uint32_t nDayOfYear = nQuarters % kDaysInFourYears / 4;
+    // One product gives quotient and remainder: 2939745 = 2^32 / 1461, rounded up by 149 / 1461. For n = 1461
+    // q + r it is 2^32 q + 2939745 r + 149 q, and 149 q is below 2939745 for all years that there are.
+    constexpr std::uint32_t kFourYearsInverse = 2939745;
+    const std::uint64_t nProduct = std::uint64_t{kFourYearsInverse} * (4 * nDayOfCentury + 3);
+    const auto nYearOfCentury = static_cast<std::uint32_t>(nProduct >> 32);
+    const std::uint32_t nDayOfYear = static_cast<std::uint32_t>(nProduct) / kFourYearsInverse / 4;
 
     // The inverse of DayOfMarchYear: 65536 / 2141 = 30.61 days a month, and 197913 = 3 * 65536 + 1305 starts
     // at March with the rounding that makes all 366 days come out.
@@ -121,6 +124,17 @@ constexpr Date ToDate(std::int32_t nDayNumber)
     return {static_cast<int>(100 * nCentury + nYearOfCentury) + (bNextYear ? 1 : 0),
             static_cast<int>(nMonths / 65536) - (bNextYear ? 12 : 0),
             static_cast<int>(nMonths % 65536 / 2141) + 1};
+}
+
+// The date after another one. There must be one: the last date has none.
+constexpr Date DayAfter(const Date& date)
+{
+    if (date.nDay == kLastJulianDay && date.nMonth == kGregorianStart.nMonth &&
+        date.nYear == kGregorianStart.nYear)
+        return kGregorianStart;
+    if (date.nDay < DaysInMonth(date.nYear, date.nMonth))
+        return {date.nYear, date.nMonth, date.nDay + 1};
+    return date.nMonth < 12 ? Date{date.nYear, date.nMonth + 1, 1} : Date{date.nYear + 1, 1, 1};
 }
 
 // 1 (Sunday) to 7 (Saturday). Day number 1 is a Saturday.

@@ -146,7 +146,7 @@ protected:
     void CalculateDayLocations();
     void DetermineSpecialDays();
     void ClearCells();
-    void LookUpDay(const DateTime& date, std::size_t nCell);
+    void LookUpDay(const DayNumbers::Date& date, std::size_t nCell); // 0, 0, 0 for no date
 
     // Painting. `rcCell` is the text rectangle of a cell.
     void DrawGrid(CDC* pDC);

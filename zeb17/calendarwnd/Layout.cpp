@@ -94,9 +94,15 @@ void CCalendarWnd::DetermineSpecialDays()
     DateTime today;
     today.SetToCurrent();
     DateTime date = MonthBlock::DateOfCell(m_date, 0);
-    for (std::size_t i = 0; i < MonthBlock::kCells; ++i, date.AddDays(1)) {
+    DayNumbers::Date parts{};
+    date.GetDate(parts.nYear, parts.nMonth, parts.nDay);
+    const auto next = [&] {
+        date.AddDays(1);
+        parts = date.IsValid() ? DayNumbers::DayAfter(parts) : DayNumbers::Date{};
+    };
+    for (std::size_t i = 0; i < MonthBlock::kCells; ++i, next()) {
         if (m_bUseSpecialDates)
-            LookUpDay(date, i);
+            LookUpDay(parts, i);
         if (date.CompareDate(today) != 0)
             continue;
         m_nTodayCell = static_cast<int>(i);
@@ -111,12 +117,10 @@ void CCalendarWnd::ClearCells()
     std::ranges::fill(m_vDayDescs, CString());
 }
 
-void CCalendarWnd::LookUpDay(const DateTime& date, std::size_t nCell)
+void CCalendarWnd::LookUpDay(const DayNumbers::Date& date, std::size_t nCell)
 {
-    int nYear = 0, nMonth = 0, nDay = 0;
-    date.GetDate(nYear, nMonth, nDay);
     DWORD dwColor = kNoColor;
-    m_vDayDescs[nCell] = m_settings.GetDateDesc(nDay, nMonth, nYear, dwColor);
+    m_vDayDescs[nCell] = m_settings.GetDateDesc(date.nDay, date.nMonth, date.nYear, dwColor);
     if (!m_vDayDescs[nCell].IsEmpty())
         m_vDayColors[nCell] = dwColor;
 }

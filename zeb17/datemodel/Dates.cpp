@@ -3,7 +3,6 @@
 
 #include "SeenPieces.h"
 
-#include <DateTime.h>
 #include <NumberTextConv.h>
 #include <SerializeData.h>
 #include <StringUtils.h>
@@ -163,7 +162,7 @@ bool Dates::LookupEntries(int nDay, int nMonth, int nYear, CString& strDesc, DWO
     bool bFound = false;
     SeenPieces pieces; // of strDesc
     for (const auto& pEntry : m_Entries) {
-        if (!pEntry || !pEntry->m_bShow || !pEntry->IsMatch(nDay, nMonth, nYear))
+        if (!pEntry || !pEntry->IsMatch(nDay, nMonth, nYear) || !pEntry->m_bShow)
             continue;
         const int nAge = GetAge(*pEntry, nYear);
         if (pieces.MayHold(ViewOf(strDesc), ViewOf(pEntry->m_strDesc)))
@@ -186,13 +185,12 @@ bool Dates::LookupWithEaster(std::span<const DateTable::EasterDate> easterDates,
     int nEasterMonth = 0;
     int nEasterDay = 0;
     GetEasterDate(nYear, nEasterMonth, nEasterDay);
-    const DateTime easter(nYear, nEasterMonth, nEasterDay, 0, 0, 0);
+    const std::int32_t nEaster = DayNumbers::FromDate({nYear, nEasterMonth, nEasterDay});
+    const std::int32_t nQueried = DayNumbers::FromDate({nYear, nMonth, nDay});
     const auto isOnDate = [&](const DateTable::EasterDate& date) {
-        if (date.nDaysAfterEaster == 0)
+        if (date.nDaysAfterEaster == 0) // also in a year beyond the range of dates
             return nEasterMonth == nMonth && nEasterDay == nDay;
-        DateTime shifted = easter;
-        shifted.AddDays(date.nDaysAfterEaster);
-        return shifted.GetMonth() == nMonth && shifted.GetDay() == nDay;
+        return nQueried != DayNumbers::kNone && nQueried == nEaster + date.nDaysAfterEaster;
     };
     const auto date = std::ranges::find_if(easterDates, isOnDate);
     if (date == easterDates.end())
