@@ -163,8 +163,14 @@ CArchive& CArchive::operator>>(CString& strText)
 {
     bool bWide = false;
     const ULONGLONG nLength = ReadLength(bWide);
-    strText =
-        bWide ? FromLittleEndianUtf16(ReadBytes(nLength, sizeof(WCHAR))) : CString(ReadBytes(nLength, 1));
+    if (bWide) {
+        strText = FromLittleEndianUtf16(ReadBytes(nLength, sizeof(WCHAR)));
+    } else if (nLength <= m_nEnd - m_nNext) { // it lies in the buffer whole
+        strText = CString(reinterpret_cast<const char*>(m_pBuffer) + m_nNext, static_cast<int>(nLength));
+        m_nNext += static_cast<std::size_t>(nLength);
+    } else {
+        strText = CString(ReadBytes(nLength, 1));
+    }
     return *this;
 }
 

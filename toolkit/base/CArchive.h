@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 // A type of number that an archive stores. `bool` is left out, since its width is not fixed, and so is `long`
 // where it has other than 32 bits: the bytes in a file must be the same on every system.
@@ -86,12 +87,31 @@ private:
     int m_nExceptions;       // how many exceptions were passing when the archive was made
 };
 
+// The bytes of a number, one expression, which the compiler makes one instruction of where it can.
+template <class T, std::size_t... I>
+void PutBytes(T value, BYTE* pBytes, std::index_sequence<I...>)
+{
+    ((pBytes[I] = static_cast<BYTE>(static_cast<std::make_unsigned_t<T>>(value) >> (8 * I))), ...);
+}
+
+template <class T, std::size_t... I>
+T GetBytes(const BYTE* pBytes, std::index_sequence<I...>)
+{
+    return static_cast<T>(((static_cast<ULONGLONG>(pBytes[I]) << (8 * I)) | ...));
+}
+
+// Numbers that lie in the buffer whole need no call.
 template <ArchiveNumber T>
 CArchive& CArchive::operator<<(T value)
 {
+    constexpr std::make_index_sequence<sizeof(T)> kBytes;
+    if (IsStoring() && m_pFile && m_nSize - m_nNext >= sizeof(T)) {
+        PutBytes(value, m_pBuffer + m_nNext, kBytes);
+        m_nNext += sizeof(T);
+        return *this;
+    }
     BYTE bytes[sizeof(T)];
-    for (std::size_t i = 0; i < sizeof(T); ++i)
-        bytes[i] = static_cast<BYTE>(static_cast<std::make_unsigned_t<T>>(value) >> (8 * i));
+    PutBytes(value, bytes, kBytes);
     Write(bytes, sizeof(T));
     return *this;
 }
@@ -99,11 +119,14 @@ CArchive& CArchive::operator<<(T value)
 template <ArchiveNumber T>
 CArchive& CArchive::operator>>(T& value)
 {
+    constexpr std::make_index_sequence<sizeof(T)> kBytes;
+    if (IsLoading() && m_nEnd - m_nNext >= sizeof(T)) {
+        value = GetBytes<T>(m_pBuffer + m_nNext, kBytes);
+        m_nNext += sizeof(T);
+        return *this;
+    }
     BYTE bytes[sizeof(T)];
     ReadExactly(bytes, sizeof(T));
-    ULONGLONG bits = 0;
-    for (std::size_t i = 0; i < sizeof(T); ++i)
-        bits |= static_cast<ULONGLONG>(bytes[i]) << (8 * i);
-    value = static_cast<T>(bits);
+    value = GetBytes<T>(bytes, kBytes);
     return *this;
 }
