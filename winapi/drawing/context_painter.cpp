@@ -40,7 +40,8 @@ void ContextPainter::fill(const QRect& rect, COLORREF color)
         m_painter->fillRect(rect, toColor(color));
         return;
     }
-    const QRect pixels = m_placement.pixelsOf(m_placement.shownPart(rect));
+    // The window of a context that is held open may have become smaller.
+    const QRect pixels = m_placement.pixelsOf(m_placement.shownPart(rect)) & image->rect();
     if (!pixels.isEmpty())
         fillPixels(*image, pixels, toColor(color).rgb());
 }

@@ -165,9 +165,8 @@ void drawLines(Context& context, const TextMeasure& measure, Lines lines, int to
     for (const ShapedLinePtr& line : lines) {
         position.setX(lineLeft(*line, rect, format));
         const bool clips = !fits(*line, position, area, measure, context, format);
-        if (clips) {
+        if (clips)
             painter.clipTo(area);
-        }
         drawLine(painter, context, measure, *line, position, format);
         if (clips)
             painter.unclip();
@@ -180,17 +179,16 @@ int placeLines(Context& context, const TextMeasure& measure, Lines lines, RECT& 
 {
     const int height = measure.height() * static_cast<int>(lines.size());
     const int top = textTop(height, rect, format);
-    const int bottom = top + height;
+    const int result = top + height - rect.top;
     if (!(format & DT_CALCRECT)) {
         drawLines(context, measure, lines, top, rect, format);
-        return bottom - rect.top;
+        return result;
     }
     int width = 0;
     for (const ShapedLinePtr& line : lines)
         width = std::max(width, line->width);
-    const int result = bottom - rect.top;
     rect.right = rect.left + width;
-    rect.bottom = bottom;
+    rect.bottom = top + height;
     return result;
 }
 

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <unordered_set>
+#include <utility>
 
 namespace winapi {
 
@@ -36,8 +37,12 @@ HFONT makeFont(LONG height, LONG weight, const char* face)
     return static_cast<HFONT>(addPermanentObject(Font{description.lfCharSet, toFont(description), nullptr}));
 }
 
+bool g_forgetsAtExit = false;
+
+// Qt forgets its routines once it has called them.
 void forgetMeasures()
 {
+    g_forgetsAtExit = false;
     objects().forEach([](Object& object) {
         if (Font* const font = std::get_if<Font>(&object))
             font->measure.reset();
@@ -66,7 +71,8 @@ std::shared_ptr<Object> findObject(HGDIOBJ handle)
 
 void forgetMeasuresAtExit()
 {
-    [[maybe_unused]] static const bool added = (qAddPostRoutine(forgetMeasures), true);
+    if (!std::exchange(g_forgetsAtExit, true))
+        qAddPostRoutine(forgetMeasures);
 }
 
 HPEN blackPen()

@@ -63,12 +63,16 @@ void WindowSurface::copy(const QRegion& target, QPoint delta)
     if (target.isEmpty() || delta.isNull())
         return;
     settle();
-    const QImage before = image()->copy();
+    const QRect area = target.boundingRect();
+    const qreal ratio = image()->devicePixelRatio();
+    const QRectF source(QPointF(area.topLeft() - delta) * ratio, QSizeF(area.size()) * ratio);
+    const QRect pixels = source.toAlignedRect() & image()->rect();
+    const QImage before = image()->copy(pixels);
     QPainter painter(image());
     painter.setClipRegion(target);
-    painter.drawImage(delta, before);
+    painter.drawImage(QPointF(pixels.topLeft()) / ratio + delta, before);
     painter.end();
-    show(target.boundingRect());
+    show(area);
 }
 
 WindowSurface& surfaceOf(Window& root)
