@@ -1,6 +1,6 @@
 // Does a fixed number of one piece of work, so that callgrind can count its instructions:
 //
-//     valgrind --tool=callgrind --instr-atstart=no counted_work paint|month|lookups COUNT
+//     valgrind --tool=callgrind --instr-atstart=no counted_work paint|month|resize|lookups COUNT
 //
 // What is done before, for the caches to fill, is not counted.
 #include "BenchCalendar.h"
@@ -50,11 +50,17 @@ int main(int argc, char** argv)
              host.m_calendar.StepMonth(bForward = !bForward);
              Pump();
          }},
+        {"resize",
+         [&] {
+             bForward = !bForward;
+             host.MoveWindow(0, 0, Bench::kWidth + (bForward ? 20 : 0), Bench::kHeight + (bForward ? 15 : 0));
+             Pump();
+         }},
         {"lookups", [&] { LookUpMonth(host.m_calendar.GetSettings()); }},
     };
     const auto work = argc == 3 ? works.find(argv[1]) : works.end();
     if (work == works.end()) {
-        std::fprintf(stderr, "usage: counted_work paint|month|lookups COUNT\n");
+        std::fprintf(stderr, "usage: counted_work paint|month|resize|lookups COUNT\n");
         return 2;
     }
     for (int i = 0; i < 2 * kWarmUp; ++i)
