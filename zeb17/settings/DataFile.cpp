@@ -19,7 +19,7 @@ using enum CalendarSettings::Group;
 
 constexpr unsigned short kNewestVersion = 4;
 constexpr WORD kFileWord = 3; // written, and skipped by the readers: the path alone tells them the form
-constexpr int kBufferSize = 65536;
+constexpr int kBufferSize = 4096;
 
 // The groups in the order of their sections in the file.
 constexpr CalendarSettings::Group kGroups[] = {GroupUS, GroupCanada, GroupNetherlands, GroupCustom,
