@@ -9,6 +9,7 @@
 #include <cstring>
 #include <functional>
 #include <random>
+#include <span>
 #include <vector>
 
 namespace {
@@ -77,10 +78,10 @@ public:
     Struct* Place()
     {
         thread_local Struct place{};
-        const auto numbers = reinterpret_cast<unsigned char*>(&place);
-        for (std::size_t i = 0; i + sizeof(int) <= sizeof place; i += sizeof(int)) {
+        const auto bytes = std::as_writable_bytes(std::span(&place, 1));
+        for (std::size_t i = 0; i + sizeof(int) <= bytes.size(); i += sizeof(int)) {
             const int number = Number();
-            std::memcpy(numbers + i, &number, sizeof number);
+            std::memcpy(&bytes[i], &number, sizeof number);
         }
         if constexpr (requires { place.size; })
             if (m_random() % 8)
@@ -183,7 +184,10 @@ std::vector<std::function<int(Nonsense&)>> AllCalls()
         },
         [](Nonsense& n) { return zeb17_set_shading(n.Place<zeb17_shading>()); },
         [](Nonsense& n) { return zeb17_apply_shading(n.Window()); },
-        [](Nonsense& n) { return zeb17_message(n.Number()) ? 0 : 0; },
+        [](Nonsense& n) {
+            const UINT message = zeb17_message(n.Number());
+            return message == 0 || message >= 0xC000 ? 0 : -1;
+        },
         [](Nonsense& n) { return zeb17_range_end(n.Number(), n.Place<zeb17_date>()); },
         [](Nonsense& n) {
             zeb17_settings opened = nullptr;
