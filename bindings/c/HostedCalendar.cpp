@@ -410,9 +410,8 @@ int HostedCalendar::Print(const char* lpszPath)
     if (lpszPath && (!FromUtf8(lpszPath, strPath) || strPath.IsEmpty()))
         return ZEB17_BAD_TEXT;
     PrintLog log;
-    UIPrinter::SetOutputFile(strPath);
+    const UIPrinter::ToFile toFile(strPath);
     OnOptionsPrint();
-    UIPrinter::SetOutputFile("");
     if (log.m_strLine.IsEmpty())
         return ZEB17_OK;
     return Note(ZEB17_PRINT_FAILED, ToUtf8(log.m_strLine.Mid(log.m_strLine.Find('}') + 1)));

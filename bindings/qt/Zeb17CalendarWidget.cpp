@@ -11,7 +11,6 @@
 
 #include <QEvent>
 #include <QFocusEvent>
-#include <QScopeGuard>
 
 using namespace conversions;
 
@@ -136,8 +135,7 @@ bool Zeb17CalendarWidget::print()
 bool Zeb17CalendarWidget::printToPdf(const QString& path)
 {
     return m_host->run([&](Control& control) {
-        UIPrinter::SetOutputFile(toCString(path));
-        const auto askAgain = qScopeGuard([] { UIPrinter::SetOutputFile(""); });
+        const UIPrinter::ToFile toFile(toCString(path));
         control.print();
     });
 }

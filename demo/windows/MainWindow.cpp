@@ -261,8 +261,7 @@ void MainWindow::ShowHeard(const char* message, const CString& details)
 bool MainWindow::PrintToFile(const CString& path)
 {
     m_failed = false;
-    UIPrinter::SetOutputFile(path);
+    const UIPrinter::ToFile toFile(path);
     m_calendar.SendMessage(WM_COMMAND, ID_OPTIONS_PRINT);
-    UIPrinter::SetOutputFile("");
     return !m_failed;
 }

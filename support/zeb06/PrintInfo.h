@@ -29,8 +29,7 @@ public:
     // close to the edge, the margin is wider.
     CRect m_rcPageMargins;
 
-    // The window whose content is printed. It owns the print dialog, and the unit of drawing is a pixel of
-    // its screen. May be null.
+    // The window whose content is printed, which owns the print dialog. May be null.
     CWnd* m_pCtrlWnd = nullptr;
 
 private:

@@ -13,13 +13,16 @@ namespace {
 
 constexpr int kPointsPerInch = 72;
 constexpr int kMarginUnitsPerInch = 1000;
-constexpr int kDefaultScreenDpi = 96;
+constexpr int kUnitsPerInch = 96;
 
 constexpr char kFace[] = "Arial";
-constexpr int kHeaderPoints = 22;
 constexpr int kFooterPoints = 9;
-constexpr int kMinContentPoints = 6;
-constexpr int kContentLines = 28; // the lines of text that fit into the shorter side of the content
+constexpr int kMinPoints = 6;
+// The lines of text that fit into the shorter side of the page, or of the content.
+constexpr int kHeaderLines = 24;
+constexpr int kContentLines = 28;
+
+constexpr DWORD kCancelled = 1223; // the error of a call that the user cancelled
 
 constexpr COLORREF kTextColor = RGB(0, 0, 0);
 
@@ -68,12 +71,12 @@ struct UIPrinter::Job
     CFont m_fontFooter;
     CRect m_rcHeader; // in logical units, as m_page.m_rectDraw
     CRect m_rcFooter;
-    CSize m_sizeUnits = CSize(kDefaultScreenDpi, kDefaultScreenDpi); // logical units per inch
-    CString m_strLeft;                                               // the texts of the footer
+    CString m_strLeft; // the texts of the footer
     CString m_strCenter;
     CString m_strRight;
+    unsigned int m_nPagesAcross = 1;
     bool m_bStarted = false;
-    bool m_bFailed = false;
+    bool m_bFailed = false; // or was cancelled
 
     bool HasHeader() const { return !m_info.GetPageTitleText().IsEmpty(); }
     bool HasFooter() const { return !m_strLeft.IsEmpty() || !m_strCenter.IsEmpty() || !m_strRight.IsEmpty(); }
@@ -99,14 +102,16 @@ struct UIPrinter::Job
         return rect;
     }
 
-    void CreatePointFont(CFont& font, int nPoints, int nWeight) const
+    // The text grows with the paper, so that it suits a table that fills the page.
+    static int GetLinePoints(const CRect& rect, int nLines)
     {
-        LOGFONTA lf = {};
-        lf.lfHeight = -Scale(nPoints, m_sizeUnits.cy, kPointsPerInch);
-        lf.lfWeight = nWeight;
-        lf.lfCharSet = DEFAULT_CHARSET;
-        ::lstrcpynA(lf.lfFaceName, kFace, LF_FACESIZE);
-        font.CreateFontIndirect(&lf);
+        const int nSide = std::min(rect.Width(), rect.Height());
+        return std::max(Scale(nSide, kPointsPerInch, kUnitsPerInch * nLines), kMinPoints);
+    }
+
+    static void CreatePointFont(CFont& font, int nPoints, int nWeight)
+    {
+        CreateFontOfHeight(font, Scale(nPoints, kUnitsPerInch, kPointsPerInch), nWeight);
     }
 
     int GetLineHeight(const CFont& font)
@@ -127,9 +132,14 @@ UIPrinter::UIPrinter() = default;
 
 UIPrinter::~UIPrinter() = default;
 
-void UIPrinter::SetOutputFile(const CString& strPath)
+UIPrinter::ToFile::ToFile(const CString& strPath) : m_strBefore(g_strOutputFile)
 {
     g_strOutputFile = strPath;
+}
+
+UIPrinter::ToFile::~ToFile()
+{
+    g_strOutputFile = m_strBefore;
 }
 
 void UIPrinter::Print(PrintInfo* pInfo)
@@ -138,6 +148,19 @@ void UIPrinter::Print(PrintInfo* pInfo)
         return;
 
     m_pJob = std::make_unique<Job>(*pInfo);
+    try {
+        RunJob();
+    } catch (...) {
+        if (m_pJob->m_bStarted)
+            m_pJob->m_dc.AbortDoc();
+        m_pJob.reset(); // with the printer's context
+        throw;
+    }
+    m_pJob.reset();
+}
+
+void UIPrinter::RunJob()
+{
     InitPrintProcess();
     if (GetPrintDC()) {
         StartPrint();
@@ -145,7 +168,6 @@ void UIPrinter::Print(PrintInfo* pInfo)
         EndPrint();
     }
     EndPrintProcess();
-    m_pJob.reset();
 }
 
 void UIPrinter::InitPrintProcess()
@@ -181,21 +203,17 @@ bool UIPrinter::AskForPrinter(CPrintDialog& dialog)
 
 void UIPrinter::CreateHeaderFont(CFont& font) const
 {
-    m_pJob->CreatePointFont(font, kHeaderPoints, FW_BOLD);
+    Job::CreatePointFont(font, Job::GetLinePoints(m_pJob->GetPageRect(), kHeaderLines), FW_BOLD);
 }
 
-// The text grows with the paper, so that it suits a table that fills the page.
 void UIPrinter::CreateContentFont(CFont& font) const
 {
-    const CRect& rect = m_pJob->m_page.m_rectDraw;
-    const int nSide = std::min(rect.Width(), rect.Height());
-    const int nPoints = Scale(nSide, kPointsPerInch, m_pJob->m_sizeUnits.cy * kContentLines);
-    m_pJob->CreatePointFont(font, std::max(nPoints, kMinContentPoints), FW_NORMAL);
+    Job::CreatePointFont(font, Job::GetLinePoints(m_pJob->m_page.m_rectDraw, kContentLines), FW_NORMAL);
 }
 
 void UIPrinter::CreateFooterFont(CFont& font) const
 {
-    m_pJob->CreatePointFont(font, kFooterPoints, FW_NORMAL);
+    Job::CreatePointFont(font, kFooterPoints, FW_NORMAL);
 }
 
 void UIPrinter::StartPrint()
@@ -210,20 +228,20 @@ void UIPrinter::StartPrint()
     if (!g_strOutputFile.IsEmpty())
         document.lpszOutput = g_strOutputFile;
     m_pJob->m_bStarted = m_pJob->m_dc.StartDoc(&document) > 0;
-    if (!m_pJob->m_bStarted)
+    if (m_pJob->m_bStarted)
+        return;
+    if (::GetLastError() == kCancelled) // a printer that asks for the name of a file
+        m_pJob->m_bFailed = true;
+    else
         FailWithLastError("The print job could not be started.");
 }
 
 void UIPrinter::DoPrePrintCalculations()
 {
     Job& job = *m_pJob;
-    if (CDC* pScreenDC = GetCtrlDC()) {
-        job.m_sizeUnits = CSize(pScreenDC->GetDeviceCaps(LOGPIXELSX), pScreenDC->GetDeviceCaps(LOGPIXELSY));
-        ReleaseScreenDC(pScreenDC);
-    }
     const HDC hDC = job.m_dc.m_hDC;
     ::SetMapMode(hDC, MM_ANISOTROPIC);
-    ::SetWindowExtEx(hDC, job.m_sizeUnits.cx, job.m_sizeUnits.cy, nullptr);
+    ::SetWindowExtEx(hDC, kUnitsPerInch, kUnitsPerInch, nullptr);
     ::SetViewportExtEx(hDC, job.m_dc.GetDeviceCaps(LOGPIXELSX), job.m_dc.GetDeviceCaps(LOGPIXELSY), nullptr);
 
     CreateHeaderFont(job.m_fontHeader);
@@ -263,7 +281,8 @@ unsigned int UIPrinter::DoCalculatePagesDown()
 
 void UIPrinter::PrintPages()
 {
-    const unsigned int nPages = DoCalculatePagesAcross() * DoCalculatePagesDown();
+    m_pJob->m_nPagesAcross = std::max(DoCalculatePagesAcross(), 1U);
+    const unsigned int nPages = m_pJob->m_nPagesAcross * DoCalculatePagesDown();
     for (unsigned int nPage = 1; nPage <= nPages && !m_pJob->m_bFailed; ++nPage) {
         m_pJob->m_page.m_nCurPage = nPage;
         PrintPage();
@@ -337,6 +356,25 @@ CDC* UIPrinter::GetPrintDC() const
 CPrintInfo* UIPrinter::GetPrintInfo() const
 {
     return m_pJob ? &m_pJob->m_page : nullptr;
+}
+
+CPoint UIPrinter::GetPagePlace() const
+{
+    if (!m_pJob)
+        return {};
+    const unsigned int nIndex = m_pJob->m_page.m_nCurPage - 1;
+    const unsigned int nAcross = m_pJob->m_nPagesAcross;
+    return CPoint(static_cast<int>(nIndex % nAcross), static_cast<int>(nIndex / nAcross));
+}
+
+void UIPrinter::CreateFontOfHeight(CFont& font, int nHeight, int nWeight)
+{
+    LOGFONTA lf = {};
+    lf.lfHeight = -nHeight;
+    lf.lfWeight = nWeight;
+    lf.lfCharSet = DEFAULT_CHARSET;
+    ::lstrcpynA(lf.lfFaceName, kFace, LF_FACESIZE);
+    font.CreateFontIndirect(&lf);
 }
 
 void UIPrinter::SetPrintDC(HDC hDC)

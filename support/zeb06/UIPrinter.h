@@ -1,8 +1,7 @@
 // The printer framework, which runs a print job. A derived class draws the pages.
 //
-// A page has a heading, the content rectangle and a footer. The unit of drawing is one pixel of the screen
-// that shows the printed window, usually 1/96 inch, whatever the resolution of the printer, so that lines and
-// distances look as on the screen. Fonts are made in points.
+// A page has a heading, the content rectangle and a footer. The unit of drawing is 1/96 inch, whatever the
+// resolution of the printer and the density of the screen. Fonts are made in points.
 #pragma once
 
 #include <afxwin.h>
@@ -23,12 +22,23 @@ public:
     UIPrinter& operator=(const UIPrinter&) = delete;
 
     // Runs the whole job, and returns when it has ended, has failed or was cancelled. pInfo then tells what
-    // went wrong. Does nothing if pInfo is null.
+    // went wrong. Does nothing if pInfo is null. What an overridden operation throws ends the job and reaches
+    // the caller.
     void Print(PrintInfo* pInfo);
 
-    // Makes all later jobs print to this file, on the default printer and without a dialog; an empty path
-    // ends that. For hosts that print without a user.
-    static void SetOutputFile(const CString& strPath);
+    // While such an object lives, all jobs print to its file, on the default printer and without a dialog.
+    // For hosts that print without a user. With an empty path jobs ask as usual.
+    class ZEB17_EXPORT ToFile
+    {
+    public:
+        explicit ToFile(const CString& strPath);
+        ~ToFile();
+        ToFile(const ToFile&) = delete;
+        ToFile& operator=(const ToFile&) = delete;
+
+    private:
+        CString m_strBefore; // the path of an object that lives longer
+    };
 
 protected:
     // The operations in the order in which they stand in the table of virtual operations; Print calls
@@ -48,7 +58,8 @@ protected:
     // Works out units, margins and the content rectangle of a page.
     virtual void DoPrePrintCalculations();
 
-    // Gives a context of the printed window, which tells the measures of the screen, or null; takes it back.
+    // Gives a context of the printed window, for derived classes that draw by the measures of the screen, or
+    // null; takes it back.
     virtual CDC* GetCtrlDC() const;
     virtual void ReleaseScreenDC(CDC* pDC) const;
 
@@ -89,6 +100,13 @@ protected:
     // The job's page, or null. Its m_rectDraw is the content rectangle of the page at hand.
     CPrintInfo* GetPrintInfo() const;
 
+    // The column and the row of the page at hand, among those that DoCalculatePagesAcross and
+    // DoCalculatePagesDown give; both from 0.
+    CPoint GetPagePlace() const;
+
+    // Makes a font of the face of the page, whose letters have this height in units of drawing.
+    static void CreateFontOfHeight(CFont& font, int nHeight, int nWeight = FW_NORMAL);
+
     // Takes over a printer's context, which is deleted at the end of the job. For derived classes that choose
     // the printer without a dialog.
     void SetPrintDC(HDC hDC);
@@ -99,6 +117,7 @@ protected:
     void FailWithLastError(const CString& strMsg); // adds the text of the system's last error
 
 private:
+    void RunJob();
     bool AskForPrinter(CPrintDialog& dialog);
 
     struct Job;

@@ -44,6 +44,8 @@ drive_calendar() {
         keys Prior; check 'back' "$(date_heard 2026-11-24)"
     fi
 
+    [ "$platform" = windows ] || drive_layouts
+
     # Tips: of a step button, and of the 26th, Thanksgiving in the United States.
     xdotool mousemove $((left + 12)) $((top + 12)) mousemove_relative 1 0
     sleep 1.5
@@ -53,4 +55,14 @@ drive_calendar() {
     picture tip-day
     check 'hovering' ''
     stop_demo
+}
+
+# On layouts that are not Latin a letter is known by the place of its key: 28 is that of T, 54 that of C.
+drive_layouts() {
+    for layout in ru gr us; do
+        setxkbmap "$layout"
+        sleep 0.5
+        keys alt+54; check "Clear by Alt and the key of C, $layout" "$(none_heard)"
+        keys 28; check "today by the key of T, $layout" "$(date_heard 2026-11-24)"
+    done
 }

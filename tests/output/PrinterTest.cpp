@@ -148,6 +148,22 @@ TEST_F(PrinterTest, CellsShowTheirDays)
     }
 }
 
+// A name wider than its column is written smaller, and touches no line.
+TEST_F(PrinterTest, LongNamesAreMadeToFit)
+{
+    ASSERT_TRUE(LocaleUtils::SetLocale("ar-EG"));
+    constexpr int kStep = 20;
+    const SheetPrinter printer(sheet, CRect(0, 0, 7 * kStep + 2, 702), DateTime(2026, 9, 1, 0, 0, 0));
+    bool bText = false;
+    for (int y = 3; y < 99; ++y)
+        for (int i = 0; i < 7; ++i) {
+            for (const int x : {2, kStep - 1})
+                EXPECT_EQ(sheet.GetPixel(1 + i * kStep + x, y), kPaper) << x << ',' << y;
+            bText = bText || sheet.GetPixel(1 + i * kStep + kStep / 2, y) != kPaper;
+        }
+    EXPECT_TRUE(bText);
+}
+
 class PrintedCalendar : public CCalendarWnd
 {
 public:
@@ -158,14 +174,13 @@ TEST_F(PrinterTest, FailureIsLoggedWithItsText)
 {
     PrintedCalendar calendar;
     for (const char* pszFile : {"/no/such/folder/page.pdf", "/dev/full"}) {
-        UIPrinter::SetOutputFile(pszFile);
+        const UIPrinter::ToFile toFile(pszFile);
         calendar.OnOptionsPrint(); // without a log
         const RecordingLogger logger;
         calendar.OnOptionsPrint();
         EXPECT_THAT(logger.m_lines, testing::ElementsAre(testing::MatchesRegex(
                                         "\\{78FAA3F2-6C47-4BBA-853B-740B92F8688A\\}The.+")));
     }
-    UIPrinter::SetOutputFile("");
 }
 
 }

@@ -2,10 +2,12 @@
 #include "CalendarWndPrinter.h"
 
 #include <afxext.h>
+#include <FontSelection.h>
 #include <LocaleUtils.h>
 #include <MonthBlock.h>
 #include <NumberTextConv.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -44,6 +46,27 @@ void DrawLines(CDC& dc, const Grid& grid)
         dc.MoveTo(grid.m_columns[i], grid.m_rect.top);
         dc.LineTo(grid.m_columns[i], grid.m_rect.bottom);
     }
+}
+
+int GetWidth(CDC& dc, const CString& strText)
+{
+    CRect rect;
+    dc.DrawText(strText, &rect, DT_CALCRECT | DT_SINGLELINE);
+    return rect.Width();
+}
+
+// The height of letters at which the widest name fits its column; 0 if it fits as it is.
+int GetHeightThatFits(CDC& dc, const Grid& grid)
+{
+    int nWidest = 0;
+    for (int nWeekday = 1; nWeekday <= MonthBlock::kColumns; ++nWeekday)
+        nWidest = std::max(nWidest, GetWidth(dc, LocaleUtils::GetDayName(nWeekday, true)));
+    const int nRoom = std::max(grid.GetTextRect({1, 2}).Width(), 1);
+    if (nWidest <= nRoom)
+        return 0;
+    TEXTMETRICA metrics = {};
+    dc.GetTextMetrics(&metrics);
+    return std::max<int>((metrics.tmHeight - metrics.tmInternalLeading) * nRoom / nWidest, 1);
 }
 
 void DrawDayNames(CDC& dc, const Grid& grid)
@@ -105,6 +128,13 @@ void CCalendarWndPrinter::PrintMonth(CDC& dc, CRect rect, COLORREF crText) const
     const auto shape = MonthBlock::ShapeOf(m_date);
     if (!shape)
         return;
-    DrawDayNames(dc, grid);
+    if (const int nHeight = GetHeightThatFits(dc, grid)) {
+        CFont font;
+        CreateFontOfHeight(font, nHeight);
+        const FontSelection selection(dc, font);
+        DrawDayNames(dc, grid);
+    } else {
+        DrawDayNames(dc, grid);
+    }
     DrawDays(dc, grid, *shape, crText);
 }

@@ -24,7 +24,7 @@ inline const std::vector<int> kSheetEnd = StoredText<3>("-->");
 inline const std::vector<int> kBodyRule = StoredText<38>("body { margin: 0 auto; padding: 1em; }");
 inline const std::vector<int> kHeadingRule = StoredText<34>("h1 { margin: 0; font-size: 1.5em }");
 inline const std::vector<int> kLightColors = StoredText<130>(
-    ":root { --ink: #1c2430; --soft: #707988; --line: #c4c9d1; --head: #f9f49b; --name: #3d3a1c; "
+    ":root { --ink: #1c2430; --soft: #666f7d; --line: #c4c9d1; --head: #f9f49b; --name: #3d3a1c; "
     "--cell: #ffffff; --page: whitesmoke; }");
 inline const std::vector<int> kDarkColors =
     StoredText<155>("@media (prefers-color-scheme: dark) { :root { --ink: #e9edf3; --soft: #8791a1; --line: "
@@ -39,9 +39,9 @@ inline const std::vector<int> kGridRule =
 inline const std::vector<int> kCellRule = StoredText<178>(
     ".grid > div { box-sizing: border-box; min-height: 4.5em; padding: 0.5em 0.625em; border: "
     "solid var(--line); border-width: 0 0 1px; border-inline-end-width: 1px; overflow: clip; }");
-inline const std::vector<int> kNameRule =
-    StoredText<167>(".grid > .wd { min-height: auto; padding: 0.5em 0.125em; background-color: var(--head); "
-                    "color: var(--name); font-weight: 600; text-align: center; white-space: nowrap; }");
+inline const std::vector<int> kNameRule = StoredText<167>(
+    ".grid > .wd { min-height: unset; padding: 0.5em 0.0625em; background: var(--head); color: "
+    "var(--name); font-weight: 600; text-align: center; overflow-wrap: anywhere; }");
 inline const std::vector<int> kNumberRule =
     StoredText<151>(".grid > .day, .grid > .next, .grid > .prior { font-size: 1.12em; font-variant-numeric: "
                     "lining-nums tabular-nums; line-height: 1.2; text-align: start; }");
@@ -56,23 +56,23 @@ inline const std::vector<int> kLastColumnRule = StoredText<165>(
     "edge of the grid itself, and one more line beside it would be too much */");
 inline const std::vector<int> kNarrowRule =
     StoredText<149>("@media (max-width: 30rem) { body { padding: 0.5em; } .grid > div { min-height: 3.25em; "
-                    "padding: 0.25em 0.375em; } .grid > .wd { font-size: 0.8em; } }");
+                    "padding: 0.25em 0.375em; } .grid > .wd { font-size: 2.7vw; } }");
 inline const std::vector<int> kPrintColors = StoredText<148>(
     "@media print { :root { --ink: #000; --soft: #888; --line: #000; --head: #fff; --name: #000; "
-    "--cell: #fff; --page: #fff} .grid div {min-height: 6em}}");
+    "--cell: #fff; --page: #fff} .grid div {min-height: 5em}}");
 inline const std::vector<int> kPaperRule =
-    StoredText<132>("@media print { @page { margin: .5in; } body { max-width: none; padding: 0; } .grid { "
-                    "border-radius: 0; break-inside: avoid-page; } }");
+    StoredText<132>("@media print { @page { margin: .5in } body { max-width: none; padding: 0 } .grid { "
+                    "break-inside: avoid; print-color-adjust: exact }}");
 inline const std::vector<int> kStyleEnd = StoredText<8>("</style>");
 inline const std::vector<int> kHeadEnd = StoredText<7>("</head>");
 
-// The body.
-inline const std::vector<int> kBody = StoredText<6>("<body>");
+// The body. HTML lets a page leave out its tags; what the user reads stands in the main part.
+inline const std::vector<int> kBody = StoredText<6>("<main>");
 inline const std::vector<int> kHeadingBegin = StoredText<8>("    <h1>");
 inline const std::vector<int> kHeadingEnd = StoredText<5>("</h1>");
 inline const std::vector<int> kGrid = StoredText<22>(R"(    <div class="grid">)");
 inline const std::vector<int> kGridEnd = StoredText<10>("    </div>");
-inline const std::vector<int> kBodyEnd = StoredText<7>("</body>");
+inline const std::vector<int> kBodyEnd = StoredText<7>("</main>");
 inline const std::vector<int> kHtmlEnd = StoredText<7>("</html>");
 
 // The beginnings of the cells. The marks for the last row and column and the end of the tag follow each but

@@ -3,10 +3,14 @@
 
 #include <UIPrinter.h>
 
+#include <TemporaryDirectory.h>
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -78,13 +82,12 @@ TEST(UIPrinterTest, PageHasItsMarginsAndTextThatSuitsIt)
         GTEST_SKIP() << "no printer on this machine";
 
     const std::filesystem::path path = std::filesystem::temp_directory_path() / "zeb17_page_test.prn";
-    UIPrinter::SetOutputFile(path.string().c_str());
+    const UIPrinter::ToFile toFile(path.string().c_str());
     PrintInfo info;
     info.SetPageTitleText("September 2026");
     info.m_rcPageMargins.SetRect(1000, 2000, 3000, 1500);
     PagePrinter printer;
     printer.Print(&info);
-    UIPrinter::SetOutputFile("");
 
     EXPECT_STREQ(info.GetErrorMsg(), "");
     EXPECT_TRUE(std::filesystem::exists(path));
@@ -97,6 +100,40 @@ TEST(UIPrinterTest, PageHasItsMarginsAndTextThatSuitsIt)
     EXPECT_GT(printer.m_rcContent.Height(), nPage - 60);
     EXPECT_LT(printer.m_sizeLine.cx, printer.m_rcContent.Width() / 7);
     EXPECT_GT(printer.m_sizeLine.cy, 7);
+}
+
+// Asks for several pages and notes where each stands; throws at the last.
+class ThrowingPrinter : public UIPrinter
+{
+public:
+    std::vector<std::pair<int, int>> m_places;
+
+protected:
+    unsigned int DoCalculatePagesAcross() override { return 2; }
+    unsigned int DoCalculatePagesDown() override { return 3; }
+    void PrintPageContent(COLORREF) override
+    {
+        m_places.emplace_back(GetPagePlace().x, GetPagePlace().y);
+        if (m_places.size() == 6)
+            throw std::runtime_error("of the host");
+    }
+};
+
+TEST(UIPrinterTest, WhatAnOperationThrowsEndsTheJob)
+{
+    if (!CPrintDialog().GetDefaults())
+        GTEST_SKIP() << "no printer on this machine";
+    const TemporaryDirectory folder;
+    const UIPrinter::ToFile toFile(folder.PathOf("page.prn").c_str());
+    PrintInfo info;
+    ThrowingPrinter printer;
+    EXPECT_THROW(printer.Print(&info), std::runtime_error);
+    const std::vector<std::pair<int, int>> places = {{0, 0}, {1, 0}, {0, 1}, {1, 1}, {0, 2}, {1, 2}};
+    EXPECT_EQ(printer.m_places, places);
+    EXPECT_TRUE(folder.Names().empty());
+    PagePrinter next;
+    next.Print(&info);
+    EXPECT_STREQ(info.GetErrorMsg(), "");
 }
 
 }
