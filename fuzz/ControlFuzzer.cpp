@@ -14,10 +14,10 @@
 namespace {
 
 // Messages without pointers, as the system or a stranger may send them.
-constexpr UINT kMessages[] = {WM_LBUTTONDOWN, WM_LBUTTONUP,  WM_LBUTTONDBLCLK,  WM_RBUTTONDOWN, WM_MOUSEMOVE,
-                              WM_MOUSEWHEEL,  WM_MOUSELEAVE, WM_SIZE,           WM_KILLFOCUS,   WM_ENABLE,
-                              WM_SHOWWINDOW,  WM_PAINT,      WM_CHAR,           WM_KEYDOWN,     WM_KEYUP,
-                              WM_TIMER,       WM_GETDLGCODE, WM_SYSCOLORCHANGE, WM_CANCELMODE};
+constexpr UINT kMessages[] = {WM_LBUTTONDOWN, WM_LBUTTONUP,  WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_MOUSEMOVE,
+                              WM_MOUSEWHEEL,  WM_MOUSELEAVE, WM_SIZE,          WM_KILLFOCUS,   WM_ENABLE,
+                              WM_SHOWWINDOW,  WM_PAINT,      WM_CHAR,          WM_KEYDOWN,     WM_KEYUP,
+                              WM_TIMER,       WM_GETDLGCODE, WM_CANCELMODE};
 
 // Hands out the bytes of the input; 0 when there are none left.
 class Bytes
@@ -78,7 +78,7 @@ public:
             break;
         }
         case 6:
-            m_calendar.MoveWindow(0, 0, bytes.TakeWord() - 0x4000, bytes.TakeWord() - 0x4000);
+            m_calendar.MoveWindow(0, 0, bytes.Take() * 4 - 20, bytes.Take() * 4 - 20);
             break;
         default:
             bytes.Take() & 1 ? m_frame.SetFocus() : m_calendar.SetFocus();
