@@ -1,6 +1,6 @@
 #include "ColorButton.h"
 
-#include <afxdlgs.h>
+#include "Controls.h"
 
 void ColorButton::SetColor(COLORREF color)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ColorButton.h"
+#include "Controls.h"
 #include "ModalWindow.h"
 #include "Rules.h"
 
@@ -71,9 +72,9 @@ private:
     CComboBox m_day;
     CComboBox m_years;
     CEdit m_year;
-    CButton m_workingDay;
+    CheckBox m_workingDay;
     ColorButton m_color;
-    CButton m_show;
+    CheckBox m_show;
     CStatic m_words;
     CButton m_ok;
     CButton m_cancel;

@@ -1,7 +1,7 @@
 // The user's own dates and to-do entries, one a row.
 #pragma once
 
-#include <afxwin.h>
+#include "Controls.h"
 
 #include <CalendarSettings.h>
 

@@ -2,8 +2,6 @@
 
 #include "ListRow.h"
 
-#include <afxdlgs.h>
-
 namespace {
 
 constexpr int kBoxLeft = 6;

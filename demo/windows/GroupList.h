@@ -1,7 +1,7 @@
 // The five groups of dates, each with a check box (shown) and a swatch (its colour).
 #pragma once
 
-#include <afxwin.h>
+#include "Controls.h"
 
 #include <CalendarSettings.h>
 

@@ -2,6 +2,7 @@
 // messages heard.
 #pragma once
 
+#include "Controls.h"
 #include "DemoCalendar.h"
 #include "HostLog.h"
 #include "SettingsPanel.h"

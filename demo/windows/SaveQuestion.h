@@ -1,6 +1,7 @@
 // Asks what is to become of changes that are not saved.
 #pragma once
 
+#include "Controls.h"
 #include "ModalWindow.h"
 
 class SaveQuestion : public ModalWindow

@@ -1,11 +1,10 @@
 // The panel beside the calendar: the groups, the user's dates, and what is done with them.
 #pragma once
 
+#include "Controls.h"
 #include "DemoCalendar.h"
 #include "EntryList.h"
 #include "GroupList.h"
-
-#include <afxwin.h>
 
 class SettingsPanel : public CWnd
 {

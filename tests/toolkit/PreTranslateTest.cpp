@@ -52,7 +52,7 @@ protected:
         EXPECT_TRUE(CreateChild(m_middle, m_top, 1));
         // A window without an object stands between.
         m_plain =
-            CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 40, 40, m_middle, nullptr, nullptr, nullptr);
+            CreateWindowExA(0, "BUTTON", "", WS_CHILD, 0, 0, 40, 40, m_middle, nullptr, nullptr, nullptr);
         EXPECT_TRUE(
             m_leaf.CreateEx(0, AfxRegisterWndClass(0), "leaf", WS_CHILD, 0, 0, 9, 9, m_plain, nullptr));
     }

@@ -57,24 +57,6 @@ TEST_F(Dialogs, AMessageBoxIsAnsweredByEnterOrEscape)
     }
 }
 
-TEST_F(Dialogs, ColorsAreChosenOrNot)
-{
-    COLORREF custom[16] = {RGB(1, 2, 3)};
-    for (const int key : {VK_RETURN, VK_ESCAPE}) {
-        CHOOSECOLORA dialog{};
-        dialog.lStructSize = static_cast<DWORD>(sizeof dialog);
-        dialog.hwndOwner = top;
-        dialog.rgbResult = RGB(10, 200, 30);
-        dialog.lpCustColors = custom;
-        dialog.Flags = CC_RGBINIT;
-        answer(key);
-        EXPECT_EQ(ChooseColorA(&dialog), key == VK_RETURN);
-        EXPECT_EQ(dialog.rgbResult, RGB(10, 200, 30));
-        EXPECT_EQ(custom[0], RGB(1, 2, 3));
-        expectOwnerBack();
-    }
-}
-
 TEST_F(Dialogs, FilesAreChosenOrNot)
 {
     for (const int key : {VK_RETURN, VK_ESCAPE}) {

@@ -74,9 +74,7 @@ constexpr struct
 {
     int code;
     const char* name;
-} kNotifications[] = {{BN_CLICKED, "CLICKED"}, {LBN_SELCHANGE, "SELECTED"}, {LBN_DBLCLK, "TWICE"},
-                      {EN_CHANGE, "CHANGED"},  {EN_SETFOCUS, "FOCUSED"},    {BN_DOUBLECLICKED, "TWICE"},
-                      {EN_MAXTEXT, "FULL"},    {EN_KILLFOCUS, "LEFT"}};
+} kNotifications[] = {{BN_CLICKED, "CLICKED"}, {BN_DOUBLECLICKED, "TWICE"}};
 
 const char* notificationOf(WPARAM command)
 {

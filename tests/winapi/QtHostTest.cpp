@@ -300,45 +300,6 @@ TEST_F(QtHost, KeysOfEveryLayoutAreHeard)
     }
 }
 
-std::string textOf(HWND window)
-{
-    char text[40];
-    GetWindowTextA(window, text, sizeof(text));
-    return text;
-}
-
-TEST_F(QtHost, TextOfAnInputMethodIsTyped)
-{
-    const HWND top = recorder.createTop("t");
-    const auto createEdit = [top](DWORD style) {
-        return CreateWindowExA(0, "EDIT", "", WS_CHILD | WS_VISIBLE | style, 20, 30, 100, 20, top, nullptr,
-                               nullptr, nullptr);
-    };
-    QWidget* const widget = QWidgetFromWindow(top);
-    const auto isAsked = [widget] { return widget->inputMethodQuery(Qt::ImEnabled).toBool(); };
-    EXPECT_FALSE(isAsked()) << "no text field has the focus";
-    SetFocus(createEdit(ES_READONLY));
-    EXPECT_FALSE(isAsked());
-    const HWND edit = createEdit(0);
-    SetFocus(edit);
-    EXPECT_TRUE(isAsked());
-    const QRectF caret = widget->inputMethodQuery(Qt::ImCursorRectangle).toRectF();
-    EXPECT_TRUE(QRectF(20, 30, 100, 20).contains(caret.center()));
-
-    QInputMethodEvent begun("\u00B4", {});
-    QCoreApplication::sendEvent(widget, &begun);
-    EXPECT_EQ(textOf(edit), "");
-    QInputMethodEvent done;
-    done.setCommitString(QString::fromUtf8("\u00E9\u6708"));
-    QCoreApplication::sendEvent(widget, &done);
-    serveMessages();
-    EXPECT_EQ(textOf(edit), "\u00E9\u6708");
-    SetFocus(top);
-    QCoreApplication::sendEvent(widget, &done);
-    serveMessages();
-    EXPECT_EQ(textOf(edit), "\u00E9\u6708");
-}
-
 TEST_F(QtHost, AMenuTakesNoFocusAway)
 {
     const HWND top = recorder.createTop("t");

@@ -1,11 +1,9 @@
-// The system's dialogs for a colour, a file, and a printer.
+// The system's dialogs for a file and a printer.
 #include <afxdlgs.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
-IMPLEMENT_DYNAMIC(CColorDialog, CWnd)
 IMPLEMENT_DYNAMIC(CFileDialog, CWnd)
 IMPLEMENT_DYNAMIC(CPrintDialog, CWnd)
 
@@ -16,32 +14,6 @@ HWND OwnerOf(const CWnd* pParent)
     return pParent ? pParent->m_hWnd : ::GetActiveWindow();
 }
 
-COLORREF* GetCustomColors()
-{
-    static auto s_colors = [] {
-        std::array<COLORREF, 16> white;
-        white.fill(RGB(255, 255, 255));
-        return white;
-    }();
-    return s_colors.data();
-}
-
-}
-
-// ---- CColorDialog ----
-
-CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
-{
-    m_cc.lStructSize = static_cast<DWORD>(sizeof m_cc);
-    m_cc.hwndOwner = OwnerOf(pParentWnd);
-    m_cc.rgbResult = clrInit;
-    m_cc.lpCustColors = GetCustomColors();
-    m_cc.Flags = dwFlags | CC_RGBINIT;
-}
-
-INT_PTR CColorDialog::DoModal()
-{
-    return ::ChooseColorA(&m_cc) ? IDOK : IDCANCEL;
 }
 
 // ---- CFileDialog ----

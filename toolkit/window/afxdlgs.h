@@ -28,22 +28,6 @@ private:
     void FreeBlocks();
 };
 
-// The dialog that asks for a colour. The colours that the user mixes are remembered until the process ends.
-class ZEB17_EXPORT CColorDialog : public CWnd
-{
-    DECLARE_DYNAMIC(CColorDialog)
-public:
-    // clrInit: the colour that is shown first. dwFlags: CC_ flags.
-    explicit CColorDialog(COLORREF clrInit = 0, DWORD dwFlags = 0, CWnd* pParentWnd = nullptr);
-
-    // Shows the dialog, and gives IDOK, or IDCANCEL if it was cancelled or failed.
-    virtual INT_PTR DoModal();
-    // The colour chosen.
-    COLORREF GetColor() const { return m_cc.rgbResult; }
-
-    CHOOSECOLORA m_cc{};
-};
-
 // The dialog that asks for a file to open or to save to.
 class ZEB17_EXPORT CFileDialog : public CWnd
 {

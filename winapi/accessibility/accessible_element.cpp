@@ -43,15 +43,9 @@ struct RolePair
     QAccessible::Role qt;
 };
 constexpr RolePair kRoles[] = {
-    {ROLE_SYSTEM_DIALOG, QAccessible::Dialog},
-    {ROLE_SYSTEM_TABLE, QAccessible::Table},
-    {ROLE_SYSTEM_CELL, QAccessible::Cell},
-    {ROLE_SYSTEM_LIST, QAccessible::List},
-    {ROLE_SYSTEM_STATICTEXT, QAccessible::StaticText},
-    {ROLE_SYSTEM_TEXT, QAccessible::EditableText},
+    {ROLE_SYSTEM_DIALOG, QAccessible::Dialog},     {ROLE_SYSTEM_TABLE, QAccessible::Table},
+    {ROLE_SYSTEM_CELL, QAccessible::Cell},         {ROLE_SYSTEM_STATICTEXT, QAccessible::StaticText},
     {ROLE_SYSTEM_PUSHBUTTON, QAccessible::Button},
-    {ROLE_SYSTEM_CHECKBUTTON, QAccessible::CheckBox},
-    {ROLE_SYSTEM_COMBOBOX, QAccessible::ComboBox},
 };
 
 QAccessible::Role roleFor(LONG role)
@@ -61,18 +55,16 @@ QAccessible::Role roleFor(LONG role)
     return found == std::end(kRoles) ? QAccessible::Client : found->qt;
 }
 
-QAccessible::State stateFor(LONG flags, LONG role)
+QAccessible::State stateFor(LONG flags)
 {
     const auto has = [flags](LONG flag) { return (flags & flag) != 0; };
     QAccessible::State state;
     state.disabled = has(STATE_SYSTEM_UNAVAILABLE);
     state.selected = has(STATE_SYSTEM_SELECTED);
     state.focused = has(STATE_SYSTEM_FOCUSED);
-    state.checked = has(STATE_SYSTEM_CHECKED);
     state.invisible = has(STATE_SYSTEM_INVISIBLE);
     state.focusable = has(STATE_SYSTEM_FOCUSABLE);
     state.selectable = has(STATE_SYSTEM_SELECTABLE);
-    state.checkable = role == ROLE_SYSTEM_CHECKBUTTON;
     return state;
 }
 
@@ -198,10 +190,7 @@ public:
     }
 
     QAccessible::Role role() const override { return roleFor(ask(&IAccessible::get_accRole)); }
-    QAccessible::State state() const override
-    {
-        return stateFor(ask(&IAccessible::get_accState), ask(&IAccessible::get_accRole));
-    }
+    QAccessible::State state() const override { return stateFor(ask(&IAccessible::get_accState)); }
 
     void* interface_cast(QAccessible::InterfaceType type) override
     {

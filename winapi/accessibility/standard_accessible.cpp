@@ -12,45 +12,12 @@ using namespace winapi;
 
 namespace {
 
-// Which text is a window's name.
-enum class Speaks
+LONG roleOf(const Window& window)
 {
-    OwnText,
-    LabelText, // that of the label before it; its own text is its value
-};
-
-struct Kind
-{
-    LONG role;
-    Speaks name;
-};
-
-Kind buttonKind(const Window& window)
-{
-    const bool checks = (window.style & BS_TYPEMASK) == BS_AUTOCHECKBOX;
-    return {checks ? ROLE_SYSTEM_CHECKBUTTON : ROLE_SYSTEM_PUSHBUTTON, Speaks::OwnText};
-}
-
-Kind kindOf(const Window& window)
-{
-    struct ClassKind
-    {
-        const char* className;
-        Kind kind;
-    };
-    static constexpr ClassKind kKinds[] = {
-        {"static", {ROLE_SYSTEM_STATICTEXT, Speaks::OwnText}},
-        {"edit", {ROLE_SYSTEM_TEXT, Speaks::LabelText}},
-        {"listbox", {ROLE_SYSTEM_LIST, Speaks::LabelText}},
-        {"combobox", {ROLE_SYSTEM_COMBOBOX, Speaks::LabelText}},
-        {"#32770", {ROLE_SYSTEM_DIALOG, Speaks::OwnText}},
-    };
     const QString name = QString::fromStdString(window.windowClass->name).toLower();
     if (name == "button")
-        return buttonKind(window);
-    const auto* const found = std::find_if(std::begin(kKinds), std::end(kKinds),
-                                           [&](const ClassKind& kind) { return name == kind.className; });
-    return found != std::end(kKinds) ? found->kind : Kind{ROLE_SYSTEM_CLIENT, Speaks::OwnText};
+        return ROLE_SYSTEM_PUSHBUTTON;
+    return name == "#32770" ? ROLE_SYSTEM_DIALOG : ROLE_SYSTEM_CLIENT;
 }
 
 QString textOf(HWND window)
@@ -58,17 +25,6 @@ QString textOf(HWND window)
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
     GetWindowTextA(window, text.data(), static_cast<int>(text.size()));
     return QString::fromUtf8(text.c_str());
-}
-
-// The text of the nearest label before the window.
-QString labelOf(const Window& window)
-{
-    const auto& siblings = window.parent->children;
-    const auto self = std::find(siblings.begin(), siblings.end(), &window);
-    const auto label =
-        std::find_if(std::make_reverse_iterator(self), siblings.rend(),
-                     [](const Window* sibling) { return kindOf(*sibling).role == ROLE_SYSTEM_STATICTEXT; });
-    return label == siblings.rend() ? QString() : textOf((*label)->handle);
 }
 
 HRESULT give(const QString& text, BSTR* result)
@@ -169,27 +125,19 @@ public:
     }
     HRESULT get_accName(VARIANT child, BSTR* name) override
     {
-        return tellOfSelf(child, [&](Window& window) {
-            if (kindOf(window).name == Speaks::OwnText)
-                return give(textOf(m_window).remove('&'), name);
-            return give(labelOf(window).remove('&').remove(':'), name);
-        });
+        return tellOfSelf(child, [&](Window&) { return give(textOf(m_window).remove('&'), name); });
     }
     HRESULT get_accValue(VARIANT child, BSTR* value) override
     {
-        return tellOfSelf(child, [&](Window& window) {
-            const Kind kind = kindOf(window);
-            const bool secret = kind.role == ROLE_SYSTEM_TEXT && window.is(ES_PASSWORD);
-            return give(kind.name == Speaks::LabelText && !secret ? textOf(m_window) : QString(), value);
-        });
+        return tellOfSelf(child, [&](Window&) { return give(QString(), value); });
     }
     HRESULT get_accDescription(VARIANT, BSTR* text) override { return give(QString(), text); }
     HRESULT get_accHelp(VARIANT, BSTR* text) override { return give(QString(), text); }
     HRESULT get_accHelpTopic(BSTR*, VARIANT, LONG*) override { return E_NOTIMPL; }
     HRESULT get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) override
     {
-        return tellOfSelf(child, [&](Window& window) {
-            const QString text = kindOf(window).name == Speaks::OwnText ? textOf(m_window) : labelOf(window);
+        return tellOfSelf(child, [&](Window&) {
+            const QString text = textOf(m_window);
             const qsizetype mark = text.indexOf('&');
             const bool marked = mark >= 0 && mark + 1 < text.size();
             return give(marked ? "Alt+" + text.mid(mark + 1, 1).toUpper() : QString(), shortcut);
@@ -197,7 +145,7 @@ public:
     }
     HRESULT get_accRole(VARIANT child, VARIANT* role) override
     {
-        return tellOfSelf(child, [&](Window& window) { return give(kindOf(window).role, role); });
+        return tellOfSelf(child, [&](Window& window) { return give(roleOf(window), role); });
     }
     HRESULT get_accState(VARIANT child, VARIANT* state) override
     {
@@ -279,8 +227,7 @@ private:
 
     static bool canBePressed(const Window& window)
     {
-        const LONG role = kindOf(window).role;
-        return window.isEnabled() && (role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_CHECKBUTTON);
+        return window.isEnabled() && roleOf(window) == ROLE_SYSTEM_PUSHBUTTON;
     }
 
     LONG stateOf(const Window& window) const
@@ -294,9 +241,6 @@ private:
             state |= STATE_SYSTEM_FOCUSABLE;
         if (GetFocus() == m_window)
             state |= STATE_SYSTEM_FOCUSED;
-        const bool checkable = kindOf(window).role == ROLE_SYSTEM_CHECKBUTTON;
-        if (checkable && SendMessageA(m_window, BM_GETCHECK, 0, 0) == BST_CHECKED)
-            state |= STATE_SYSTEM_CHECKED;
         return state;
     }
 

@@ -1,4 +1,4 @@
-// The button: drawn by its owner, or a plain push button or check box.
+// The button: drawn by its owner, or a plain push button.
 #include "button.h"
 
 #include "control.h"
@@ -6,8 +6,6 @@
 #include "geometry.h"
 #include "system_colors.h"
 #include "window_class.h"
-
-#include <iterator>
 
 namespace winapi {
 
@@ -18,7 +16,6 @@ constexpr DWORD kButtonStyles = 0xFFFF; // the bits of a style that say what onl
 struct ButtonState : ControlState
 {
     HFONT font = nullptr;
-    WPARAM check = BST_UNCHECKED;
     bool focused = false;
     bool pushed = false; // looks pressed
     bool held = false;   // the mouse button or the space key is down, wherever the pointer is
@@ -43,15 +40,11 @@ private:
     void drawItem(HDC dc, UINT action);
     void paint();
     void paintPush(HDC dc, RECT rect);
-    void paintCheck(HDC dc, RECT rect);
-    void drawTick(HDC dc, const RECT& box);
-    void drawLabel(HDC dc, RECT rect, UINT format);
 
     void setPushed(bool pushed);
     void hold();
     void follow(LPARAM point);
     void letGo(bool inside);
-    void click();
     void setFocused(bool focused);
     void loseFocus();
     void loseCapture();
@@ -128,12 +121,6 @@ LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)
         if (LOWORD(lParam))
             InvalidateRect(hwnd(), nullptr, TRUE);
         return 0;
-    case BM_GETCHECK:
-        return static_cast<LRESULT>(m_state.check);
-    case BM_SETCHECK:
-        m_state.check = wParam;
-        redraw(ODA_DRAWENTIRE);
-        return 0;
     case BM_CLICK: {
         const HWND self = hwnd();
         SendMessageA(self, WM_LBUTTONDOWN, 0, 0);
@@ -145,7 +132,7 @@ LRESULT Button::handle(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-// An owner draws at once; the plain kinds wait for WM_PAINT.
+// An owner draws at once; a plain button waits for WM_PAINT.
 void Button::redraw(UINT action)
 {
     if (!m_window.isVisible())
@@ -176,67 +163,24 @@ void Button::paint()
 {
     const ControlPaint context(hwnd(), m_state.font);
     const RECT rect = toRect(m_window.clientRect());
-    switch (type()) {
-    case BS_OWNERDRAW:
+    if (isOwnerDrawn())
         drawItem(context.dc(), ODA_DRAWENTIRE);
-        return;
-    case BS_PUSHBUTTON:
-    case BS_DEFPUSHBUTTON:
+    else
         paintPush(context.dc(), rect);
-        return;
-    default:
-        paintCheck(context.dc(), rect);
-        return;
-    }
-}
-
-void Button::drawLabel(HDC dc, RECT rect, UINT format)
-{
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, GetSysColor(m_window.isEnabled() ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
-    DrawTextA(dc, m_window.text.c_str(), -1, &rect, format | DT_SINGLELINE);
 }
 
 void Button::paintPush(HDC dc, RECT rect)
 {
     FillRect(dc, &rect, systemBrush(m_state.pushed ? COLOR_3DLIGHT : COLOR_BTNFACE));
     FrameRect(dc, &rect, systemBrush(COLOR_BTNSHADOW));
-    drawLabel(dc, rect, DT_CENTER | DT_VCENTER);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, GetSysColor(m_window.isEnabled() ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+    DrawTextA(dc, m_window.text.c_str(), -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     if (!m_state.focused)
         return;
     constexpr int kFocusInset = 3;
     rect = toRect(toQRect(rect).adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset));
     DrawFocusRect(dc, &rect);
-}
-
-void Button::paintCheck(HDC dc, RECT rect)
-{
-    constexpr int kBoxSize = 13;
-    constexpr int kGap = 4;
-    fillByParent(m_window, dc, WM_CTLCOLORSTATIC);
-    RECT box = rect;
-    box.top += (rect.bottom - rect.top - kBoxSize) / 2;
-    box.right = box.left + kBoxSize;
-    box.bottom = box.top + kBoxSize;
-    FillRect(dc, &box, systemBrush(COLOR_WINDOW));
-    FrameRect(dc, &box, systemBrush(COLOR_BTNSHADOW));
-    if (m_state.check != BST_UNCHECKED)
-        drawTick(dc, box);
-    rect.left += kBoxSize + kGap;
-    drawLabel(dc, rect, DT_LEFT | DT_VCENTER);
-    if (m_state.focused)
-        DrawFocusRect(dc, &rect);
-}
-
-void Button::drawTick(HDC dc, const RECT& box)
-{
-    const POINT corners[] = {
-        {box.left + 3, box.top + 6}, {box.left + 5, box.top + 9}, {box.left + 10, box.top + 3}};
-    const HGDIOBJ oldPen = SelectObject(dc, CreatePen(PS_SOLID, 2, GetSysColor(COLOR_BTNTEXT)));
-    MoveToEx(dc, corners[0].x, corners[0].y, nullptr);
-    for (const POINT& corner : corners)
-        LineTo(dc, corner.x, corner.y);
-    DeleteObject(SelectObject(dc, oldPen));
 }
 
 void Button::setPushed(bool pushed)
@@ -268,16 +212,7 @@ void Button::letGo(bool inside)
     SendMessageA(hwnd(), BM_SETSTATE, FALSE, 0);
     releaseCapture(hwnd());
     if (inside && isAlive(m_window))
-        click();
-}
-
-void Button::click()
-{
-    if (type() == BS_AUTOCHECKBOX) {
-        m_state.check = m_state.check == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED;
-        redraw(ODA_DRAWENTIRE);
-    }
-    notifyCommand(m_window, BN_CLICKED);
+        notifyCommand(m_window, BN_CLICKED);
 }
 
 void Button::setFocused(bool focused)

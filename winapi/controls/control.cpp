@@ -1,7 +1,6 @@
 #include "control.h"
 
 #include "drawing_objects.h"
-#include "geometry.h"
 #include "system_colors.h"
 
 namespace winapi {
@@ -32,15 +31,6 @@ ControlPaint::~ControlPaint()
 {
     SelectObject(m_paint.hdc, m_oldFont);
     EndPaint(m_window, &m_paint);
-}
-
-void fillByParent(const Window& control, HDC dc, UINT colorMessage)
-{
-    const RECT rect = toRect(control.clientRect());
-    auto brush = reinterpret_cast<HBRUSH>(SendMessageA(control.parent->handle, colorMessage,
-                                                       reinterpret_cast<WPARAM>(dc),
-                                                       reinterpret_cast<LPARAM>(control.handle)));
-    FillRect(dc, &rect, brush ? brush : systemBrush(COLOR_BTNFACE));
 }
 
 void notifyCommand(const Window& control, WORD code)

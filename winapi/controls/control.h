@@ -55,25 +55,6 @@ protected:
     State& m_state;
 };
 
-// The window procedure of a control whose widget goes before its window does.
-template <class ControlClass>
-LRESULT widgetControlProcedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    using State = typename ControlClass::State;
-    const WindowPtr window = findWindow(handle);
-    if (!window)
-        return 0;
-    if (message == WM_NCDESTROY) {
-        window->control.reset();
-        return 0;
-    }
-    if (!window->control)
-        window->control = std::make_unique<State>(*window);
-    return ControlClass(*window, static_cast<State&>(*window->control)).handle(message, wParam, lParam);
-}
-
-// Fills a control with the brush that its parent chooses, and sets the colours of its text.
-void fillByParent(const Window& control, HDC dc, UINT colorMessage);
 void notifyCommand(const Window& control, WORD code);
 // For a control without a font of its own.
 HFONT fontOr(HFONT font);

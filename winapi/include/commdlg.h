@@ -1,4 +1,4 @@
-// The dialogs of the system that ask for a printer, a colour or a file.
+// The dialogs of the system that ask for a printer or a file.
 #pragma once
 
 #include "windef.h"
@@ -61,31 +61,6 @@ WINUSERAPI BOOL PrintDlgA(PRINTDLGA* dialog) ZEB17_NAME(PrintDlgA);
 WINUSERAPI DWORD CommDlgExtendedError(void) ZEB17_NAME(CommDlgExtendedError);
 
 #define PrintDlg PrintDlgA
-
-// ---- Colour ----
-
-#define CC_RGBINIT 0x00000001
-#define CC_FULLOPEN 0x00000002
-
-typedef UINT_PTR (*LPCCHOOKPROC)(HWND, UINT, WPARAM, LPARAM);
-
-typedef struct CHOOSECOLORA
-{
-    DWORD lStructSize;
-    HWND hwndOwner;
-    HWND hInstance;
-    COLORREF rgbResult;     // out; with CC_RGBINIT what is shown first
-    COLORREF* lpCustColors; // 16 of the user's own, in and out
-    DWORD Flags;
-    LPARAM lCustData;
-    LPCCHOOKPROC lpfnHook;
-    LPCSTR lpTemplateName;
-} CHOOSECOLORA;
-
-// Asks for a colour. FALSE when cancelled or failed.
-WINUSERAPI BOOL ChooseColorA(CHOOSECOLORA* dialog) ZEB17_NAME(ChooseColorA);
-
-#define ChooseColor ChooseColorA
 
 // ---- File ----
 

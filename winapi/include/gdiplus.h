@@ -1,4 +1,4 @@
-// The part of GDI+ that is used: smooth ellipses, and bitmaps as picture files.
+// The part of GDI+ that is used: smooth ellipses.
 //
 // As on Windows, the program has to start GDI+. Until then every other call gives GdiplusNotInitialized.
 #pragma once
@@ -28,9 +28,6 @@ enum SmoothingMode
 using GpGraphics = void;
 using GpBrush = void;
 using GpSolidFill = void;
-using GpImage = void;
-using GpBitmap = void;
-struct EncoderParameters;
 
 struct GdiplusStartupInput
 {
@@ -55,14 +52,6 @@ WINGDIAPI GpStatus GdipCreateSolidFill(ARGB color, GpSolidFill** brush) ZEB17_NA
 WINGDIAPI GpStatus GdipDeleteBrush(GpBrush* brush) ZEB17_NAME(GdipDeleteBrush);
 WINGDIAPI GpStatus GdipFillEllipseI(GpGraphics* graphics, GpBrush* brush, INT x, INT y, INT width, INT height)
     ZEB17_NAME(GdipFillEllipseI);
-
-// Copies the pixels of the bitmap; GdipDisposeImage releases the copy. The palette is not used.
-WINGDIAPI GpStatus GdipCreateBitmapFromHBITMAP(HBITMAP bitmap, HPALETTE palette, GpBitmap** image)
-    ZEB17_NAME(GdipCreateBitmapFromHBITMAP);
-WINGDIAPI GpStatus GdipDisposeImage(GpImage* image) ZEB17_NAME(GdipDisposeImage);
-// Writes a picture file. There is one encoder, for PNG; the parameters are not used.
-WINGDIAPI GpStatus GdipSaveImageToFile(GpImage* image, const WCHAR* path, const CLSID* encoder,
-                                       const EncoderParameters* parameters) ZEB17_NAME(GdipSaveImageToFile);
 
 }
 }

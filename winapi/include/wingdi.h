@@ -70,7 +70,6 @@ typedef struct LOGFONTA
     BYTE lfPitchAndFamily;
     CHAR lfFaceName[LF_FACESIZE];
 } LOGFONTA;
-typedef LOGFONTA LOGFONT;
 typedef struct TEXTMETRICA
 {
     LONG tmHeight;

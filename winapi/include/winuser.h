@@ -10,13 +10,11 @@
 #include "wingdi.h"
 #include "winmenu.h"
 #include "winclipboard.h"
-#include "wincontrols.h"
 
 // ---- identifiers ----
 
 #define IDOK 1
 #define IDCANCEL 2
-#define IDNO 7
 
 // ---- messages ----
 
@@ -53,7 +51,6 @@
 #define WM_NCCREATE 0x0081
 #define WM_NCDESTROY 0x0082
 #define WM_NCCALCSIZE 0x0083
-#define WM_NCHITTEST 0x0084
 #define WM_NCACTIVATE 0x0086
 #define WM_GETDLGCODE 0x0087
 #define WM_KEYFIRST 0x0100
@@ -71,7 +68,6 @@
 #define WM_INITMENUPOPUP 0x0117
 #define WM_MENUSELECT 0x011F
 #define WM_UNINITMENUPOPUP 0x0125
-#define WM_CTLCOLORSTATIC 0x0138
 #define WM_MOUSEFIRST 0x0200
 #define WM_MOUSEMOVE 0x0200
 #define WM_LBUTTONDOWN 0x0201
@@ -93,7 +89,6 @@
 #define WM_USER 0x0400
 
 #define WHEEL_DELTA 120
-#define GET_WHEEL_DELTA_WPARAM(w) (ZEB17_CAST(short, HIWORD(w)))
 
 #define SIZE_RESTORED 0 // WM_SIZE
 #define SIZE_MINIMIZED 1
@@ -101,8 +96,7 @@
 #define WA_INACTIVE 0 // WM_ACTIVATE
 #define WA_ACTIVE 1
 #define WA_CLICKACTIVE 2
-#define MA_ACTIVATE 1      // WM_MOUSEACTIVATE
-#define HTTRANSPARENT (-1) // WM_NCHITTEST
+#define MA_ACTIVATE 1 // WM_MOUSEACTIVATE
 #define HTCLIENT 1
 
 // The buttons and keys in wParam of a mouse message.
@@ -116,11 +110,9 @@
 #define DLGC_WANTARROWS 0x0001
 #define DLGC_WANTTAB 0x0002
 #define DLGC_WANTALLKEYS 0x0004
-#define DLGC_HASSETSEL 0x0008
 #define DLGC_DEFPUSHBUTTON 0x0010
 #define DLGC_UNDEFPUSHBUTTON 0x0020
 #define DLGC_WANTCHARS 0x0080
-#define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
 
 // WM_SYSCOMMAND
@@ -193,9 +185,6 @@
 #define WS_CLIPCHILDREN 0x02000000
 #define WS_MAXIMIZE 0x01000000
 #define WS_CAPTION 0x00C00000
-#define WS_BORDER 0x00800000
-#define WS_VSCROLL 0x00200000
-#define WS_HSCROLL 0x00100000
 #define WS_SYSMENU 0x00080000
 #define WS_THICKFRAME 0x00040000
 #define WS_TABSTOP 0x00010000
@@ -204,10 +193,7 @@
 #define WS_OVERLAPPEDWINDOW                                                                                  \
     (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
 
-#define WS_EX_DLGMODALFRAME 0x00000001
-#define WS_EX_CLIENTEDGE 0x00000200
 #define WS_EX_CONTROLPARENT 0x00010000
-#define WS_EX_STATICEDGE 0x00020000
 
 #define CS_VREDRAW 0x0001
 #define CS_HREDRAW 0x0002
@@ -347,7 +333,6 @@ typedef struct MEASUREITEMSTRUCT
 typedef MEASUREITEMSTRUCT* LPMEASUREITEMSTRUCT;
 
 #define ODT_MENU 1
-#define ODT_LISTBOX 2
 #define ODT_BUTTON 4
 #define ODA_DRAWENTIRE 0x0001
 #define ODA_SELECT 0x0002
@@ -452,8 +437,6 @@ WINUSERAPI BOOL GetWindowRect(HWND window, LPRECT rect) ZEB17_NAME(GetWindowRect
 WINUSERAPI BOOL ScreenToClient(HWND window, LPPOINT point) ZEB17_NAME(ScreenToClient);
 WINUSERAPI BOOL ClientToScreen(HWND window, LPPOINT point) ZEB17_NAME(ClientToScreen);
 WINUSERAPI int MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) ZEB17_NAME(MapWindowPoints);
-WINUSERAPI BOOL AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle)
-    ZEB17_NAME(AdjustWindowRectEx);
 WINUSERAPI BOOL SetWindowTextA(HWND window, LPCSTR text) ZEB17_NAME(SetWindowTextA);
 WINUSERAPI int GetWindowTextA(HWND window, LPSTR buffer, int size) ZEB17_NAME(GetWindowTextA);
 WINUSERAPI int GetWindowTextLengthA(HWND window) ZEB17_NAME(GetWindowTextLengthA);
@@ -548,11 +531,21 @@ WINUSERAPI BOOL UpdateWindow(HWND window) ZEB17_NAME(UpdateWindow);
 // False, and an empty rectangle, when nothing waits to be painted. Erases nothing, whatever `erase` says.
 WINUSERAPI BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase) ZEB17_NAME(GetUpdateRect);
 
+// ---- the message box ----
+
+#define MB_OK 0x00000000
+#define MB_ICONEXCLAMATION 0x00000030
+#define MB_ICONMASK 0x000000F0
+
+// Shows a text, and no more than MB_OK and MB_ICONEXCLAMATION of `type`. The owner is disabled meanwhile.
+// Without a caption the box says "Error". Gives IDOK; 0 when `type` asks for other buttons.
+WINUSERAPI int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) ZEB17_NAME(MessageBoxA);
+#define MessageBox MessageBoxA
+
 // ---- controls ----
 
 #define BS_PUSHBUTTON 0x0000
 #define BS_DEFPUSHBUTTON 0x0001
-#define BS_AUTOCHECKBOX 0x0003
 #define BS_OWNERDRAW 0x000B
 #define BS_TYPEMASK 0x000F
 #define BS_LEFT 0x0100
@@ -564,18 +557,6 @@ WINUSERAPI BOOL GetUpdateRect(HWND window, LPRECT rect, BOOL erase) ZEB17_NAME(G
 
 #define BN_CLICKED 0
 #define BN_DOUBLECLICKED 5
-#define BM_GETCHECK 0x00F0
-#define BM_SETCHECK 0x00F1
 #define BM_SETSTATE 0x00F3
 #define BM_SETSTYLE 0x00F4
 #define BM_CLICK 0x00F5
-#define BST_UNCHECKED 0x0000
-#define BST_CHECKED 0x0001
-
-#define SS_CENTER 0x0001
-#define SS_RIGHT 0x0002
-#define SS_SIMPLE 0x000B
-#define SS_LEFTNOWORDWRAP 0x000C
-#define SS_NOPREFIX 0x0080
-#define SS_NOTIFY 0x0100
-#define SS_CENTERIMAGE 0x0200

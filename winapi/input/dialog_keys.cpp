@@ -89,32 +89,18 @@ bool actOnMnemonic(HWND dialog, HWND focus, WPARAM character)
     if (!control || !letter)
         return false;
     const LRESULT code = dialogCode(control, nullptr);
-    if (code & DLGC_STATIC) {
-        SendMessageA(dialog, WM_NEXTDLGCTL,
-                     reinterpret_cast<WPARAM>(GetNextDlgTabItem(dialog, control, FALSE)), TRUE);
-        return true;
-    }
     SetFocus(control);
     if (code & DLGC_BUTTON)
         SendMessageA(control, BM_CLICK, 0, 0);
     return true;
 }
 
-// A text field that is reached by a key has its text selected, ready to be typed over.
-void moveTo(HWND next)
-{
-    if (!next)
-        return;
-    if (dialogCode(next, nullptr) & DLGC_HASSETSEL)
-        SendMessageA(next, EM_SETSEL, 0, -1);
-    SetFocus(next);
-}
-
 bool actOnKey(HWND dialog, const MSG& message)
 {
     switch (message.wParam) {
     case VK_TAB:
-        moveTo(GetNextDlgTabItem(dialog, message.hwnd, GetKeyState(VK_SHIFT) & 0x8000));
+        if (const HWND next = GetNextDlgTabItem(dialog, message.hwnd, GetKeyState(VK_SHIFT) & 0x8000))
+            SetFocus(next);
         return true;
     case VK_RETURN:
         command(dialog, IDOK);

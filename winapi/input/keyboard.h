@@ -11,7 +11,7 @@ namespace winapi {
 
 // Puts a key of Qt into the queue.
 void postKey(const QKeyEvent& event, bool up);
-// Puts text into the queue that belongs to no single key, such as what an input method has composed.
+// Puts text into the queue that belongs to no single key.
 void postText(const QString& text);
 
 // The message for the window with the focus; none when no window has it. Notes that the key is down, or up.

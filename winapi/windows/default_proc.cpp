@@ -86,13 +86,6 @@ void validateByPainting(HWND handle)
     EndPaint(handle, &paint);
 }
 
-LRESULT controlColors(HDC dc)
-{
-    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
-    SetBkColor(dc, GetSysColor(COLOR_BTNFACE));
-    return reinterpret_cast<LRESULT>(systemBrush(COLOR_BTNFACE));
-}
-
 LRESULT toParent(const Window& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return window.is(WS_CHILD) ? SendMessageA(window.parent->handle, message, wParam, lParam) : 0;
@@ -132,8 +125,6 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
         endMenu();
         releaseCapture(handle);
         return 0;
-    case WM_NCHITTEST:
-        return HTCLIENT;
     case WM_SETCURSOR:
         return setCursor(*window, wParam, lParam);
     case WM_ERASEBKGND:
@@ -141,8 +132,6 @@ LRESULT DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_PAINT:
         validateByPainting(handle);
         return 0;
-    case WM_CTLCOLORSTATIC:
-        return controlColors(reinterpret_cast<HDC>(wParam));
     case WM_KEYDOWN:
         leaveEmbedded(*window, wParam);
         return 0;

@@ -59,7 +59,6 @@ HostWidget::HostWidget(Window& window)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAttribute(Qt::WA_InputMethodEnabled);
     resize(window.rect.size());
     m_ratio = devicePixelRatioF();
 }
@@ -330,25 +329,6 @@ void HostWidget::keyReleaseEvent(QKeyEvent* event)
 {
     if (!event->isAutoRepeat())
         postKey(*event, true);
-}
-
-// The control shows the text while it is being composed; once finished, the text is typed like any other.
-void HostWidget::inputMethodEvent(QInputMethodEvent* event)
-{
-    const QString finished = event->commitString();
-    const WindowPtr window = findWindow(GetFocus());
-    if (window && window->control) {
-        event->setCommitString({});
-        window->control->compose(*window, *event);
-    }
-    if (!finished.isEmpty())
-        postText(finished);
-}
-
-QVariant HostWidget::inputMethodQuery(Qt::InputMethodQuery query) const
-{
-    const WindowPtr window = findWindow(GetFocus());
-    return window && window->control ? window->control->answer(query) : QVariant();
 }
 
 HostWidget& hostOf(Window& root)

@@ -81,15 +81,6 @@ void apply(Window& window, const QRect& rect, const WINDOWPOS& pos)
         raiseWindow(window);
 }
 
-// Brings the widgets of controls in line with the place and visibility of their windows.
-void followControls(Window& window)
-{
-    if (window.control)
-        window.control->follow(window);
-    for (Window* const child : window.children)
-        followControls(*child);
-}
-
 void applyAndRepaint(Window& window, const QRect& rect, const WINDOWPOS& pos)
 {
     const Exposure before = exposureOf(window);
@@ -97,7 +88,6 @@ void applyAndRepaint(Window& window, const QRect& rect, const WINDOWPOS& pos)
     apply(window, rect, pos);
     if (window.isTopLevel())
         followWindow(window, !(pos.flags & SWP_NOACTIVATE));
-    followControls(window);
     if (pos.flags & SWP_NOREDRAW)
         return;
     repaintAfterChange(window, before, !redrawsWhole(window, sizeBefore));
@@ -276,10 +266,4 @@ BOOL ClientToScreen(HWND window, LPPOINT point)
         return FALSE;
     MapWindowPoints(window, nullptr, point, 1);
     return TRUE;
-}
-
-// The frame is the window manager's, so nothing is added to the client rectangle.
-BOOL AdjustWindowRectEx(LPRECT rect, DWORD, BOOL, DWORD)
-{
-    return rect != nullptr;
 }

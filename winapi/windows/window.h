@@ -7,13 +7,10 @@
 #include <QPointer>
 #include <QRect>
 #include <QRegion>
-#include <QVariant>
 
 #include <memory>
 #include <string>
 #include <vector>
-
-class QInputMethodEvent;
 
 namespace winapi {
 
@@ -34,13 +31,6 @@ struct Window;
 struct ControlState
 {
     virtual ~ControlState() = default;
-    // Called when the control's window, or one above it, was moved, sized, shown or hidden.
-    virtual void follow(Window&) {}
-    // Shows the text that an input method is still composing from several keys.
-    virtual void compose(Window&, QInputMethodEvent&) {}
-    // Answers what an input method asks about the text at the caret. Places are relative to the widget of the
-    // top-level window. A control without an answer gets no composed text.
-    virtual QVariant answer(Qt::InputMethodQuery) const { return {}; }
 };
 
 struct Window

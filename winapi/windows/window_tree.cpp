@@ -104,20 +104,13 @@ QPoint screenOrigin(const Window& window)
 
 namespace {
 
-// `point` is the place in the window's client area, `screen` the same place on the screen.
-WindowPtr hitTestIn(Window& window, QPoint point, QPoint screen)
+// `point` is the place in the window's client area.
+Window& hitTestIn(Window& window, QPoint point)
 {
-    const auto children = window.children;
-    for (Window* child : children) {
-        if (!child->is(WS_VISIBLE) || child->is(WS_DISABLED) || !child->rect.contains(point))
-            continue;
-        if (WindowPtr hit = hitTestIn(*child, point - child->rect.topLeft(), screen))
-            return hit;
-    }
-    const WindowPtr self = findWindow(window.handle);
-    if (!self || SendMessageA(window.handle, WM_NCHITTEST, 0, toLParam(screen)) == HTTRANSPARENT)
-        return nullptr;
-    return self;
+    const auto hit = std::ranges::find_if(window.children, [point](const Window* child) {
+        return child->is(WS_VISIBLE) && child->isEnabled() && child->rect.contains(point);
+    });
+    return hit == window.children.end() ? window : hitTestIn(**hit, point - (*hit)->rect.topLeft());
 }
 
 Window* topLevelAt(QPoint screen)
@@ -134,9 +127,8 @@ Window* topLevelAt(QPoint screen)
 
 WindowPtr hitTest(QPoint screen)
 {
-    const EndedWindowsKept kept;
     Window* const top = topLevelAt(screen);
-    return top ? hitTestIn(*top, screen - screenOrigin(*top), screen) : nullptr;
+    return top ? findWindow(hitTestIn(*top, screen - screenOrigin(*top)).handle) : nullptr;
 }
 
 }

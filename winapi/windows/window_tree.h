@@ -26,8 +26,7 @@ void notifyAncestors(Window& window, WPARAM event,
 QPoint originInRoot(const Window& window);
 QPoint screenOrigin(const Window& window);
 
-// The window that mouse input at a place of the screen goes to, null outside of all windows. Asks windows
-// with WM_NCHITTEST.
+// The window that mouse input at a place of the screen goes to, null outside of all windows.
 WindowPtr hitTest(QPoint screen);
 
 }

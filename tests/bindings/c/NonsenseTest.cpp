@@ -22,7 +22,7 @@ public:
     {
         zeb17_register();
         m_parent =
-            ::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr);
+            ::CreateWindowExA(0, "BUTTON", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr);
         const RECT place = {0, 0, 250, 220};
         m_control = zeb17_create(m_parent, 1, &place, ZEB17_ALL_FLAGS);
         const HWND dead = zeb17_create(m_parent, 2, &place, 0);

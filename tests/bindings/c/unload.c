@@ -5,7 +5,7 @@ typedef int (*register_function)(void);
 
 static int works(void)
 {
-    const HWND parent = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 300, 300, NULL, NULL, NULL, NULL);
+    const HWND parent = CreateWindowExA(0, "BUTTON", "", WS_POPUP, 0, 0, 300, 300, NULL, NULL, NULL, NULL);
     const HWND control =
         CreateWindowExA(0, "zeb17.Calendar", "", WS_CHILD, 0, 0, 200, 200, parent, NULL, NULL, NULL);
     DestroyWindow(parent);

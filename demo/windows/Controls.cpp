@@ -1,27 +1,20 @@
-// Buttons, labels, text fields, lists and combo boxes, on the window classes of the system.
-#include <afxctrl_.h>
+// The controls, on the window classes of the system, and its dialog for a colour.
+#include "Controls.h"
 
-IMPLEMENT_DYNAMIC(CButton, CWnd)
-IMPLEMENT_DYNAMIC(CStatic, CWnd)
-IMPLEMENT_DYNAMIC(CEdit, CWnd)
-IMPLEMENT_DYNAMIC(CListBox, CWnd)
-IMPLEMENT_DYNAMIC(CComboBox, CWnd)
+#include <array>
 
-// ---- CButton ----
+namespace {
 
-BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+COLORREF* GetCustomColors()
 {
-    return CreateChild("BUTTON", lpszCaption, dwStyle, rect, pParentWnd, nID);
+    static auto s_colors = [] {
+        std::array<COLORREF, 16> white;
+        white.fill(RGB(255, 255, 255));
+        return white;
+    }();
+    return s_colors.data();
 }
 
-void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
-
-BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
 }
 
 // ---- CStatic ----
@@ -68,4 +61,20 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     return CreateChild("COMBOBOX", nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+// ---- CColorDialog ----
+
+CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
+{
+    m_cc.lStructSize = static_cast<DWORD>(sizeof m_cc);
+    m_cc.hwndOwner = pParentWnd ? pParentWnd->m_hWnd : ::GetActiveWindow();
+    m_cc.rgbResult = clrInit;
+    m_cc.lpCustColors = GetCustomColors();
+    m_cc.Flags = dwFlags | CC_RGBINIT;
+}
+
+INT_PTR CColorDialog::DoModal()
+{
+    return ::ChooseColorA(&m_cc) ? IDOK : IDCANCEL;
 }

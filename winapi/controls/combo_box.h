@@ -1,8 +1,0 @@
-// The combo box.
-#pragma once
-
-namespace winapi {
-
-void registerComboBoxClass();
-
-}

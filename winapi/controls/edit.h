@@ -1,8 +1,0 @@
-// The text field.
-#pragma once
-
-namespace winapi {
-
-void registerEditClass();
-
-}

@@ -1,8 +1,0 @@
-// The list box.
-#pragma once
-
-namespace winapi {
-
-void registerListBoxClass();
-
-}

@@ -1,8 +1,0 @@
-// The label.
-#pragma once
-
-namespace winapi {
-
-void registerStaticClass();
-
-}
