@@ -318,6 +318,12 @@ TEST_F(PaintingTest, TipsOfTheCells)
 // The title and the step buttons look like buttons of their font and icon.
 TEST_F(PaintingTest, TitleAndStepButtons)
 {
+    constexpr ShadeProps::Face kFace = {RGB(10, 200, 100), RGB(0, 100, 50), kBlack};
+    const ShadeProps shading({kFace, kFace, kFace, kFace});
+    BkgStyle::SetInstance(std::make_unique<BkgStyle>());
+    BkgStyle::GetInstance()->Set(BkgStyle::UIPushButton, shading);
+    Renew();
+    Start();
     Show(Date(2026, 5, 20), false);
     const struct
     {
@@ -330,8 +336,6 @@ TEST_F(PaintingTest, TitleAndStepButtons)
         {calendar->m_pPrevYearButton, ZEBIcon::IconPreviousYear},
         {calendar->m_pNextYearButton, ZEBIcon::IconNextYear},
     };
-    ShadeProps* pShading = nullptr;
-    ASSERT_TRUE(BkgStyle::GetInstance()->Get(BkgStyle::UIPushButton, pShading));
     for (const auto& [pButton, eIcon] : buttons) {
         CString strText;
         pButton->GetWindowText(strText);
@@ -345,7 +349,7 @@ TEST_F(PaintingTest, TitleAndStepButtons)
         const CRect rcInView(CPoint(rcOnScreen.left - rcParent.left, rcOnScreen.top - rcParent.top + 260),
                              rc.Size());
         ASSERT_TRUE(twin.Create(strText, WS_CHILD | WS_VISIBLE, rcInView, &parent, 1));
-        twin.SetShadeProps(*pShading);
+        twin.SetShadeProps(shading);
         if (eIcon == ZEBIcon::IconNone) {
             twin.SetFont("Arial", 16, FW_BOLD, 0, 0);
             twin.SetRegularFontWhenDisabled(true, true);
@@ -358,6 +362,7 @@ TEST_F(PaintingTest, TitleAndStepButtons)
         pButton->UpdateWindow();
         EXPECT_FALSE(FindDifference(Picture(*pButton), Picture(twin), rc)) << pButton->GetDlgCtrlID();
     }
+    BkgStyle::SetInstance(std::make_unique<BkgStyle>());
 }
 
 TEST_F(PaintingTest, AnAreaToBeErasedTurnsWhite)
