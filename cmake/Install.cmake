@@ -21,7 +21,7 @@ foreach(folder IN LISTS folders)
     list(TRANSFORM headers_${folder} APPEND "/")
     install(DIRECTORY ${headers_${folder}}
         DESTINATION "${include_dir}/${folder}" COMPONENT development FILES_MATCHING PATTERN "*.h"
-        REGEX "/(FileFault|FileLink|FontSelection|WideText|HandleMap|ThreadState|WndProc)\\.h$" EXCLUDE)
+        REGEX "/(DatePattern|FileFault|FileLink|FontSelection|WideText|HandleMap|ThreadState|WndProc)\\.h$" EXCLUDE)
     target_include_directories(zeb17 PUBLIC "$<INSTALL_INTERFACE:${include_dir}/${folder}>")
     string(APPEND ZEB17_PC_CFLAGS " -I\${includedir}/zeb17/${folder}")
 endforeach()
