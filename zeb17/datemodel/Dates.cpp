@@ -162,7 +162,7 @@ bool Dates::LookupEntries(int nDay, int nMonth, int nYear, CString& strDesc, DWO
     bool bFound = false;
     SeenPieces pieces; // of strDesc
     for (const auto& pEntry : m_Entries) {
-        if (!pEntry || !pEntry->IsMatch(nDay, nMonth, nYear) || !pEntry->m_bShow)
+        if (!pEntry || !pEntry->m_bShow || !pEntry->IsMatch(nDay, nMonth, nYear))
             continue;
         const int nAge = GetAge(*pEntry, nYear);
         if (pieces.MayHold(ViewOf(strDesc), ViewOf(pEntry->m_strDesc)))

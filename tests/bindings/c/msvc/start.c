@@ -1,6 +1,6 @@
 // The host in C without any library of a compiler: its beginning and end, and what compilers call by
 // themselves.
-#include "../host.h"
+#include "host.h"
 
 #include <windows.h>
 
