@@ -99,19 +99,9 @@ Picture::Picture(CWnd& wnd) : Canvas(500, 400, wnd.m_hWnd)
     BitBlt(0, 0, GetRect().right, GetRect().bottom, &dc, 0, 0, SRCCOPY);
 }
 
-bool Picture::Contains(const CRect& rc, COLORREF cr) const
+bool Picture::IsFilledWith(COLORREF cr, const CRect& rc) const
 {
-    return !FindInk(rc, [=](COLORREF crInk) { return crInk == cr; }).IsRectEmpty();
-}
-
-int Picture::GetDarkest(const CRect& rc) const
-{
-    int nDarkest = 255;
-    FindInk(rc, [&nDarkest](COLORREF cr) {
-        nDarkest = std::min<int>(nDarkest, GetGValue(cr));
-        return false;
-    });
-    return nDarkest;
+    return FindInk(rc, [=](COLORREF crInk) { return crInk != cr; }).IsRectEmpty();
 }
 
 CalendarTest::CalendarTest()

@@ -28,7 +28,6 @@ public:
     using CCalendarWnd::m_bUseSpecialDates;
     using CCalendarWnd::m_date;
     using CCalendarWnd::m_nFirstDayColumn;
-    using CCalendarWnd::m_nNextToolId;
     using CCalendarWnd::m_nTodayCell;
     using CCalendarWnd::m_pClearButton;
     using CCalendarWnd::m_pMonthYearButton;
@@ -41,7 +40,6 @@ public:
     using CCalendarWnd::m_pTodayButton;
     using CCalendarWnd::m_rcGrid;
     using CCalendarWnd::m_rcSelection;
-    using CCalendarWnd::m_rcToday;
     using CCalendarWnd::m_settings;
     using CCalendarWnd::m_toolTip;
     using CCalendarWnd::m_vColumnEdges;
@@ -112,9 +110,7 @@ class Picture : public Canvas
 {
 public:
     explicit Picture(CWnd& wnd);
-    bool Contains(const CRect& rc, COLORREF cr) const;
-    // The darkest pixel inside a rectangle, by its green part.
-    int GetDarkest(const CRect& rc) const;
+    bool IsFilledWith(COLORREF cr, const CRect& rc) const;
 };
 
 // Today is Wednesday, 15 July 2026; weeks begin on Sunday.

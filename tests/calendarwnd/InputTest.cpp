@@ -1,7 +1,6 @@
 // Mouse, wheel, keys and focus.
 #include "CalendarFixture.h"
 
-#include <LocaleUtils.h>
 #include <ZEBButton.h>
 
 #include <gmock/gmock.h>
@@ -22,28 +21,6 @@ protected:
         ::SetKeyboardState(keys);
     }
 };
-
-// Each of the 42 cells of months of every shape leads to its date, and says so once.
-TEST_F(InputTest, PressEveryCell)
-{
-    Start();
-    std::vector<DateTime> months = {Date(2010, 2, 1), Date(2015, 2, 1), Date(2024, 2, 1)};
-    for (int nMonth = 1; nMonth <= 12; ++nMonth)
-        months.push_back(Date(2026, nMonth, 1));
-    for (const char* strLocale : {"en-US", "nl-NL"}) {
-        ASSERT_TRUE(LocaleUtils::SetLocale(strLocale));
-        for (size_t i = 0; i < months.size() * MonthBlock::kCells; ++i) {
-            const DateTime first = months[i / MonthBlock::kCells];
-            const int nCell = static_cast<int>(i) % MonthBlock::kCells;
-            Show(first, false);
-            DateTime expected = first;
-            expected.AddDays(nCell + 1 - MonthBlock::ShapeOf(first)->nFirstColumn);
-            PressCell(nCell);
-            ASSERT_EQ(ToText(calendar->m_date), ToText(expected));
-            ASSERT_THAT(TakeHeard(), ElementsAre("SELCHANGE 0"));
-        }
-    }
-}
 
 // Each pixel of a row and of a column. Those on an edge and behind it belong to the cell before them, those
 // outside of the days to none.
@@ -71,17 +48,6 @@ TEST_F(InputTest, PressEveryPixel)
     edges.front() += 2;
     for (int y = 20; y < kHeight; ++y)
         press({center.x, y}, edges, y, 2, 7);
-}
-
-// Those after 4 October 1582, in whose place the 15th is selected.
-TEST_F(InputTest, PressTheDaysThatNeverWere)
-{
-    Start();
-    for (int nDay = 5; nDay <= 15; ++nDay) {
-        Show(Date(1582, 10, 20), true);
-        Press(calendar->GetDayRect(nDay).CenterPoint());
-        EXPECT_EQ(ToText(calendar->m_date), "1582-10-15") << nDay;
-    }
 }
 
 TEST_F(InputTest, PressBeforeTheFirstPaint)

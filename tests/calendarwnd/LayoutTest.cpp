@@ -1,9 +1,6 @@
 // The places of the buttons and cells, and the tables of the cells.
 #include "CalendarFixture.h"
 
-#include <Clock.h>
-#include <LocaleUtils.h>
-
 #include <gmock/gmock.h>
 
 using testing::Each;
@@ -54,42 +51,6 @@ TEST_F(LayoutTest, Edges)
     EXPECT_EQ(GetInvalid(), calendar->m_rcGrid);
     EXPECT_EQ(calendar->GetCellRect({2, 1}), CRect(4, 45, 43 - 1, 70));
     EXPECT_EQ(calendar->GetCellRect({7, 7}), CRect(253 + 4, 185, 298, 213));
-}
-
-// Nothing limits the size, and no size harms. The random game has the sizes that a window can have.
-TEST_F(LayoutTest, AnySize)
-{
-    ASSERT_TRUE(Create({}, {-30, -40}));
-    EXPECT_EQ(calendar->m_vColumnEdges.back(), -31);
-    EXPECT_EQ(calendar->m_vRowEdges.back(), -66);
-    for (const int n : {-1000, -1, 0, 7, 26, 51, 32767}) {
-        calendar->OnSize(0, n, 100 - n);
-        Repaint();
-    }
-}
-
-// Today is found in each cell in which it can lie, whatever day the week begins with.
-TEST_F(LayoutTest, TodayCell)
-{
-    Start({.bUseSpecialDates = false});
-    for (const char* strLocale : {"en-US", "nl-NL"}) {
-        ASSERT_TRUE(LocaleUtils::SetLocale(strLocale));
-        DateTime shown = Date(2026, 2, 15); // has 28 days and begins on a Sunday
-        for (int nMonth = 0; nMonth < 14; ++nMonth, shown.AddMonths(1)) {
-            calendar->m_date = shown;
-            DateTime today = shown;
-            today.SetDay(1);
-            while (today.GetDayOfWeek() != LocaleUtils::GetFirstDayOfWeek())
-                today.AddDays(-1);
-            today.AddDays(-1);
-            for (int nCell = -1; nCell <= 42; ++nCell, today.AddDays(1)) {
-                Clock::SetToday(today.GetYear(), today.GetMonth(), today.GetDay());
-                calendar->RefreshMonth();
-                ASSERT_EQ(calendar->m_nTodayCell, nCell == 42 ? -1 : nCell) << strLocale << ToText(today);
-            }
-        }
-    }
-    EXPECT_THAT(calendar->m_vDayDescs, Each(CString()));
 }
 
 // Neither painting nor a step within the month looks dates up.

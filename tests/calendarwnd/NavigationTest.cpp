@@ -151,17 +151,8 @@ TEST_F(TriggerTest, Table)
 
 using NavigationTest = CalendarTest;
 
-TEST_F(NavigationTest, ClearNeedsPermissionAndAFrame)
+TEST_F(NavigationTest, ClearNeedsPermission)
 {
-    ASSERT_TRUE(Create());
-    parent.m_heard.clear();
-    calendar->m_rcSelection.SetRectEmpty(); // as before the first paint
-    calendar->m_bHaveDate = true;
-    calendar->OnClearButton();
-    EXPECT_FALSE(calendar->m_bHaveDate);
-    EXPECT_THAT(TakeHeard(), IsEmpty());
-
-    Renew();
     Start({.bAllowNoDate = false});
     Show(Date(2026, 5, 20), true);
     calendar->OnClearButton();

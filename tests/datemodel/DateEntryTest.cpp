@@ -82,26 +82,6 @@ TEST(DateEntry, MatchesTheDatesOfItsRule)
         EXPECT_EQ(MatchesIn(c.entry, c.nYear), c.dates) << c.szWhat;
 }
 
-TEST(DateEntry, PicksEachWeekdayOfEachMonth)
-{
-    using enum DateEntry::OCCURRENCE;
-    for (DateTime date(1990, 1, 1, 0, 0, 0); date.GetYear() <= 2017;
-         date.AddDays(1)) { // every shape of a year
-        const int nYear = date.GetYear();
-        const int nMonth = date.GetMonth();
-        const int nDay = date.GetDay();
-        const bool bLast = nDay + 7 > DateTime::GetDaysInMonth(nYear, nMonth);
-        for (const auto occurrence :
-             {OCCURRENCE_FIRST, OCCURRENCE_SECOND, OCCURRENCE_THIRD, OCCURRENCE_FOURTH, OCCURRENCE_LAST}) {
-            const bool bPicked = occurrence == OCCURRENCE_LAST ? bLast : (nDay + 6) / 7 == occurrence;
-            for (int nDayOfWeek = 1; nDayOfWeek <= 7; ++nDayOfWeek) {
-                ASSERT_EQ(Make(kWeekday, occurrence, nDayOfWeek, nMonth).IsMatch(nDay, nMonth, nYear),
-                          bPicked && nDayOfWeek == date.GetDayOfWeek());
-            }
-        }
-    }
-}
-
 TEST(DateEntry, HoldsInTheYearsOfItsKind)
 {
     const struct
@@ -160,41 +140,26 @@ TEST(DateEntry, AnswersForRulesAndDatesOfAnyValue)
 TEST(DateEntry, IsValidWithADescriptionAndARule)
 {
     EXPECT_FALSE(DateEntry().IsValid());
-    EXPECT_TRUE(Make(kFixed, 29, 2).IsValid());
     EXPECT_FALSE(Make(kFixed, 30, 2).IsValid());
     EXPECT_TRUE(Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4).IsValid());
     EXPECT_FALSE(Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, 0).IsValid());
 
-    DateEntry entry = Make(kFixed, 1, 1);
-    entry.SetDesc("");
-    EXPECT_FALSE(entry.IsValid());
-    EXPECT_TRUE(entry.IsMatch(1, 1, 2026)) << "a description is all that is missing";
-
-    DateEntry described;
-    described.SetDesc("x");
-    EXPECT_FALSE(described.IsValid());
-    EXPECT_TRUE(MatchesIn(described, 2026).empty());
-}
-
-TEST(DateEntry, ReplacesItsRule)
-{
-    DateEntry entry = Make(kNearWeekday, DateEntry::OCCURRENCE_LAST, 6, 4, -4);
-    entry.SetDay("y", 4, 7);
-    EXPECT_EQ(MatchesIn(entry, 2026), std::vector<std::string>{"7-4"});
-    EXPECT_STREQ(entry.m_strDesc, "y");
-}
-
-TEST(CalendarDateEntry, StartsShownAndWhiteAndNeedsOnlyADescriptionWhenCalculated)
-{
+    // A new rule replaces the old one with all its numbers.
     CalendarDateEntry entry;
-    EXPECT_TRUE(entry.GetShow());
-    EXPECT_FALSE(entry.GetCalculated());
-    EXPECT_EQ(entry.GetColor(), 0xFFFFFFU);
+    entry.SetBeforeAfterDayOfWeek("x", DateEntry::OCCURRENCE_LAST, 6, 4, -4);
+    entry.SetDay("", 29, 2);
     EXPECT_FALSE(entry.IsValid());
-    entry.SetCalculated(true);
-    EXPECT_FALSE(entry.IsValid());
+    EXPECT_EQ(MatchesIn(entry, 2024), std::vector<std::string>{"2-29"}) << "all that is missing is a text";
     entry.SetDesc("x");
     EXPECT_TRUE(entry.IsValid());
-    entry.SetDay("", 1, 1);
-    EXPECT_FALSE(entry.IsValid());
+
+    // A calculated date needs no rule.
+    CalendarDateEntry described;
+    described.SetDesc("x");
+    EXPECT_FALSE(described.IsValid());
+    described.SetCalculated(true);
+    EXPECT_TRUE(described.IsValid());
+    EXPECT_TRUE(MatchesIn(described, 2026).empty());
+    described.SetDesc("");
+    EXPECT_FALSE(described.IsValid());
 }

@@ -113,15 +113,6 @@ TEST(DateTime, IsNoDateOutsideTheCalendar)
     EXPECT_TRUE(DateTime::ConvertDateToText(DateTime(), false, false, false, false).IsEmpty());
 }
 
-TEST(DateTime, ReadsTheLeftOutDaysOf1582AsTheDayThatFollowed)
-{
-    for (int nDay = 5; nDay <= 14; ++nDay)
-        EXPECT_EQ(DateOf(Make({1582, 10, nDay})), (Date{1582, 10, 15}));
-    DateTime value = Make({1582, 9, 10});
-    value.AddMonths(1);
-    EXPECT_EQ(DateOf(value), (Date{1582, 10, 15}));
-}
-
 TEST(DateTime, AddDaysGoesOutOfTheRangeAndNotBack)
 {
     DateTime value;
@@ -149,12 +140,15 @@ TEST(DateTime, AddDaysGoesOutOfTheRangeAndNotBack)
     }
 }
 
-TEST(DateTime, StepsByWeeksMonthsAndYears)
+TEST(DateTime, StepsAndSetsItsParts)
 {
     using Step = void (DateTime::*)(int);
     constexpr Step kWeeks = &DateTime::AddWeeks;
     constexpr Step kMonths = &DateTime::AddMonths;
     constexpr Step kYears = &DateTime::AddYears;
+    constexpr Step kSetDay = &DateTime::SetDay;
+    constexpr Step kSetMonth = &DateTime::SetMonth;
+    constexpr Step kSetYear = &DateTime::SetYear;
     constexpr int kMax = std::numeric_limits<int>::max();
     const struct
     {
@@ -187,6 +181,16 @@ TEST(DateTime, StepsByWeeksMonthsAndYears)
         {{1, 12, 31}, kYears, -1, kNoDate},
         {{2021, 1, 1}, kYears, kMax, kNoDate},
         {{2021, 1, 1}, kYears, -kMax - 1, kNoDate},
+        {{1582, 9, 10}, kMonths, 1, {1582, 10, 15}}, // in place of the days that were left out
+        {{1582, 10, 1}, kSetDay, 5, {1582, 10, 15}},
+        {{1582, 10, 20}, kSetDay, 14, {1582, 10, 15}},
+        {{2021, 3, 31}, kSetMonth, 4, {2021, 4, 30}},
+        {{2021, 3, 31}, kSetMonth, 13, kNoDate},
+        {{2021, 4, 30}, kSetDay, 1, {2021, 4, 1}},
+        {{2020, 2, 29}, kSetYear, 2021, {2021, 2, 28}},
+        {kNoDate, kSetDay, 1, kNoDate},
+        {kNoDate, kSetMonth, 1, kNoDate},
+        {kNoDate, kSetYear, 2021, kNoDate},
         {kNoDate, kMonths, 1, kNoDate},
         {kNoDate, kYears, 1, kNoDate},
     };
@@ -196,35 +200,6 @@ TEST(DateTime, StepsByWeeksMonthsAndYears)
         EXPECT_EQ(DateOf(value), c.to) << c.from << " and " << c.nCount;
         EXPECT_EQ(value.IsValid(), c.to != kNoDate);
     }
-}
-
-TEST(DateTime, SetsOnePartAndStaysUsable)
-{
-    DateTime value = Make({2021, 3, 31});
-    value.SetMonth(4);
-    EXPECT_EQ(DateOf(value), (Date{2021, 4, 30}));
-    value.SetDay(1);
-    EXPECT_EQ(DateOf(value), (Date{2021, 4, 1}));
-    value.SetMonth(12);
-    value.SetToLastDay();
-    EXPECT_EQ(DateOf(value), (Date{2021, 12, 31}));
-    value.SetToFirstDay();
-    EXPECT_EQ(DateOf(value), (Date{2021, 12, 1}));
-
-    value = Make({2020, 2, 29});
-    value.SetYear(2021);
-    value.SetMonth(1);
-    value.SetDay(1);
-    EXPECT_EQ(DateOf(value), (Date{2021, 1, 1}));
-
-    DateTime noDate;
-    noDate.SetDay(1);
-    noDate.SetMonth(1);
-    noDate.SetYear(2021);
-    noDate.SetToLastDay();
-    EXPECT_FALSE(noDate.IsValid());
-    value.SetMonth(13);
-    EXPECT_FALSE(value.IsValid());
 }
 
 TEST(DateTime, CarriesTheTimeAlongAndComparesDatesOnly)

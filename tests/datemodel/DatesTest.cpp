@@ -82,7 +82,6 @@ TEST(Dates, ReportInTheOrderOfTheListAndTheLastColourWins)
     dates.AddFixed("other day", 5, 7, 0x222222);
     dates.AddFixed("hidden", 4, 7, 0x333333).SetShow(false);
     dates.AddFixed("two", 4, 7, 0x444444);
-    EXPECT_EQ(Lookup(dates, 4, 7, 2026), (Found{true, "one\r\ntwo", 0x444444}));
     EXPECT_EQ(Lookup(dates, 4, 7, 2026, "zero"), (Found{true, "zero\r\none\r\ntwo", 0x444444}));
 
     dates.AddFixed("one", 4, 7, 0x555555);

@@ -190,28 +190,6 @@ TEST_F(NationalDates, MarkEachMovingDateOnceInItsYear)
     }
 }
 
-TEST_F(NationalDates, JoinARuleAndEasterOnOneDay)
-{
-    const struct
-    {
-        int nRuleID;
-        int nEasterID;
-        Date date;
-        const char* szDesc;
-    } cases[] = {
-        {5, 38, {1, 4, 2018}, "April Fools Day\r\nEaster"},
-        {104, 136, {1, 4, 2024}, "April Fools Day\r\nEaster Monday"},
-        {204, 219, {5, 5, 1989}, "Bevrijdingsdag\r\nHemelvaartweek"},
-    };
-    for (const auto& c : cases) {
-        Find(c.nRuleID)->SetColor(1);
-        Find(c.nEasterID)->SetColor(kColor);
-        DWORD dwColor = 0;
-        EXPECT_EQ(Describe(GroupOf(c.nRuleID), c.date, dwColor), c.szDesc);
-        EXPECT_EQ(dwColor, kColor);
-    }
-}
-
 TEST_F(NationalDates, KnowTheDateOfAHiddenCalculatedEntry)
 {
     for (const auto& [nID, date] :

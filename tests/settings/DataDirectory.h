@@ -10,6 +10,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -17,6 +18,8 @@
 class DataDirectory : public testing::Test
 {
 protected:
+    static constexpr int kFalse = -1; // no file to load
+
     DataDirectory()
     {
         UseDirectory(m_root / "data");
@@ -29,6 +32,19 @@ protected:
     {
         m_directory = directory;
         ZebrikUtils::SetDataDirectory(directory.string().c_str());
+    }
+
+    // The cause of the CFileException with which a load or a save fails, which must name the data file.
+    static int CauseOf(const std::function<bool()>& action)
+    {
+        try {
+            return action() ? int(CFileException::none) : kFalse;
+        } catch (CFileException* pException) {
+            const int nCause = pException->m_cause;
+            EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
+            pException->Delete();
+            return nCause;
+        }
     }
 
     static std::filesystem::path PathOf(unsigned short nVersion)

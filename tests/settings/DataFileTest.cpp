@@ -68,15 +68,16 @@ std::string MakeFile(unsigned short nVersion)
     file.Overlay({MakeEntry(202, "", true, 0xFF0000)}).Custom({MakeEntry(10007), FullEntry(-5)});
     if (nVersion == 4)
         file.ToDo({MakeEntry(11003)});
-    return file.U32(10042);
+    return file.U32(10040U + nVersion);
 }
 
 }
 
-TEST_F(DataFile, LoadsVersions2To4)
+TEST_F(DataFile, LoadsTheNewestFileAndReplacesTheUsersLists)
 {
+    EXPECT_FALSE(m_settings.Load()) << "no file";
+    WriteFile(1, FileBytes().U16(1).I32(0).U16(0).Custom({MakeEntry(1)}));
     for (const unsigned short nVersion : std::initializer_list<unsigned short>{2, 3, 4}) {
-        UseDirectory(m_root / std::to_string(nVersion));
         WriteFile(nVersion, MakeFile(nVersion));
         ASSERT_TRUE(m_settings.Load());
 
@@ -88,8 +89,22 @@ TEST_F(DataFile, LoadsVersions2To4)
         EXPECT_EQ(BytesOfGroup(GroupCustom), BytesOf({MakeEntry(10007), FullEntry(-5)}));
         EXPECT_FALSE(Find(GroupCustom, -5).GetCalculated());
         EXPECT_EQ(m_settings.GetCount(GroupToDo), nVersion == 4 ? 1U : 0U);
-        EXPECT_EQ(DatesCustom::s_nNextCustomID, 10042U);
+        EXPECT_EQ(DatesCustom::s_nNextCustomID, 10040U + nVersion);
     }
+
+    // An older file knows no to-do list: the list stays, and the next save moves it along.
+    std::filesystem::remove(PathOf(4));
+    ASSERT_TRUE(m_settings.Load());
+    EXPECT_EQ(BytesOfGroup(GroupToDo), BytesOf({MakeEntry(11003)}));
+    ASSERT_TRUE(m_settings.Save());
+    EXPECT_TRUE(ReadFile(3) == MakeFile(3));
+    ASSERT_TRUE(m_settings.Load());
+    EXPECT_EQ(BytesOfGroup(GroupToDo), BytesOf({MakeEntry(11003)}));
+
+    const std::string strBefore = SavedBytesOf(m_settings);
+    WriteFile(4, "");
+    EXPECT_FALSE(m_settings.Load()) << "an empty file";
+    EXPECT_TRUE(SavedBytesOf(m_settings) == strBefore);
 }
 
 TEST_F(DataFile, LoadsTheExampleOfItsDescription)
@@ -189,38 +204,6 @@ TEST_F(DataFile, LoadsEveryFormOfAnOverlay)
     }
 }
 
-TEST_F(DataFile, TakesTheNewestFileAndLooksAtNoOther)
-{
-    EXPECT_FALSE(m_settings.Load()) << "no file";
-    WriteFile(1, FileBytes().U16(1).I32(0).U16(0).Custom({MakeEntry(1)}));
-    WriteFile(3, MakeFile(3));
-    ASSERT_TRUE(m_settings.Load());
-    EXPECT_EQ(m_settings.GetCount(GroupCustom), 2U);
-
-    const std::string strBefore = SavedBytesOf(m_settings);
-    WriteFile(4, "");
-    EXPECT_FALSE(m_settings.Load()) << "an empty file";
-    EXPECT_TRUE(SavedBytesOf(m_settings) == strBefore);
-}
-
-TEST_F(DataFile, ReplacesTheUsersListsAndLaysTheRestOver)
-{
-    WriteFile(4, MakeFile(4));
-    for (int i = 0; i < 2; ++i)
-        ASSERT_TRUE(m_settings.Load());
-    EXPECT_EQ(m_settings.GetCount(GroupCustom), 2U);
-    EXPECT_EQ(m_settings.GetCount(GroupToDo), 1U);
-
-    // An older file knows no to-do list: the list stays, and the next save moves it along.
-    std::filesystem::remove(PathOf(4));
-    WriteFile(3, MakeFile(3));
-    ASSERT_TRUE(m_settings.Load());
-    EXPECT_EQ(BytesOfGroup(GroupToDo), BytesOf({MakeEntry(11003)}));
-    ASSERT_TRUE(m_settings.Save());
-    EXPECT_TRUE(ReadFile(3) == MakeFile(3));
-    EXPECT_TRUE(ReadFile(4) == SavedBytesOf(m_settings));
-}
-
 TEST_F(DataFile, IsWrittenAsDescribedAndComesBackWhole)
 {
     WriteFile(4, MakeFile(4));
@@ -233,7 +216,7 @@ TEST_F(DataFile, IsWrittenAsDescribedAndComesBackWhole)
                                         -4);
         m_settings.AddCustomEntry(pEntry.release());
     }
-    const CalendarDateEntry& rule = Find(GroupCustom, 10042);
+    const CalendarDateEntry& rule = Find(GroupCustom, 10044);
     EXPECT_EQ(rule.m_nRuleWord, 4);
     EXPECT_EQ(std::vector(std::begin(rule.m_anRule), std::end(rule.m_anRule)), (std::vector{7, 6, 4, -4}));
     ASSERT_TRUE(m_settings.Save());
@@ -243,6 +226,6 @@ TEST_F(DataFile, IsWrittenAsDescribedAndComesBackWhole)
     CalendarSettings other;
     DatesCustom::s_nNextCustomID = 1;
     ASSERT_TRUE(other.Load());
-    EXPECT_EQ(DatesCustom::s_nNextCustomID, 10049U);
+    EXPECT_EQ(DatesCustom::s_nNextCustomID, 10051U);
     EXPECT_TRUE(SavedBytesOf(other) == strSaved);
 }

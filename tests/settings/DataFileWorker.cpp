@@ -1,11 +1,13 @@
 // A process that works on the data file, as SaveTest runs it:
 //
 //     data_file_worker LOCKS DIRECTORY die MARK N     saves, but ends without a word at the Nth file
-//     operation data_file_worker LOCKS DIRECTORY share MARK N   N times: loads, checks that all is of one
-//     mark, and saves its own data_file_worker LOCKS DIRECTORY hold 0 0       holds the lock of the data file
-//     while there is a file `hold` in the directory, and a file `held` as long
+//     operation
+//     data_file_worker LOCKS DIRECTORY share MARK N   N times: loads, checks that all is of one mark, and
+//     saves its own
+//     data_file_worker LOCKS DIRECTORY hold 0 0       holds the lock of the data file while there is a file
+//     `hold` in the directory, and a file `held` as long
 //
-// LOCKS is the directory of the locks. // Ends with 0 when done, with 9 when it died as told, with 1 when
+// LOCKS is the directory of the locks. Ends with 0 when done, with 9 when it died as told, with 1 when
 // what it loaded is not of one mark.
 #include "MarkedSettings.h"
 

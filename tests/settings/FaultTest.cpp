@@ -2,12 +2,16 @@
 // it.
 #include "CountedNew.h"
 #include "DataDirectory.h"
+#include "FileBytes.h"
 #include "MarkedSettings.h"
 
 #include <FileUtils.h>
+#include <FullDisk.h>
+#include <MTAutoLock.h>
 #include <TextArray.h>
 
 #include <functional>
+#include <future>
 #include <new>
 
 #ifndef _WIN32
@@ -39,6 +43,16 @@ protected:
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
+    // From another thread, since the mutex lets the same one in.
+    static bool IsMutexFree()
+    {
+        const auto lock = [] {
+            MTMutex mutex(false, "zeb17data", nullptr);
+            return MTAutoLock(&mutex).GetError();
+        };
+        return std::async(std::launch::async, lock).get() == ERROR_SUCCESS;
+    }
+
     // nLeft counts the steps down, and the one that makes it 0 fails. Gives how many steps there are.
     template <class Counter>
     int FailEachStep(Counter& nLeft, const std::filesystem::path& path, const std::function<bool()>& write)
@@ -62,6 +76,7 @@ protected:
                 pException->Delete();
             EXPECT_TRUE(Read(path) == (bWritten ? strNew : "old")) << "step " << nStep;
             EXPECT_EQ(NamesInDirectory().size(), 1U) << "step " << nStep;
+            EXPECT_TRUE(IsMutexFree()) << "step " << nStep;
             if (!bFailed) {
                 EXPECT_TRUE(bWritten);
                 std::filesystem::remove(path);
@@ -82,6 +97,30 @@ TEST_F(Faults, OfTheHeapLeaveTheFileWhole)
 {
     EXPECT_GE(FailEachStep(g_nAllocationsLeft, PathOf(4), [this] { return Save(); }), 1);
     EXPECT_GE(FailEachStep(g_nAllocationsLeft, m_directory / "page.html", [this] { return WritePage(); }), 1);
+}
+
+TEST_F(Faults, OfTheDiskLeaveTheFileWhole)
+{
+    const FullDisk disk(0);
+    std::vector<FileOperation> failed;
+    const auto save = [&] {
+        const int nCause = CauseOf([this] { return Save(); });
+        if (nCause == CFileException::none)
+            return true;
+        EXPECT_EQ(nCause, CFileException::diskFull);
+        failed.push_back(FullDisk::s_failed);
+        return false;
+    };
+    EXPECT_GE(FailEachStep(FullDisk::s_operationsLeft, PathOf(4), save), 7);
+    EXPECT_EQ(failed[0], FileOperation::Open);
+    EXPECT_EQ(failed[1], FileOperation::Create);
+    EXPECT_EQ(std::count(failed.begin(), failed.end(), FileOperation::Write),
+              static_cast<std::ptrdiff_t>((SavedBytesOf(m_settings).size() + 4095) / 4096));
+    const std::vector end(failed.end() - 3, failed.end());
+    EXPECT_EQ(end, (std::vector{FileOperation::Flush, FileOperation::Close, FileOperation::Rename}));
+    EXPECT_EQ(
+        FailEachStep(FullDisk::s_operationsLeft, m_directory / "page.html", [this] { return WritePage(); }),
+        6);
 }
 
 #ifndef _WIN32

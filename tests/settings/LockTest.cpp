@@ -22,33 +22,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The cause of the CFileException with which the action fails, which must name the data file.
-int CauseOf(const std::function<void()>& action)
-{
-    try {
-        action();
-        return CFileException::none;
-    } catch (CFileException* pException) {
-        const int nCause = pException->m_cause;
-        EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
-        pException->Delete();
-        return nCause;
-    }
-}
-
-int CauseOfLoad()
-{
-    return CauseOf([] { EXPECT_TRUE(CalendarSettings().Load()); });
-}
-
-int CauseOfSave()
-{
-    return CauseOf([] { EXPECT_TRUE(CalendarSettings().Save()); });
-}
-
 class DataLock : public DataDirectory
 {
 protected:
+    static int CauseOfLoad()
+    {
+        return CauseOf([] { return CalendarSettings().Load(); });
+    }
+    static int CauseOfSave()
+    {
+        return CauseOf([] { return CalendarSettings().Save(); });
+    }
+
     ~DataLock() override { LockHome::Set(m_strHome); }
 
     // Another home, of the test's own.
@@ -131,34 +116,26 @@ TEST_F(DataLock, IsRefusedWhereSomethingElseStandsInItsPlace)
     const fs::path victim = m_root / "victim";
     std::ofstream(victim) << "precious";
     fs::permissions(victim, fs::perms::owner_read | fs::perms::owner_write);
+    const auto makeFile = [](const fs::path& path, fs::perms mode) {
+        std::ofstream(path).close();
+        fs::permissions(path, mode);
+    };
     using Place = std::function<void(const fs::path& folder, const fs::path& file)>;
     const std::pair<const char*, Place> places[] = {
-        {"folder-link",
-         [&](const fs::path& folder, const fs::path&) {
-             fs::remove(folder);
-             fs::create_directory_symlink(m_root, folder);
-         }},
-        {"folder-file",
-         [](const fs::path& folder, const fs::path&) {
-             fs::remove(folder);
-             std::ofstream(folder).close();
-         }},
-        {"folder-open",
-         [](const fs::path& folder, const fs::path&) { fs::permissions(folder, fs::perms::all); }},
-        {"link", [&](const fs::path&, const fs::path& file) { fs::create_symlink(victim, file); }},
-        {"second-name", [&](const fs::path&, const fs::path& file) { fs::create_hard_link(victim, file); }},
-        {"content", [&](const fs::path&, const fs::path& file) { fs::copy_file(victim, file); }},
-        {"directory", [](const fs::path&, const fs::path& file) { fs::create_directory(file); }},
-        {"pipe", [](const fs::path&, const fs::path& file) { ::mkfifo(file.c_str(), 0600); }},
-        {"open-to-others",
-         [](const fs::path&, const fs::path& file) {
-             std::ofstream(file).close();
-             ::chmod(file.c_str(), 0644);
-         }},
+        {"folder-link", [&](auto& folder, auto&) { fs::remove(folder), fs::create_symlink(m_root, folder); }},
+        {"folder-file", [&](auto& folder, auto&) { fs::remove(folder), makeFile(folder, fs::perms(0700)); }},
+        {"folder-open", [](auto& folder, auto&) { fs::permissions(folder, fs::perms::all); }},
+        {"link", [&](auto&, auto& file) { fs::create_symlink(victim, file); }},
+        {"second-name", [&](auto&, auto& file) { fs::create_hard_link(victim, file); }},
+        {"content", [&](auto&, auto& file) { fs::copy_file(victim, file); }},
+        {"directory", [](auto&, auto& file) { fs::create_directory(file); }},
+        {"pipe", [](auto&, auto& file) { ::mkfifo(file.c_str(), 0600); }},
+        {"open-to-others", [&](auto&, auto& file) { makeFile(file, fs::perms(0644)); }},
         {"of-somebody-else",
-         [](const fs::path&, const fs::path& file) {
-             std::ofstream(file).close();
-             ::chmod(file.c_str(), ::chown(file.c_str(), 65534, 65534) == 0 ? 0600 : 0644);
+         [&](auto&, auto& file) {
+             makeFile(file, fs::perms(0600));
+             if (::chown(file.c_str(), 65534, 65534) != 0)
+                 fs::permissions(file, fs::perms(0644));
          }},
     };
     for (const auto& [szName, place] : places) {

@@ -1,12 +1,8 @@
-// What a save leaves when it fails or dies on the way, and when others work on the same file.
+// What a save leaves when it dies on the way, and when others work on the same file.
 #include "DataDirectory.h"
 #include "MarkedSettings.h"
 #include "Worker.h"
 
-#include <FileUtils.h>
-#include <FullDisk.h>
-
-#include <cstdlib>
 #include <future>
 #include <vector>
 
@@ -34,71 +30,16 @@ protected:
         return settings.Load() ? MarkOf(settings) : 0;
     }
 
-    // From another thread, since the mutex lets the same one in.
-    bool IsMutexFree()
+    int CauseOfLoad()
     {
-        auto load = std::async(std::launch::async, [] {
-            try {
-                CalendarSettings().Load();
-            } catch (CFileException* pException) { // of a file that no user may read
-                pException->Delete();
-            }
-        });
-        if (load.wait_for(std::chrono::seconds(20)) == std::future_status::ready)
-            return true;
-        std::cerr << "The mutex is held." << std::endl;
-        std::_Exit(EXIT_FAILURE); // the thread can't be ended
+        return CauseOf([] { return CalendarSettings().Load(); });
     }
-
-    // The cause of the failure with which the save ended, none if it came through.
-    int SaveAndCatch(CalendarSettings& settings)
+    int CauseOfSave(CalendarSettings& settings)
     {
-        try {
-            EXPECT_TRUE(settings.Save());
-            return CFileException::none;
-        } catch (CFileException* pException) {
-            const int nCause = pException->m_cause;
-            EXPECT_EQ(pException->m_strFileName, ZebrikUtils::GetCalendarSettingsPath(4));
-            pException->Delete();
-            return nCause;
-        }
+        return CauseOf([&settings] { return settings.Save(); });
     }
 };
 
-}
-
-TEST_F(Save, KeepsTheOldFileWhenAnyOperationFails)
-{
-    const std::string strOld = ContentOf(kOld);
-    const std::string strNew = ContentOf(kNew);
-    UseDirectory(m_root / "data");
-    WriteFile(4, strOld);
-
-    CalendarSettings settings;
-    SetMark(settings, kNew);
-    std::vector<FileOperation> failed;
-    for (int nOperation = 1;; ++nOperation) {
-        const FullDisk disk(nOperation);
-        DatesCustom::s_nNextCustomID = 20000 + kNew; // since IsMutexFree loads the old one
-        const int nCause = SaveAndCatch(settings);
-        if (nCause == CFileException::none)
-            break;
-        failed.push_back(FullDisk::s_failed);
-        ASSERT_EQ(nCause, CFileException::diskFull);
-        ASSERT_TRUE(ReadFile(4) == strOld) << "operation " << nOperation;
-        ASSERT_EQ(NamesInDirectory().size(), 1U) << "what was written beside is gone";
-        ASSERT_TRUE(IsMutexFree());
-    }
-    EXPECT_TRUE(ReadFile(4) == strNew);
-    EXPECT_EQ(NamesInDirectory().size(), 1U);
-
-    ASSERT_GE(failed.size(), 7U);
-    EXPECT_EQ(failed[0], FileOperation::Open);
-    EXPECT_EQ(failed[1], FileOperation::Create);
-    EXPECT_EQ(std::count(failed.begin(), failed.end(), FileOperation::Write),
-              static_cast<std::ptrdiff_t>((strNew.size() + 4095) / 4096));
-    const std::vector end(failed.end() - 3, failed.end());
-    EXPECT_EQ(end, (std::vector{FileOperation::Flush, FileOperation::Close, FileOperation::Rename}));
 }
 
 TEST_F(Save, LeavesTheOldOrTheNewFileWhenItsProcessDies)
@@ -148,7 +89,7 @@ TEST_F(Save, MakesMissingDirectoriesAndOverwritesAReadOnlyFile)
     for (const int nMark : {kOld, kNew}) {
         CalendarSettings marked;
         SetMark(marked, nMark);
-        EXPECT_EQ(SaveAndCatch(marked), CFileException::none);
+        EXPECT_EQ(CauseOfSave(marked), CFileException::none);
         EXPECT_EQ(LoadMark(), nMark);
         SetFileAttributesA(PathOf(4).string().c_str(), FILE_ATTRIBUTE_READONLY);
     }
@@ -158,12 +99,12 @@ TEST_F(Save, FailsWhereSomethingElseStands)
 {
     CalendarSettings settings;
     std::filesystem::create_directories(PathOf(4) / "inside");
-    EXPECT_EQ(SaveAndCatch(settings), CFileException::accessDenied) << "a directory for the file";
+    EXPECT_EQ(CauseOfLoad(), CFileException::accessDenied);
+    EXPECT_EQ(CauseOfSave(settings), CFileException::accessDenied) << "a directory for the file";
     EXPECT_TRUE(std::filesystem::is_directory(PathOf(4) / "inside"));
     EXPECT_EQ(NamesInDirectory().size(), 1U);
-    EXPECT_TRUE(IsMutexFree());
 
     std::ofstream(m_root / "file") << "x";
     UseDirectory(m_root / "file" / "data");
-    EXPECT_EQ(SaveAndCatch(settings), CFileException::badPath) << "a file for a directory";
+    EXPECT_EQ(CauseOfSave(settings), CFileException::badPath) << "a file for a directory";
 }

@@ -6,7 +6,7 @@
 class FullDisk
 {
 public:
-    // Lets the operation of that number fail, from 1 on, for the life of the object.
+    // Lets the operation of that number fail, from 1 on, for the life of the object; 0 lets none fail yet.
     explicit FullDisk(int operation)
     {
         s_operationsLeft = operation;
@@ -17,6 +17,7 @@ public:
     FullDisk& operator=(const FullDisk&) = delete;
 
     static inline FileOperation s_failed{};
+    static inline int s_operationsLeft = 0;
 
 private:
     static DWORD FailAtLast(FileOperation operation)
@@ -26,6 +27,4 @@ private:
         s_failed = operation;
         return ERROR_DISK_FULL;
     }
-
-    static inline int s_operationsLeft = 0;
 };
