@@ -102,6 +102,8 @@ TEST_F(CreationTest, FileIsReadForSpecialDatesOnly)
         calendar->ReloadSpecialDates();
         EXPECT_EQ(strDesc, bUse ? "Stored" : "");
         EXPECT_EQ(GetInvalid(), bUse ? calendar->m_rcGrid : CRect());
+        EXPECT_EQ(calendar->m_vDayDescs[2 + 4], "")
+            << "Independence Day is hidden by the file, or not in use";
     }
 }
 

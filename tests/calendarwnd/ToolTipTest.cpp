@@ -7,7 +7,7 @@
 class ToolTipTest : public CalendarTest
 {
 protected:
-    // What the notification gives for a child, in the narrow form.
+    // What the notification gives for a child, in the narrow form; "-" if it declines.
     template <class Text>
     std::string Ask(UINT nCode, const CWnd* pChild)
     {
@@ -15,12 +15,12 @@ protected:
         text.hdr = {nullptr, reinterpret_cast<UINT_PTR>(pChild->m_hWnd), nCode};
         text.uFlags = TTF_IDISHWND;
         LRESULT nResult = 77;
-        EXPECT_TRUE(calendar->OnToolTipNotify(0, &text.hdr, &nResult));
+        const BOOL bAnswered = calendar->OnToolTipNotify(0, &text.hdr, &nResult);
         EXPECT_EQ(nResult, 0);
         std::string strTip;
         for (size_t i = 0; text.szText[i] != 0; ++i)
             strTip += static_cast<char>(text.szText[i]);
-        return strTip;
+        return bAnswered ? strTip : "-";
     }
     std::string AskBoth(const CWnd* pChild)
     {
@@ -134,4 +134,7 @@ TEST_F(ToolTipTest, StepButtonsSayWhereTheyLead)
     calendar->m_date = Date(9999, 12, 31);
     EXPECT_EQ(AskBoth(calendar->m_pNextYearButton), "Show December, 10000");
     EXPECT_EQ(AskBoth(calendar->m_pNextMonthButton), "(no date)");
+    for (const CWnd* pOther : {calendar->m_pTodayButton, calendar->m_pMonthYearButton})
+        EXPECT_EQ(AskBoth(pOther), "-");
+    EXPECT_EQ(AskBoth(&parent), "-");
 }

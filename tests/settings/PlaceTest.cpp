@@ -2,7 +2,6 @@
 #include "DataDirectory.h"
 #include "MarkedSettings.h"
 
-#include <functional>
 #include <thread>
 
 #ifndef _WIN32
