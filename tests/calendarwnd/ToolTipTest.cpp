@@ -1,6 +1,8 @@
 // The texts of the tips, and the tips that a resting pointer brings up.
 #include "CalendarFixture.h"
 
+#include <ToolTips.h>
+
 #include <chrono>
 #include <thread>
 
@@ -36,36 +38,19 @@ protected:
         ::SetCursorPos(point.x, point.y);
     }
 
-    // The text of the tip that is up; empty if none is.
-    static std::string GetShownTip()
-    {
-        const auto take = [](HWND hWnd, LPARAM lParam) -> BOOL {
-            char szText[100] = "";
-            ::GetClassNameA(hWnd, szText, sizeof szText);
-            if (std::string(szText) != TOOLTIPS_CLASSA || !::IsWindowVisible(hWnd))
-                return TRUE;
-            ::GetWindowTextA(hWnd, szText, sizeof szText);
-            *reinterpret_cast<std::string*>(lParam) = szText;
-            return FALSE;
-        };
-        std::string strTip;
-        ::EnumThreadWindows(::GetCurrentThreadId(), take, reinterpret_cast<LPARAM>(&strTip));
-        return strTip;
-    }
-
     // Runs the host's loop until that tip is up, for two seconds at most.
     bool Shows(const std::string& strTip)
     {
         using Clock = std::chrono::steady_clock;
         const auto end = Clock::now() + std::chrono::seconds(2);
-        while (GetShownTip() != strTip && Clock::now() < end) {
+        while (GetShownToolTip() != strTip && Clock::now() < end) {
             MSG msg;
             while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
                 if (!CWnd::WalkPreTranslateTree(parent.m_hWnd, &msg))
                     ::DispatchMessageA(&msg);
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
-        return GetShownTip() == strTip;
+        return GetShownToolTip() == strTip;
     }
 };
 

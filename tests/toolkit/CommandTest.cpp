@@ -1,4 +1,4 @@
-// Commands, notifications, and the updates of menu items.
+// Commands and notifications.
 #include "TestWnd.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +21,6 @@ protected:
         m_log.push_back("update " + std::to_string(ui->m_nID));
         ui->Enable(FALSE);
     }
-    void OnSilentUpdate(CCmdUI*) {}
     void OnFocusNotification() { m_log.push_back("control"); }
     BOOL OnNeedText(UINT id, NMHDR* header, LRESULT* result)
     {
@@ -35,10 +34,8 @@ protected:
 
 BEGIN_MESSAGE_MAP(Target, CWnd)
     ON_COMMAND(100, &Target::OnPlain)
-    ON_COMMAND(102, &Target::OnPlain)
     ON_COMMAND(110, &Target::OnPlain)
     ON_UPDATE_COMMAND_UI(100, &Target::OnUpdatePlain)
-    ON_UPDATE_COMMAND_UI(102, &Target::OnSilentUpdate)
     ON_CONTROL(kFocusCode, 100, &Target::OnFocusNotification)
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 7, 9, &Target::OnNeedText)
 END_MESSAGE_MAP()
@@ -94,30 +91,4 @@ TEST_F(Commands, NotificationsMatchTheControlsOwnIdAndMayBeDeclined)
     EXPECT_TRUE(m_target.OnCmdMsg(9, code, &notify));
     m_target.m_accept = false;
     EXPECT_FALSE(m_target.OnCmdMsg(9, code, &notify));
-}
-
-TEST_F(Commands, UpdatesSetTheItemsOfAMenu)
-{
-    CMenu menu;
-    ASSERT_TRUE(menu.Attach(::CreatePopupMenu()));
-    const struct
-    {
-        UINT id;
-        UINT state;
-        const char* why;
-    } cases[] = {
-        {100, MF_GRAYED | MF_DISABLED, "set by its update handler"},
-        {102, 0, "left alone by its update handler"},
-        {110, 0, "has no update handler"},
-    };
-    CCmdUI item;
-    item.m_pMenu = &menu;
-    for (const auto& c : cases) {
-        item.m_nID = c.id;
-        ::AppendMenuA(menu.m_hMenu, MF_STRING, c.id, "item");
-        item.DoUpdate(&m_target);
-        EXPECT_EQ(::GetMenuState(menu.m_hMenu, c.id, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED), c.state)
-            << c.why;
-        ++item.m_nIndex;
-    }
 }

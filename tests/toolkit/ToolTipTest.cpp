@@ -1,6 +1,8 @@
 // The tool tip that the toolkit shows for the children of a window.
 #include "TestWnd.h"
 
+#include <ToolTips.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -27,20 +29,7 @@ protected:
         EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message)) << "the message goes on";
     }
 
-    static HWND Tip()
-    {
-        const auto find = [](HWND hWnd, LPARAM found) -> BOOL {
-            char name[32];
-            ::GetClassNameA(hWnd, name, sizeof name);
-            if (std::string(name) == TOOLTIPS_CLASSA)
-                *reinterpret_cast<HWND*>(found) = hWnd;
-            return TRUE;
-        };
-        HWND tip = nullptr;
-        ::EnumThreadWindows(::GetCurrentThreadId(), find, reinterpret_cast<LPARAM>(&tip));
-        return tip;
-    }
-    static LRESULT CountTools() { return SendMessageA(Tip(), TTM_GETTOOLCOUNT, 0, 0); }
+    static LRESULT CountTools() { return SendMessageA(FindToolTip(), TTM_GETTOOLCOUNT, 0, 0); }
 
     TestFrame m_frame{WS_POPUP | WS_VISIBLE};
     CWnd m_window;
@@ -76,21 +65,21 @@ TEST_F(ToolTips, OutliveTheWindowThatAskedForThem)
     m_window.DestroyWindow();
     EXPECT_EQ(CountTools(), 0);
     m_frame.DestroyWindow();
-    EXPECT_EQ(Tip(), nullptr) << "goes with the top-level window";
+    EXPECT_EQ(FindToolTip(), nullptr) << "goes with the top-level window";
 
     TestFrame frame(WS_POPUP | WS_VISIBLE);
     CButton button;
     ASSERT_TRUE(button.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 20, 20), &frame, 40));
     frame.EnableToolTips(TRUE);
     Move(button);
-    EXPECT_NE(Tip(), nullptr) << "and comes with the next";
+    EXPECT_NE(FindToolTip(), nullptr) << "and comes with the next";
 }
 
 TEST_F(ToolTips, ComeBackWhenTheirWindowWasClosedElsewhere)
 {
     Move(m_window);
-    ::DestroyWindow(Tip());
+    ::DestroyWindow(FindToolTip());
     Move(m_window);
-    ASSERT_NE(Tip(), nullptr);
+    ASSERT_NE(FindToolTip(), nullptr);
     EXPECT_EQ(CountTools(), 1) << "the pointer has not left the child";
 }

@@ -73,22 +73,4 @@ TEST_F(Button, ItsLookFollowsTextAndState)
     EXPECT_EQ(send(BM_SETSTATE, TRUE), "b.BM_SETSTATE(1)") << "nothing is drawn of what is hidden";
 }
 
-TEST_F(Button, DestroyedByItsOwnCommand)
-{
-    static HWND victim;
-    victim = button;
-    static WNDPROC original;
-    original = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(
-        top, GWLP_WNDPROC,
-        reinterpret_cast<LONG_PTR>(+[](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-            if (message == WM_COMMAND)
-                DestroyWindow(victim);
-            return CallWindowProcA(original, window, message, wParam, lParam);
-        })));
-    send(WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-    send(WM_LBUTTONUP, 0, kInside);
-    EXPECT_FALSE(IsWindow(victim));
-    SetWindowLongPtrA(top, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-}
-
 }

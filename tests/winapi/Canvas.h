@@ -101,11 +101,10 @@ private:
     std::vector<HGDIOBJ> m_objects;
 };
 
-#define EXPECT_RECT(l, t, r, b, rect)                                                                        \
-    do {                                                                                                     \
-        const RECT told = rect;                                                                              \
-        EXPECT_EQ(std::to_string(l) + "," + std::to_string(t) + "," + std::to_string(r) + "," +              \
-                      std::to_string(b),                                                                     \
-                  std::to_string(told.left) + "," + std::to_string(told.top) + "," +                         \
-                      std::to_string(told.right) + "," + std::to_string(told.bottom));                       \
-    } while (false)
+inline std::string textOf(const RECT& r)
+{
+    return std::to_string(r.left) + "," + std::to_string(r.top) + "," + std::to_string(r.right) + "," +
+           std::to_string(r.bottom);
+}
+
+#define EXPECT_RECT(l, t, r, b, rect) EXPECT_EQ(textOf(RECT{l, t, r, b}), textOf(rect))

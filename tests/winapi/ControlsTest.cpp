@@ -1,4 +1,4 @@
-// The keyboard of dialogs, and a button that its parent destroys.
+// The keyboard of dialogs.
 #include "MessageRecorder.h"
 
 #include <gtest/gtest.h>
@@ -32,16 +32,6 @@ protected:
     MessageRecorder recorder;
     HWND top = nullptr;
 };
-
-TEST_F(Controls, AButtonDestroyedByWhatItTells)
-{
-    const HWND button = add("BUTTON", BS_OWNERDRAW);
-    SetFocus(button);
-    recorder.destroyWhenHeard(button);
-    SendMessageA(button, BM_CLICK, 0, 0);
-    EXPECT_FALSE(IsWindow(button));
-    serveMessages();
-}
 
 TEST_F(Controls, TheKeyboardOfADialog)
 {

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
-#include <utility>
 
 MessageRecorder* MessageRecorder::s_current = nullptr;
 
@@ -19,6 +18,7 @@ enum class Detail
     Window,
     Item,
     LowWord,
+    MenuItem,
 };
 
 constexpr struct
@@ -61,6 +61,12 @@ constexpr struct
     {WM_CHAR, "CHAR", Detail::WParam},
     {WM_SYSCHAR, "SYSCHAR", Detail::WParam},
     {WM_COMMAND, "COMMAND", Detail::LowWord},
+    {WM_ENTERMENULOOP, "ENTERMENULOOP", Detail::None},
+    {WM_INITMENU, "INITMENU", Detail::None},
+    {WM_INITMENUPOPUP, "INITMENUPOPUP", Detail::None},
+    {WM_MENUSELECT, "MENUSELECT", Detail::MenuItem},
+    {WM_UNINITMENUPOPUP, "UNINITMENUPOPUP", Detail::None},
+    {WM_EXITMENULOOP, "EXITMENULOOP", Detail::None},
     {WM_DRAWITEM, "DRAWITEM", Detail::Item},
     {WM_PAINT, "PAINT", Detail::None},
     {WM_ERASEBKGND, "ERASEBKGND", Detail::None},
@@ -107,6 +113,8 @@ std::string describe(const MessageRecorder& recorder, Detail detail, WPARAM wPar
         return recorder.nameOf(reinterpret_cast<HWND>(wParam));
     case Detail::LowWord:
         return std::to_string(LOWORD(wParam));
+    case Detail::MenuItem:
+        return HIWORD(wParam) == 0xFFFF ? "none" : std::to_string(LOWORD(wParam));
     case Detail::Item: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
         return numbers(item.itemAction, ":", item.itemState & (ODS_SELECTED | ODS_DISABLED | ODS_FOCUS));
@@ -210,8 +218,6 @@ LRESULT CALLBACK MessageRecorder::procedure(HWND window, UINT message, WPARAM wP
     if (!s_current->find(window))
         s_current->m_named.push_back({window, s_current->m_creating, nullptr});
     s_current->note(window, message, wParam, lParam);
-    if (message == WM_COMMAND && notificationOf(wParam))
-        DestroyWindow(std::exchange(s_current->m_victim, nullptr));
     const WNDPROC original = s_current->find(window)->original;
     return original ? CallWindowProcA(original, window, message, wParam, lParam)
                     : DefWindowProcA(window, message, wParam, lParam);

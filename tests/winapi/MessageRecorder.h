@@ -36,8 +36,6 @@ public:
         m_only = std::move(names);
         clear();
     }
-    // Destroys the window when its parent hears from it next.
-    void destroyWhenHeard(HWND window) { m_victim = window; }
 
     std::string nameOf(HWND window) const;
 
@@ -56,6 +54,5 @@ private:
     std::string m_creating;
     std::vector<std::string> m_notes;
     std::vector<std::string> m_only;
-    HWND m_victim = nullptr;
     static MessageRecorder* s_current;
 };

@@ -8,11 +8,11 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <QWidget>
 
 #include <functional>
 
@@ -77,18 +77,6 @@ protected:
     MessageRecorder recorder;
 };
 
-TEST_F(QtHost, OnlyTopLevelWindowsHaveAWidget)
-{
-    const HWND top = recorder.create("t", WS_POPUP);
-    const HWND child = recorder.create("c", WS_CHILD, top, 5);
-    EXPECT_EQ(QWidgetFromWindow(child), nullptr);
-    EXPECT_EQ(QWidgetFromWindow(nullptr), nullptr);
-    QWidget* const widget = QWidgetFromWindow(top);
-    ASSERT_NE(widget, nullptr);
-    EXPECT_EQ(QWidgetFromWindow(top), widget);
-    EXPECT_FALSE(widget->isVisible());
-}
-
 TEST_F(QtHost, AQtLoopServesMessagesPaintsAndTimers)
 {
     const HWND top = recorder.createTop("t");
@@ -114,31 +102,21 @@ TEST_F(QtHost, AQtLoopServesMessagesPaintsAndTimers)
     PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE); // the quit that a loop of ours would have seen
 }
 
-TEST_F(QtHost, ALayoutSizesTheWindow)
+TEST_F(QtHost, ALayoutShowsAndSizesTheWindowAndNoChildHasAWidget)
 {
     QWidget around;
     auto* const layout = new QVBoxLayout(&around);
     layout->setContentsMargins(0, 0, 0, 0);
     const HWND top = recorder.create("t", WS_POPUP);
+    EXPECT_EQ(QWidgetFromWindow(recorder.create("c", WS_CHILD, top, 5)), nullptr);
     layout->addWidget(QWidgetFromWindow(top));
+    EXPECT_FALSE(QWidgetFromWindow(top)->isVisible());
     recorder.only({"SIZE", "SHOWWINDOW", "PAINT"});
     around.resize(420, 330);
     around.show();
     runQt();
     EXPECT_TRUE(IsWindowVisible(top));
     EXPECT_EQ(recorder.take(), "t.SIZE(420x330) t.SHOWWINDOW(1) t.PAINT");
-    around.resize(200, 100);
-    runQt();
-    RECT client{};
-    GetClientRect(top, &client);
-    EXPECT_EQ(client.right, 200);
-    EXPECT_EQ(client.bottom, 100);
-    around.move(50, 60);
-    runQt();
-    POINT origin{0, 0};
-    ClientToScreen(top, &origin);
-    EXPECT_EQ(origin.x, around.geometry().x());
-    EXPECT_EQ(origin.y, around.geometry().y());
 }
 
 TEST_F(QtHost, WidgetAndWindowGoTogether)
@@ -190,41 +168,6 @@ TEST_F(QtHost, AWidgetOutlivesTheEventInWhichItsWindowEnds)
         EXPECT_FALSE(widget);
         onMessage = nullptr;
     }
-}
-
-TEST_F(QtHost, TheKeyboardGoesInAndOut)
-{
-    QWidget around;
-    auto* const layout = new QVBoxLayout(&around);
-    auto* const before = new QLineEdit;
-    auto* const after = new QLineEdit;
-    const HWND top = recorder.create("t", WS_POPUP);
-    const HWND child = recorder.create("c", WS_CHILD | WS_VISIBLE, top, 5);
-    QWidget* const widget = QWidgetFromWindow(top);
-    layout->addWidget(before);
-    layout->addWidget(widget);
-    layout->addWidget(after);
-    around.show();
-    around.activateWindow();
-    before->setFocus();
-    runQt();
-    EXPECT_EQ(GetFocus(), nullptr);
-
-    widget->setFocus();
-    runQt();
-    EXPECT_EQ(GetFocus(), top);
-    SetFocus(child);
-    before->setFocus();
-    runQt();
-    EXPECT_EQ(GetFocus(), nullptr);
-    EXPECT_EQ(GetActiveWindow(), nullptr);
-    widget->setFocus();
-    runQt();
-    EXPECT_EQ(GetFocus(), child) << "the child that had it last";
-
-    SetFocus(top);
-    sendKey(widget, Qt::Key_Tab, "\t");
-    EXPECT_TRUE(after->hasFocus());
 }
 
 TEST_F(QtHost, SmallWheelStepsMakeOneNotch)

@@ -1,5 +1,6 @@
 // A calendar whose window others made: in loops of all kinds, and with a parent that does what it likes.
 #include <TemporaryDirectory.h>
+#include <ToolTips.h>
 
 #include <afxwin.h>
 #include <commctrl.h>
@@ -90,17 +91,7 @@ protected:
             MSG msg;
             while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
                 ::DispatchMessageA(&msg);
-            tip.clear();
-            const auto take = [](HWND hWnd, LPARAM lParam) -> BOOL {
-                char text[100] = "";
-                ::GetClassNameA(hWnd, text, sizeof text);
-                if (std::string(text) == TOOLTIPS_CLASSA && ::IsWindowVisible(hWnd)) {
-                    ::GetWindowTextA(hWnd, text, sizeof text);
-                    *reinterpret_cast<std::string*>(lParam) = text;
-                }
-                return TRUE;
-            };
-            ::EnumThreadWindows(::GetCurrentThreadId(), take, reinterpret_cast<LPARAM>(&tip));
+            tip = GetShownToolTip();
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
         return tip;
