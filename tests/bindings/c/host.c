@@ -37,59 +37,37 @@ static int same_date(const zeb17_date* date, int year, int month, int day)
 
 // ---- Special dates, without a window
 
-static zeb17_entry entry_of(int rule, int years, int year)
-{
-    zeb17_entry entry = {0};
-    entry.size = sizeof entry;
-    entry.shown = 1;
-    entry.color = RGB(0x2E, 0x9B, 0x4F);
-    entry.rule = rule;
-    entry.years = years;
-    entry.year = year;
-    return entry;
-}
+#define ENTRY(rule) sizeof(zeb17_entry), 0, 1, RGB(0x2E, 0x9B, 0x4F), rule // the first fields of an entry
 
 static void check_rules(zeb17_settings settings)
 {
+    static const struct
+    {
+        const char* text;
+        zeb17_date next; // after 15 July 2026
+        zeb17_entry entry;
+    } rules[] = {
+        // size, id, shown, color, rule, day, month, occurrence, weekday, near_weekday, working_day, years,
+        // year
+        {"Leap day", {2028, 2, 29}, {ENTRY(ZEB17_DAY), 29, 2, 0, 0, 0, 0, ZEB17_EVERY_YEAR, 0}},
+        {"Last Friday", {2026, 11, 27}, {ENTRY(ZEB17_WEEKDAY), 0, 11, 7, 6, 0, 0, ZEB17_FROM_YEAR, 2020}},
+        {"Monday before", {2027, 5, 24}, {ENTRY(ZEB17_NEAR_DAY), 25, 5, 0, 0, -2, 0, ZEB17_UNTIL_YEAR, 2030}},
+        {"Election", {2026, 11, 3}, {ENTRY(ZEB17_NEAR_WEEKDAY), 0, 11, 1, 2, 3, 0, ZEB17_EVEN_YEARS, 0}},
+    };
     const zeb17_date from = {2026, 7, 15};
+    zeb17_entry entry = {ENTRY(ZEB17_DAY), 29, 2, 0, 0, 0, 0, ZEB17_ONCE, 2027};
     zeb17_date next;
     uint32_t index = 99;
-    zeb17_entry entry = entry_of(ZEB17_DAY, ZEB17_ONCE, 2027);
-    entry.day = 29;
-    entry.month = 2;
+    uint32_t i;
     CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &entry, "Never", NULL) == ZEB17_OK);
     CHECK(zeb17_entry_next(settings, ZEB17_CUSTOM, 0, &from, &next) == ZEB17_NOT_FOUND);
     CHECK(zeb17_entry_delete(settings, ZEB17_CUSTOM, 0) == ZEB17_OK);
-
-    entry.years = ZEB17_EVERY_YEAR;
-    CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &entry, "Leap day", &index) == ZEB17_OK && index == 0);
-    CHECK(zeb17_entry_next(settings, ZEB17_CUSTOM, 0, &from, &next) == ZEB17_OK);
-    CHECK(same_date(&next, 2028, 2, 29));
-
-    entry = entry_of(ZEB17_WEEKDAY, ZEB17_FROM_YEAR, 2020);
-    entry.occurrence = 7;
-    entry.weekday = 6;
-    entry.month = 11;
-    CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &entry, "Last Friday", &index) == ZEB17_OK && index == 1);
-    CHECK(zeb17_entry_next(settings, ZEB17_CUSTOM, 1, &from, &next) == ZEB17_OK);
-    CHECK(same_date(&next, 2026, 11, 27));
-
-    entry = entry_of(ZEB17_NEAR_DAY, ZEB17_UNTIL_YEAR, 2030);
-    entry.day = 25;
-    entry.month = 5;
-    entry.near_weekday = -2;
-    CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &entry, "Monday before", &index) == ZEB17_OK && index == 2);
-    CHECK(zeb17_entry_next(settings, ZEB17_CUSTOM, 2, &from, &next) == ZEB17_OK);
-    CHECK(same_date(&next, 2027, 5, 24));
-
-    entry = entry_of(ZEB17_NEAR_WEEKDAY, ZEB17_EVEN_YEARS, 0);
-    entry.occurrence = 1;
-    entry.weekday = 2;
-    entry.month = 11;
-    entry.near_weekday = 3;
-    CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &entry, "Election", &index) == ZEB17_OK && index == 3);
-    CHECK(zeb17_entry_next(settings, ZEB17_CUSTOM, 3, &from, &next) == ZEB17_OK);
-    CHECK(same_date(&next, 2026, 11, 3));
+    for (i = 0; i < sizeof rules / sizeof *rules; ++i) {
+        const zeb17_date* const due = &rules[i].next;
+        CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &rules[i].entry, rules[i].text, &index) == ZEB17_OK);
+        CHECK(index == i && zeb17_entry_next(settings, ZEB17_CUSTOM, i, &from, &next) == ZEB17_OK);
+        CHECK(same_date(&next, due->year, due->month, due->day));
+    }
     entry.month = 13;
     CHECK(zeb17_entry_set(settings, ZEB17_CUSTOM, 3, &entry, NULL) == ZEB17_BAD_RULE);
 }
@@ -126,11 +104,9 @@ static void check_settings(void)
     const zeb17_date leap_day = {2028, 2, 29};
     zeb17_settings settings = NULL;
     zeb17_settings again = NULL;
-    zeb17_entry todo = entry_of(ZEB17_DAY, ZEB17_ONCE, 2028);
+    const zeb17_entry todo = {ENTRY(ZEB17_DAY), 29, 2, 0, 0, 0, 0, ZEB17_ONCE, 2028};
     COLORREF color = 0;
     char text[256];
-    todo.day = 29;
-    todo.month = 2;
     CHECK(zeb17_settings_open(&settings) == ZEB17_OK);
     check_rules(settings);
     check_groups(settings);
@@ -309,10 +285,8 @@ static void check_own_settings(HWND control)
 {
     const zeb17_date day = {2026, 7, 20};
     zeb17_settings own = NULL;
-    zeb17_entry entry = entry_of(ZEB17_DAY, ZEB17_EVERY_YEAR, 0);
+    const zeb17_entry entry = {ENTRY(ZEB17_DAY), 20, 7, 0, 0, 0, 0, ZEB17_EVERY_YEAR, 0};
     char text[64];
-    entry.day = 20;
-    entry.month = 7;
     CHECK(zeb17_control_settings(control, &own) == ZEB17_OK);
     CHECK(zeb17_entry_add(own, ZEB17_CUSTOM, &entry, "Fair", NULL) == ZEB17_OK);
     CHECK(zeb17_refresh(control) == ZEB17_OK);
