@@ -102,7 +102,7 @@ int zeb17_reload(HWND control)
 int zeb17_refresh(HWND control)
 {
     return WithCalendar(control, [](HostedCalendar& calendar) {
-        calendar.Refresh();
+        calendar.RefreshSpecialDays();
         return ZEB17_OK;
     });
 }

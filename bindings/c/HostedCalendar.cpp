@@ -417,13 +417,6 @@ int HostedCalendar::Print(const char* lpszPath)
     return Note(ZEB17_PRINT_FAILED, ToUtf8(log.m_strLine.Mid(log.m_strLine.Find('}') + 1)));
 }
 
-void HostedCalendar::Refresh()
-{
-    DetermineSpecialDays();
-    InvalidateGrid();
-    AnnounceMonth();
-}
-
 zeb17_settings HostedCalendar::Settings()
 {
     if (!m_hSettings)

@@ -41,11 +41,11 @@ public:
     int GetState(zeb17_date* pDate, int* pSelected) const;
     int Step(int nUnit, int nCount);
     int Print(const char* lpszPath);
-    void Refresh();
     zeb17_settings Settings();
 
     // The members that the interface calls as they are.
     using CCalendarWnd::OnTodayButton;
+    using CCalendarWnd::RefreshSpecialDays;
 
     // What a handler of a control or of one of its buttons does with a message, around what it did before.
     // hWndCalendar is the control.

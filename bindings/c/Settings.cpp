@@ -158,28 +158,6 @@ int Take(const zeb17_entry* given, const char* text, CalendarDateEntry& entry)
     return result == ZEB17_OK ? TakeRule(*given, entry) : result;
 }
 
-// ---- The next date
-
-// A rule falls on a date at the latest after the 40 years in which weekdays and leap days come round again,
-// also where a century lacks its leap day.
-constexpr int kDaysToSearch = 40 * 366;
-
-bool FindNext(const DateEntry& entry, DateTime date, DateTime& next)
-{
-    const bool bBegins =
-        entry.m_nKind == DateEntry::KIND_FROM_YEAR || entry.m_nKind == DateEntry::KIND_IN_YEAR;
-    if (bBegins && entry.m_nStartYear > date.GetYear())
-        date.SetDate(entry.m_nStartYear, 1, 1);
-    for (int i = 0; i < kDaysToSearch && date.IsValid(); ++i, date.AddDays(1)) {
-        const zeb17_date day = FromDateTime(date);
-        if (!entry.IsMatch(day.day, day.month, day.year))
-            continue;
-        next = date;
-        return true;
-    }
-    return false;
-}
-
 }
 
 // ---- Settings as a whole
@@ -367,13 +345,12 @@ int zeb17_entry_next(zeb17_settings settings, int group, uint32_t index, const z
     return WithEntry(settings, group, index, [=](CalendarSettings&, const CalendarDateEntry& found) {
         if (!from || !next)
             return ZEB17_BAD_ARGUMENT;
-        const DateTime start = ToDateTime(from);
-        if (!start.IsValid())
+        if (!ToDateTime(from).IsValid())
             return ZEB17_BAD_DATE;
-        DateTime date;
-        if (!FindNext(found, start, date))
+        const auto date = found.FindNext({from->year, from->month, from->day});
+        if (!date)
             return ZEB17_NOT_FOUND;
-        *next = FromDateTime(date);
+        *next = {date->nYear, date->nMonth, date->nDay};
         return ZEB17_OK;
     });
 }

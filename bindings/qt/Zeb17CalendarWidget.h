@@ -91,7 +91,8 @@ public:
     // The widget holds them, as they were in the data file when it read it; changes show at once and reach
     // the file with saveSpecialDates. Several widgets each hold their own: after one of them has saved, the
     // application calls reloadSpecialDates of the others. Everything here is empty, and every change fails,
-    // without the option SpecialDates and while the file cannot be read; it is then left as it is.
+    // without the option SpecialDates and while the file cannot be read; it is then left as it is. The to-do
+    // list can be changed with the option ToDoList only.
 
     // Whether there are special dates to work with: the option is set, and the file was read or is not there.
     bool hasSpecialDates() const;
@@ -117,7 +118,7 @@ public:
     Zeb17SpecialDate specialDate(Group group, int index) const;
     QList<Zeb17SpecialDate> specialDates(Group group) const;
 
-    // Adds a date to the end of OwnDates or ToDos (with the option ToDoList). It needs a text and a valid
+    // Adds a date to the end of OwnDates or ToDos. It needs a text and a valid
     // rule; the text is one line.
     bool addSpecialDate(Group group, const Zeb17SpecialDate& date);
     // Replaces a date. Of a national one only colour and visibility can be changed.

@@ -78,8 +78,8 @@ struct ZEB17_EXPORT Zeb17DateRule
     bool isValid() const;
     // Whether the rule falls on the day; false for the kind WorkedOut, of which only the calendar knows.
     bool fallsOn(QDate date) const;
-    // The first day from `from` on on which the rule falls; an invalid date if there is none within nine
-    // years of it, or of the year in which the rule begins to hold.
+    // The first day from `from` on on which the rule falls; an invalid date if there is none, and for the
+    // kind WorkedOut.
     QDate nextDate(QDate from) const;
 
     // Whether all members are the same, also those that play no part.

@@ -74,13 +74,6 @@ void Zeb17CalendarWidget::Control::showToday()
         *this, [&] { ShowDate(today); }, [&] { AnnounceSelection(); });
 }
 
-void Zeb17CalendarWidget::Control::refreshSpecialDates()
-{
-    DetermineSpecialDays();
-    InvalidateGrid();
-    AnnounceMonth();
-}
-
 void Zeb17CalendarWidget::Control::enableButtons(bool enable)
 {
     for (CZEBButton* const button : GetButtons())

@@ -28,7 +28,7 @@ public:
     void showToday();
     void step(void (DateTime::*by)(int), int count) { StepDate(by, count); }
     // Shows what was changed in the settings.
-    void refreshSpecialDates();
+    void refreshSpecialDates() { RefreshSpecialDays(); }
     void print() { OnOptionsPrint(); }
     // The buttons look as the state of the control says.
     void enableButtons(bool enable);

@@ -224,19 +224,12 @@ bool Zeb17DateRule::fallsOn(QDate date) const
     return day.IsValid() && isMatch(toRuleEntry(*this), day);
 }
 
-// Nine years hold two 29 February, also around a year that is no leap year.
 QDate Zeb17DateRule::nextDate(QDate from) const
 {
-    constexpr int kDays = 9 * 366;
-    DateTime day = toDateTime(from);
-    const bool begins = years == FromYear || years == InYear;
-    if (day.IsValid() && begins && year > day.GetYear())
-        day.SetDate(year, 1, 1);
-    const DateEntry entry = toRuleEntry(*this);
-    for (int i = 0; i < kDays && day.IsValid(); ++i, day.AddDays(1))
-        if (isMatch(entry, day))
-            return toQDate(day);
-    return {};
+    DayNumbers::Date parts{};
+    toDateTime(from).GetDate(parts.nYear, parts.nMonth, parts.nDay);
+    const auto next = toRuleEntry(*this).FindNext(parts);
+    return next ? toQDate(DateTime(next->nYear, next->nMonth, next->nDay, 0, 0, 0)) : QDate();
 }
 
 bool Zeb17DateRule::operator==(const Zeb17DateRule& other) const

@@ -303,6 +303,16 @@ bool Zeb17CalendarWidget::Host::needSpecialDates()
                     : tr("The calendar does not use special dates."));
 }
 
+bool Zeb17CalendarWidget::Host::mayChange(Group group)
+{
+    if (!needSpecialDates())
+        return false;
+    if (!isGroup(group))
+        return fail(tr("This is no group of special dates."));
+    return group != ToDos || CalendarSettings::IsEnableToDoList() ||
+           fail(tr("The to-do list is not in use."));
+}
+
 // What a file holds that cannot be read to its end is not used: a save would keep a part of it only.
 bool Zeb17CalendarWidget::Host::load()
 {

@@ -58,6 +58,8 @@ public:
     // Special dates
     bool hasSpecialDates();
     bool needSpecialDates(); // fails if there are none to work with
+    static bool isGroup(Group group) { return group >= UnitedStates && group <= ToDos; }
+    bool mayChange(Group group); // fails if the dates of the group cannot be changed
     bool load();
     bool save();
     bool isUnsaved() const { return m_unsaved; }

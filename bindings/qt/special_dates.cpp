@@ -19,11 +19,6 @@ CalendarSettings::Group toGroup(Zeb17CalendarWidget::Group group)
 static_assert(static_cast<int>(Zeb17CalendarWidget::UnitedStates) == CalendarSettings::GroupUS);
 static_assert(static_cast<int>(Zeb17CalendarWidget::ToDos) == CalendarSettings::GroupToDo);
 
-bool isGroup(Zeb17CalendarWidget::Group group)
-{
-    return group >= Zeb17CalendarWidget::UnitedStates && group <= Zeb17CalendarWidget::ToDos;
-}
-
 bool isOwn(Zeb17CalendarWidget::Group group)
 {
     return group == Zeb17CalendarWidget::OwnDates || group == Zeb17CalendarWidget::ToDos;
@@ -83,7 +78,7 @@ QString Zeb17CalendarWidget::groupName(Group group)
 
 QColor Zeb17CalendarWidget::groupColor(Group group) const
 {
-    if (!isGroup(group) || !hasSpecialDates())
+    if (!Host::isGroup(group) || !hasSpecialDates())
         return {};
     const auto entries = entriesOf(m_host->control().settings(), group);
     if (entries.empty())
@@ -95,7 +90,7 @@ QColor Zeb17CalendarWidget::groupColor(Group group) const
 
 Qt::CheckState Zeb17CalendarWidget::groupShown(Group group) const
 {
-    if (!isGroup(group) || !hasSpecialDates())
+    if (!Host::isGroup(group) || !hasSpecialDates())
         return Qt::Unchecked;
     const auto entries = entriesOf(m_host->control().settings(), group);
     const auto shown = std::ranges::count_if(entries, &CalendarDateEntry::GetShow);
@@ -106,32 +101,28 @@ Qt::CheckState Zeb17CalendarWidget::groupShown(Group group) const
 
 bool Zeb17CalendarWidget::setGroupColor(Group group, const QColor& color)
 {
-    if (!m_host->needSpecialDates())
+    if (!m_host->mayChange(group))
         return false;
-    if (!isGroup(group) || !color.isValid())
-        return m_host->fail(tr("This is no group of special dates, or no colour."));
+    if (!color.isValid())
+        return m_host->fail(tr("This is no colour."));
     m_host->groupColor(group) = color;
-    for (CalendarDateEntry* const entry : entriesOf(m_host->control().settings(), group))
-        entry->SetColor(toColorRef(color));
+    m_host->control().settings().SetAllColor(toGroup(group), toColorRef(color));
     m_host->changed();
     return true;
 }
 
 bool Zeb17CalendarWidget::setGroupShown(Group group, bool shown)
 {
-    if (!m_host->needSpecialDates())
+    if (!m_host->mayChange(group))
         return false;
-    if (!isGroup(group))
-        return m_host->fail(tr("This is no group of special dates."));
-    for (CalendarDateEntry* const entry : entriesOf(m_host->control().settings(), group))
-        entry->SetShow(shown);
+    m_host->control().settings().SetAllShow(toGroup(group), shown);
     m_host->changed();
     return true;
 }
 
 int Zeb17CalendarWidget::specialDateCount(Group group) const
 {
-    return isGroup(group) && hasSpecialDates() ? countOf(m_host->control().settings(), group) : 0;
+    return Host::isGroup(group) && hasSpecialDates() ? countOf(m_host->control().settings(), group) : 0;
 }
 
 Zeb17SpecialDate Zeb17CalendarWidget::specialDate(Group group, int index) const
@@ -151,12 +142,10 @@ QList<Zeb17SpecialDate> Zeb17CalendarWidget::specialDates(Group group) const
 
 bool Zeb17CalendarWidget::addSpecialDate(Group group, const Zeb17SpecialDate& date)
 {
-    if (!m_host->needSpecialDates())
+    if (!m_host->mayChange(group))
         return false;
     if (!isOwn(group))
         return m_host->fail(tr("Dates can be added to your own ones and to the to-do list only."));
-    if (group == ToDos && !CalendarSettings::IsEnableToDoList())
-        return m_host->fail(tr("The to-do list is not in use."));
     if (!date_entries::isComplete(date))
         return m_host->fail(tr("A special date needs a text of one line and a rule that falls on a day."));
     Zeb17SpecialDate whole = date;
@@ -175,7 +164,7 @@ bool Zeb17CalendarWidget::addSpecialDate(Group group, const Zeb17SpecialDate& da
 
 bool Zeb17CalendarWidget::setSpecialDate(Group group, int index, const Zeb17SpecialDate& date)
 {
-    if (!m_host->needSpecialDates())
+    if (!m_host->mayChange(group))
         return false;
     CalendarDateEntry* const entry = entryAt(m_host->control().settings(), group, index);
     if (!entry)
@@ -200,7 +189,7 @@ bool Zeb17CalendarWidget::setSpecialDate(Group group, int index, const Zeb17Spec
 
 Zeb17SpecialDate Zeb17CalendarWidget::takeSpecialDate(Group group, int index)
 {
-    if (!m_host->needSpecialDates())
+    if (!m_host->mayChange(group))
         return {};
     CalendarSettings& settings = m_host->control().settings();
     CalendarDateEntry* const entry = isOwn(group) ? entryAt(settings, group, index) : nullptr;

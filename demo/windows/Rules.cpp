@@ -81,28 +81,15 @@ CString DescribeRule(const DateEntry& entry)
     return words.data();
 }
 
-std::optional<DateTime> FindNext(const DateEntry& entry)
-{
-    constexpr int kDays = 9 * 366; // 29 February can be eight years away
-    DateTime date;
-    date.SetToCurrentDate();
-    const bool begins =
-        entry.m_nKind == DateEntry::KIND_FROM_YEAR || entry.m_nKind == DateEntry::KIND_IN_YEAR;
-    if (begins && entry.m_nStartYear > date.GetYear())
-        date.SetDate(entry.m_nStartYear, 1, 1);
-    for (int i = 0; i < kDays && date.IsValid(); ++i, date.AddDays(1)) {
-        int year = 0, month = 0, day = 0;
-        date.GetDate(year, month, day);
-        if (entry.IsMatch(day, month, year))
-            return date;
-    }
-    return std::nullopt;
-}
-
 CString DescribeNext(const DateEntry& entry)
 {
-    const std::optional<DateTime> next = FindNext(entry);
+    DateTime date;
+    date.SetToCurrentDate();
+    DayNumbers::Date today{};
+    date.GetDate(today.nYear, today.nMonth, today.nDay);
+    const auto next = entry.FindNext(today);
     if (!next)
         return "Next: none";
-    return "Next: " + DateTime::ConvertDateToText(*next, false, false, false, false);
+    date.SetDate(next->nYear, next->nMonth, next->nDay);
+    return "Next: " + DateTime::ConvertDateToText(date, false, false, false, false);
 }

@@ -6,7 +6,6 @@
 #include <DateEntry.h>
 #include <DateTime.h>
 
-#include <optional>
 #include <span>
 
 // The numbers that a rule is made of.
@@ -34,6 +33,3 @@ std::span<const RuleForm> RuleForms();
 CString DescribeRule(const DateEntry& entry);
 // "Next: Thursday, November 26, 2026", or that there is none.
 CString DescribeNext(const DateEntry& entry);
-
-// The first date from today on; none if the rule falls on no day any more.
-std::optional<DateTime> FindNext(const DateEntry& entry);

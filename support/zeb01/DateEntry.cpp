@@ -127,6 +127,22 @@ void DateEntry::SetBeforeAfterDayOfWeek(const CString& strDesc, OCCURRENCE occur
     SetRule(strDesc, RULE_NEAR_DAY_OF_WEEK, {occurrence, nDayOfWeek, nMonth, nSignedDayOfWeek});
 }
 
+std::optional<DayNumbers::Date> DateEntry::FindNext(DayNumbers::Date date) const
+{
+    // Weekdays and leap days come round again within 40 years, also where a century lacks its leap day.
+    constexpr int kDaysToSearch = 40 * 366;
+    if (DayNumbers::FromDate(date) == DayNumbers::kNone)
+        return std::nullopt;
+    if ((m_nKind == KIND_FROM_YEAR || m_nKind == KIND_IN_YEAR) && m_nStartYear > date.nYear)
+        date = {m_nStartYear, 1, 1};
+    for (int i = 0; i < kDaysToSearch && date.nYear <= DayNumbers::kMaxYear; ++i) {
+        if (IsMatch(date.nDay, date.nMonth, date.nYear))
+            return date;
+        date = DayNumbers::DayAfter(date);
+    }
+    return std::nullopt;
+}
+
 bool DateEntry::IsMatchInMonth(int nDay, int nMonth, int nYear) const
 {
     if (!HoldsInYear(nYear))

@@ -8,6 +8,7 @@
 #include <zeb17_export.h>
 
 #include <cstdint>
+#include <optional>
 
 class ZEB17_EXPORT DateEntry
 {
@@ -75,6 +76,10 @@ public:
     {
         return MayFallIn(nMonth) && IsMatchInMonth(nDay, nMonth, nYear);
     }
+
+    // The first date on which the rule falls, from that one on. Nothing if there is none, or if `date` is no
+    // date.
+    std::optional<DayNumbers::Date> FindNext(DayNumbers::Date date) const;
 
     std::int32_t m_nRuleWord = RULE_NONE;   // a RULE
     std::int32_t m_nKind = KIND_EVERY_YEAR; // the limit of years, a KIND

@@ -170,6 +170,7 @@ protected:
     void StepDate(void (DateTime::*pStep)(int), int nCount);
     void NotifyAndRefresh();
     void RefreshMonth();
+    void RefreshSpecialDays(); // shows what was changed in m_settings
     void UpdateMonthYearText();
     void InvalidateGrid();
     bool EraseSelectionFrame();

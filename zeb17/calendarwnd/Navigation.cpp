@@ -177,6 +177,11 @@ void CCalendarWnd::ReloadSpecialDates()
     if (!m_bUseSpecialDates)
         return;
     m_settings.Load();
+    RefreshSpecialDays();
+}
+
+void CCalendarWnd::RefreshSpecialDays()
+{
     DetermineSpecialDays();
     InvalidateGrid();
     AnnounceMonth();

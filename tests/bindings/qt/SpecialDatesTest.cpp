@@ -42,6 +42,9 @@ const struct
     {"after a weekday",
      Rule::nearTheWeekday(Qt::Tuesday, Rule::After, Rule::First, Qt::Monday, 11),
      {2027, 11, 2}},
+    {"seldom",
+     Rule::nearDay(Qt::Sunday, Rule::After, 30, 12).in(Rule::FromYear, 2035),
+     {2045, 12, 31}}, // the next year that ends with a Sunday
     {"even years", Rule::onDay(1, 1).in(Rule::EvenYears), {2028, 1, 1}},
     {"from a year on", Rule::onDay(1, 1).in(Rule::FromYear, 2050), {2050, 1, 1}},
     {"until a year", Rule::onDay(1, 12).in(Rule::UntilYear, 2025), {}},
