@@ -16,6 +16,16 @@ void* operator new(std::size_t nSize)
     throw std::bad_alloc();
 }
 
+// Must be here too: where the sanitizers replace it, memory would come from one place and be given back to another.
+void* operator new(std::size_t nSize, const std::nothrow_t&) noexcept
+{
+    try {
+        return operator new(nSize);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void operator delete(void* p) noexcept
 {
     std::free(p);
