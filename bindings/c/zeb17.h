@@ -44,6 +44,7 @@ extern "C" {
 #define ZEB17_VERSION 10000
 ZEB17_EXPORT int zeb17_version(void);
 
+// What the functions give.
 enum zeb17_result
 {
     ZEB17_OK = 0,
@@ -76,13 +77,13 @@ ZEB17_EXPORT int zeb17_last_detail(char* buffer, uint32_t size, uint32_t* length
 
 // ---- Dates
 
-// Year 1 to 9999, month 1 to 12, day from 1. Julian up to 4 October 1582, Gregorian from 15 October 1582 on;
+// A day. Julian up to 4 October 1582, Gregorian from 15 October 1582 on;
 // the ten days between are no dates.
 typedef struct zeb17_date
 {
-    int32_t year;
-    int32_t month;
-    int32_t day;
+    int32_t year;  // 1 to 9999
+    int32_t month; // 1 to 12
+    int32_t day;   // from 1
 } zeb17_date;
 
 // Today, as the library has it.
@@ -90,6 +91,7 @@ ZEB17_EXPORT int zeb17_today(zeb17_date* date);
 // Stops the library's clock at noon of that day, for pictures and tests; null lets it run again.
 ZEB17_EXPORT int zeb17_set_today(const zeb17_date* date);
 
+// How a date or a name is written.
 enum zeb17_form
 {
     ZEB17_LONG = 0,
@@ -118,6 +120,7 @@ ZEB17_EXPORT int zeb17_set_locale(const char* name);
 // creation, in a dialog before WM_INITDIALOG. WS_TABSTOP gives it a place in the order of a dialog.
 #define ZEB17_CLASS "zeb17.Calendar"
 
+// What a control offers; the low 16 bits of its window style.
 enum zeb17_flag
 {
     ZEB17_SPECIAL_DATES = 0x0001, // load the data file; mark special days by dots and tool tips
@@ -152,6 +155,7 @@ ZEB17_EXPORT int zeb17_set_date(HWND control, const zeb17_date* date);
 // Does what the Today button does: it also gives the control the focus.
 ZEB17_EXPORT int zeb17_select_today(HWND control);
 
+// What zeb17_step steps by.
 enum zeb17_unit
 {
     ZEB17_MONTHS = 0,
@@ -175,18 +179,19 @@ ZEB17_EXPORT int zeb17_print(HWND control, const char* path);
 // The face of a button: its colours, 0x00BBGGRR, from the top to the bottom, and the line around it.
 typedef struct zeb17_face
 {
-    COLORREF top;
-    COLORREF bottom;
-    COLORREF border;
+    COLORREF top;    // of the area's upper end
+    COLORREF bottom; // of its lower end
+    COLORREF border; // of the line
 } zeb17_face;
 
+// The faces of a button in its four states.
 typedef struct zeb17_shading
 {
-    uint32_t size;
-    zeb17_face normal;
-    zeb17_face hot; // under the pointer
-    zeb17_face pressed;
-    zeb17_face disabled;
+    uint32_t size;       // of this structure
+    zeb17_face normal;   // at rest
+    zeb17_face hot;      // under the pointer
+    zeb17_face pressed;  // while it is held down
+    zeb17_face disabled; // where it can't be pressed
 } zeb17_shading;
 
 // Sets the shading of the buttons of controls that are made later. A control that is there shows it after
@@ -217,13 +222,15 @@ ZEB17_EXPORT UINT zeb17_message(int event);
 // other moment, or with any other number, the code is ZEB17_BAD_ARGUMENT.
 ZEB17_EXPORT int zeb17_range_end(LPARAM lParam, zeb17_date* date);
 
+// The code of the first notification.
+#define ZEB17_NOTIFY_FIRST 1700u
+
 // With ZEB17_NOTIFY the parent gets each message a second time, as WM_NOTIFY: lParam points to this, for the
 // time of the call. The size stands behind the header that the system asks for.
-#define ZEB17_NOTIFY_FIRST 1700u
 typedef struct zeb17_notification
 {
-    NMHDR header; // code: ZEB17_NOTIFY_FIRST plus the zeb17_event
-    uint32_t size;
+    NMHDR header;     // code: ZEB17_NOTIFY_FIRST plus the zeb17_event
+    uint32_t size;    // of this structure
     int32_t by_press; // 1 after a press on a day
     int32_t selected; // whether the date is selected
     zeb17_date date;  // the control's date
@@ -237,6 +244,7 @@ typedef struct zeb17_notification
 // its own; a host without a window opens some.
 typedef struct zeb17_settings_handle* zeb17_settings;
 
+// The groups, by which all functions below name them.
 enum zeb17_group
 {
     ZEB17_US = 0,
@@ -271,16 +279,21 @@ ZEB17_EXPORT int zeb17_set_data_directory(const char* directory);
 ZEB17_EXPORT int zeb17_describe(zeb17_settings settings, const zeb17_date* date, char* buffer, uint32_t size,
                                 uint32_t* length, COLORREF* color);
 
+// Stands for a colour where the entries of a group have several.
 #define ZEB17_MIXED_COLORS 0xFFFFFFFFu
+
+// A group at a glance.
 typedef struct zeb17_group_info
 {
-    uint32_t size;
+    uint32_t size;  // of this structure
     uint32_t count; // how many entries there are
     uint32_t shown; // how many of them are shown
     uint32_t color; // the colour of all, 0x00BBGGRR; ZEB17_MIXED_COLORS if they differ, and of an empty group
 } zeb17_group_info;
 
+// The name of a group, in English.
 ZEB17_EXPORT int zeb17_group_name(int group, char* buffer, uint32_t size, uint32_t* length);
+// How many entries a group has and shows, and their colour.
 ZEB17_EXPORT int zeb17_group_get(zeb17_settings settings, int group, zeb17_group_info* info);
 // Gives all entries of a group a colour, shows or hides them all.
 ZEB17_EXPORT int zeb17_group_set_color(zeb17_settings settings, int group, COLORREF color);
@@ -310,7 +323,7 @@ enum zeb17_years
 // One special date. Numbers that its rule does not use are 0.
 typedef struct zeb17_entry
 {
-    uint32_t size;
+    uint32_t size;        // of this structure
     int32_t id;           // given, not taken: the library numbers entries
     int32_t shown;        // 1 or 0
     uint32_t color;       // 0x00BBGGRR; white is not seen on the white grid

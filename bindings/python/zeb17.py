@@ -27,13 +27,17 @@ EVERY_YEAR, EVEN_YEARS, FROM_YEAR, UNTIL_YEAR, ONCE = 0, 2, 4, 5, 6
 
 
 class Date(ctypes.Structure):
+    """A day as the library has it: year 1 to 9999, month, day."""
+
     _fields_ = [(name, c_int32) for name in ("year", "month", "day")]
 
     @classmethod
     def of(cls, date):
+        """The day of a datetime.date."""
         return cls(date.year, date.month, date.day)
 
     def to_date(self):
+        """The datetime.date of the day."""
         return datetime.date(self.year, self.month, self.day)
 
 
@@ -52,6 +56,8 @@ class Entry(ctypes.Structure):
 
 
 class GroupInfo(ctypes.Structure):
+    """A group at a glance: count, shown, color; see zeb17_group_info."""
+
     _fields_ = [(name, c_uint32) for name in ("size", "count", "shown", "color")]
 
 
@@ -77,6 +83,8 @@ class _WindowClass(ctypes.Structure):
 
 
 class Error(Exception):
+    """What a call that fails raises; `code` is one of ERRORS."""
+
     def __init__(self, code):
         self.code = ERRORS[code]
         detail = _text(_lib.zeb17_last_detail)
@@ -154,24 +162,30 @@ class Settings:
         self.close()
 
     def close(self):
+        """Ends settings that were opened; those of a calendar stay."""
         if not self._lent:
             _check(_lib.zeb17_settings_close(self._handle))
 
     def save(self):
+        """Writes the data file, whole or not at all."""
         _check(_lib.zeb17_settings_save(self._handle))
 
     def describe(self, date):
+        """What falls on a day, a line for each date; empty for nothing."""
         return _text(_lambda_with_color(_lib.zeb17_describe), self._handle, byref(Date.of(date)))
 
     def group(self, group):
+        """The GroupInfo of a group."""
         info = GroupInfo(ctypes.sizeof(GroupInfo))
         _check(_lib.zeb17_group_get(self._handle, group, byref(info)))
         return info
 
     def set_color(self, group, color):
+        """Gives all entries of a group a colour, 0x00BBGGRR."""
         _check(_lib.zeb17_group_set_color(self._handle, group, color))
 
     def show(self, group, shown=True):
+        """Shows or hides all entries of a group."""
         _check(_lib.zeb17_group_set_shown(self._handle, group, int(shown)))
 
     def entries(self, group):
@@ -191,10 +205,12 @@ class Settings:
         return index.value
 
     def change(self, group, index, entry):
+        """Replaces an entry; of a national one only `shown` and `color`."""
         text = entry.text.encode() if entry.text and group in (CUSTOM, TODO) else None
         _check(_lib.zeb17_entry_set(self._handle, group, index, byref(entry), text))
 
     def delete(self, group, index):
+        """Deletes an entry of the user's."""
         _check(_lib.zeb17_entry_delete(self._handle, group, index))
 
     def next(self, group, index, start):
@@ -230,22 +246,28 @@ class Calendar:
 
     @date.setter
     def date(self, date):
+        """Selects a day; None selects none."""
         _check(_lib.zeb17_set_date(self.handle, byref(Date.of(date)) if date else None))
 
     @property
     def settings(self):
+        """The special dates that the calendar shows; refresh() shows what was changed in them."""
         return Settings(self)
 
     def refresh(self):
+        """Shows what was changed in the settings."""
         _check(_lib.zeb17_refresh(self.handle))
 
     def reload(self):
+        """Reads the data file anew."""
         _check(_lib.zeb17_reload(self.handle))
 
     def save_web_page(self, path):
+        """Writes the month shown as a web page."""
         _check(_lib.zeb17_save_web_page(self.handle, os.fsencode(path)))
 
     def print(self, path=None):
+        """Prints the month shown: to a PDF file, or where the user chooses."""
         _check(_lib.zeb17_print(self.handle, os.fsencode(path) if path else None))
 
 
@@ -273,6 +295,7 @@ class Window:
             _register_class(byref(_WindowClass(proc=cls._proc, name=cls._class_name)))
 
     def add_calendar(self, rect=(0, 0, 380, 280), flags=ALL_FLAGS, on_event=None):
+        """Makes a Calendar in the window, at left, top, right, bottom in pixels of the window."""
         number = len(self._calendars) + 1
         calendar = Calendar(self.handle, number, rect, flags, on_event)
         self._calendars[number] = calendar
@@ -280,6 +303,7 @@ class Window:
         return calendar
 
     def close(self):
+        """Destroys the window and its calendars."""
         _destroy(self.handle)
 
     @staticmethod
@@ -312,10 +336,12 @@ def run():
 
 
 def enable_todo():
+    """Puts the to-do list into use, for the process and to its end."""
     _check(_lib.zeb17_enable_todo())
 
 
 def set_data_directory(directory):
+    """Keeps the data file in that directory from now on; "" stands for the user's own. Before the first calendar."""
     _check(_lib.zeb17_set_data_directory(os.fsencode(directory)))
 
 

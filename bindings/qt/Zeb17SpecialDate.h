@@ -51,7 +51,7 @@ struct ZEB17_EXPORT Zeb17DateRule
         InYear     // in `year` only: a date that happens once
     };
 
-    Kind kind = NoRule;
+    Kind kind = NoRule;                     // which of the members below count
     int day = 1;                            // 1 to 31
     int month = 1;                          // 1 to 12
     Occurrence occurrence = First;          // of `weekday` in `month`
@@ -59,8 +59,8 @@ struct ZEB17_EXPORT Zeb17DateRule
     Qt::DayOfWeek nearWeekday = Qt::Monday; // the weekday that is looked for
     Side side = After;                      // where it is looked for
     bool movesToWorkday = false;            // OnDay only: on a weekend it falls on the nearest working day
-    Years years = EveryYear;
-    int year = 0; // 1 to 9999, for FromYear, UntilYear and InYear
+    Years years = EveryYear;                // in which years it holds
+    int year = 0;                           // 1 to 9999, for FromYear, UntilYear and InYear
 
     // A rule of each kind, for every year.
     static Zeb17DateRule onDay(int day, int month);

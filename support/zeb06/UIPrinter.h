@@ -31,6 +31,7 @@ public:
     class ZEB17_EXPORT ToFile
     {
     public:
+        // From here on, and until the object ends, jobs go to that file.
         explicit ToFile(const CString& strPath);
         ~ToFile();
         ToFile(const ToFile&) = delete;

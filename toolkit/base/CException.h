@@ -20,6 +20,7 @@ protected:
     virtual CString GetMessageText() const { return {}; }
 };
 
+// No memory was to be had.
 class ZEB17_EXPORT CMemoryException : public CException
 {
     DECLARE_DYNAMIC(CMemoryException)
@@ -27,6 +28,7 @@ protected:
     CString GetMessageText() const override;
 };
 
+// The system had no window, drawing object or resource to give.
 class ZEB17_EXPORT CResourceException : public CException
 {
     DECLARE_DYNAMIC(CResourceException)
@@ -34,6 +36,7 @@ protected:
     CString GetMessageText() const override;
 };
 
+// A file could not be opened, read or written.
 class ZEB17_EXPORT CFileException : public CException
 {
     DECLARE_DYNAMIC(CFileException)
@@ -73,6 +76,7 @@ protected:
     CString GetMessageText() const override;
 };
 
+// An archive ended too early or holds what it must not, or was used the wrong way round.
 class ZEB17_EXPORT CArchiveException : public CException
 {
     DECLARE_DYNAMIC(CArchiveException)

@@ -21,6 +21,7 @@ struct ZEB17_EXPORT CRuntimeClass
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 };
 
+// The base of all classes of the toolkit that can be asked for their class.
 class ZEB17_EXPORT CObject
 {
 public:

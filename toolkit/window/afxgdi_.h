@@ -33,6 +33,7 @@ public:
     HGDIOBJ m_hObject = nullptr;
 };
 
+// What lines are drawn with.
 class ZEB17_EXPORT CPen : public CGdiObject
 {
     DECLARE_DYNAMIC(CPen)
@@ -50,6 +51,7 @@ public:
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 };
 
+// What areas are filled with.
 class ZEB17_EXPORT CBrush : public CGdiObject
 {
     DECLARE_DYNAMIC(CBrush)
@@ -63,6 +65,7 @@ public:
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
 
+// What texts are drawn in.
 class ZEB17_EXPORT CFont : public CGdiObject
 {
     DECLARE_DYNAMIC(CFont)
@@ -74,6 +77,7 @@ public:
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 };
 
+// A picture to draw into or from.
 class ZEB17_EXPORT CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)
