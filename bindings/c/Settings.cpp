@@ -158,6 +158,19 @@ int Take(const zeb17_entry* given, const char* text, CalendarDateEntry& entry)
     return result == ZEB17_OK ? TakeRule(*given, entry) : result;
 }
 
+int TellNext(const CalendarDateEntry& entry, const zeb17_date* from, zeb17_date* next)
+{
+    if (!from || !next)
+        return ZEB17_BAD_ARGUMENT;
+    if (!ToDateTime(from).IsValid())
+        return ZEB17_BAD_DATE;
+    const auto date = entry.FindNext({from->year, from->month, from->day});
+    if (!date)
+        return ZEB17_NOT_FOUND;
+    *next = {date->nYear, date->nMonth, date->nDay};
+    return ZEB17_OK;
+}
+
 }
 
 // ---- Settings as a whole
@@ -343,14 +356,20 @@ int zeb17_entry_next(zeb17_settings settings, int group, uint32_t index, const z
                      zeb17_date* next)
 {
     return WithEntry(settings, group, index, [=](CalendarSettings&, const CalendarDateEntry& found) {
-        if (!from || !next)
+        return TellNext(found, from, next);
+    });
+}
+
+int zeb17_rule_next(const zeb17_entry* entry, const zeb17_date* from, zeb17_date* next)
+{
+    return Run([=]() -> int {
+        if (!entry)
             return ZEB17_BAD_ARGUMENT;
-        if (!ToDateTime(from).IsValid())
-            return ZEB17_BAD_DATE;
-        const auto date = found.FindNext({from->year, from->month, from->day});
-        if (!date)
-            return ZEB17_NOT_FOUND;
-        *next = {date->nYear, date->nMonth, date->nDay};
-        return ZEB17_OK;
+        if (entry->size != sizeof *entry)
+            return ZEB17_BAD_SIZE;
+        CalendarDateEntry taken;
+        taken.SetDesc("rule"); // without words no entry is valid
+        const int result = TakeRule(*entry, taken);
+        return result == ZEB17_OK ? TellNext(taken, from, next) : result;
     });
 }

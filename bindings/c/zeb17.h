@@ -356,6 +356,9 @@ ZEB17_EXPORT int zeb17_entry_delete(zeb17_settings settings, int group, uint32_t
 // none, or if the entry is calculated.
 ZEB17_EXPORT int zeb17_entry_next(zeb17_settings settings, int group, uint32_t index, const zeb17_date* from,
                                   zeb17_date* next);
+// The same of a rule that stands in no settings, such as one that the user is about to make: of the entry its
+// rule with its numbers and its years count. ZEB17_BAD_RULE for a rule that falls on no date.
+ZEB17_EXPORT int zeb17_rule_next(const zeb17_entry* entry, const zeb17_date* from, zeb17_date* next);
 
 // ---- The log
 

@@ -192,7 +192,7 @@ const std::vector<Call> kPlainCalls = {Any(zeb17_last_detail),      Any(zeb17_to
                                        Any(zeb17_group_set_shown),  Any(zeb17_entry_get),
                                        Any(zeb17_entry_text),       Any(zeb17_entry_set),
                                        Any(zeb17_entry_add),        Any(zeb17_entry_delete),
-                                       Any(zeb17_entry_next)};
+                                       Any(zeb17_entry_next),       Any(zeb17_rule_next)};
 const std::vector<Call> kCarefulCalls = {
     [](Nonsense& n) { return zeb17_error_text(n.Of<int>()) ? ZEB17_OK : -1; },
     [](Nonsense& n) {

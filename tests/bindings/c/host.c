@@ -67,8 +67,12 @@ static void check_rules(zeb17_settings settings)
         CHECK(zeb17_entry_add(settings, ZEB17_CUSTOM, &rules[i].entry, rules[i].text, &index) == ZEB17_OK);
         CHECK(index == i && zeb17_entry_next(settings, ZEB17_CUSTOM, i, &from, &next) == ZEB17_OK);
         CHECK(same_date(&next, due->year, due->month, due->day));
+        CHECK(zeb17_rule_next(&rules[i].entry, due, &next) == ZEB17_OK);
+        CHECK(same_date(&next, due->year, due->month, due->day));
     }
+    CHECK(zeb17_rule_next(&entry, &from, &next) == ZEB17_NOT_FOUND); // no leap day in 2027
     entry.month = 13;
+    CHECK(zeb17_rule_next(&entry, &from, &next) == ZEB17_BAD_RULE);
     CHECK(zeb17_entry_set(settings, ZEB17_CUSTOM, 3, &entry, NULL) == ZEB17_BAD_RULE);
 }
 
