@@ -41,6 +41,11 @@ if(NOT WIN32)
         DESTINATION "${config_dir}" COMPONENT development)
 endif()
 
+install(FILES CHANGELOG.md docs/guide.md docs/from-qcalendarwidget.md docs/data-file.md docs/compare.md docs/decisions.md
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
+install(FILES demo/minimal/c.c demo/minimal/python.py demo/minimal/qt.cpp demo/minimal/toolkit.cpp
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples" COMPONENT development)
+
 include(CMakePackageConfigHelpers)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/zeb17ConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
@@ -48,7 +53,18 @@ install(FILES cmake/package/zeb17Config.cmake cmake/MenuResource.cmake
     DESTINATION "${config_dir}" COMPONENT development)
 
 if(WIN32)
+    # The compiler's runtime goes along, and the licences under which it may.
     install(FILES ${ZEB17_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+    foreach(licence gcc-mingw-w64-base/copyright=gcc-runtime mingw-w64-common/copyright=mingw-w64
+            ../common-licenses/GPL-3=GPL-3)
+        string(REGEX MATCH "(.*)=(.*)" licence "${licence}")
+        if(EXISTS "/usr/share/doc/${CMAKE_MATCH_1}")
+            install(FILES "/usr/share/doc/${CMAKE_MATCH_1}" RENAME "${CMAKE_MATCH_2}.txt"
+                DESTINATION "${CMAKE_INSTALL_DOCDIR}/licences" COMPONENT runtime)
+        else()
+            message(WARNING "/usr/share/doc/${CMAKE_MATCH_1} is missing: what is installed lacks a licence of the compiler's runtime.")
+        endif()
+    endforeach()
     install(FILES bindings/c/zeb17.def "${PROJECT_BINARY_DIR}/bindings/c/zeb17.lib"
         DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
     if(TARGET zeb17_demo)

@@ -30,5 +30,22 @@ else()
     set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
         "The headers of the month-calendar control zeb17, and what CMake and pkg-config\nneed to find it.")
     set(CPACK_COMPONENTS_ALL runtime development)
+
+    # The loader learns of the library when the package comes and when it goes.
+    set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/package/triggers")
+
+    # Each package has a copyright file and a changelog in Debian's form, dated as the last commit.
+    if(ZEB17_DEBIAN)
+        execute_process(COMMAND git -C "${PROJECT_SOURCE_DIR}" log -1 --format=%cD
+            OUTPUT_VARIABLE ZEB17_PACKAGE_DATE OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+        set(package_dir "${PROJECT_BINARY_DIR}/package")
+        configure_file(cmake/package/changelog.in "${package_dir}/changelog" @ONLY)
+        execute_process(COMMAND gzip -9nf "${package_dir}/changelog" COMMAND_ERROR_IS_FATAL ANY)
+        foreach(component RUNTIME DEVELOPMENT)
+            string(TOLOWER "${component}" name)
+            install(FILES cmake/package/copyright "${package_dir}/changelog.gz" COMPONENT ${name}
+                DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${CPACK_DEBIAN_${component}_PACKAGE_NAME}")
+        endforeach()
+    endif()
 endif()
 include(CPack)
