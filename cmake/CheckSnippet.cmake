@@ -1,7 +1,9 @@
-# cmake -DREADME=FILE -DSOURCE=FILE -P CheckSnippet.cmake: fails unless the text shows the source as it stands.
-file(READ "${README}" readme)
+# cmake -DTEXT=FILE -DSOURCE=FILE -P CheckSnippet.cmake: fails unless the text shows the source as it stands.
+file(READ "${TEXT}" text)
 file(READ "${SOURCE}" source)
-string(FIND "${readme}" "```cpp\n${source}```\n" place)
+string(REGEX REPLACE ".*[.]" "" language "${SOURCE}")
+string(REPLACE "py" "python" language "${language}")
+string(FIND "${text}" "```${language}\n${source}```\n" place)
 if(place EQUAL -1)
-    message(FATAL_ERROR "${README} does not show ${SOURCE} as it stands")
+    message(FATAL_ERROR "${TEXT} does not show ${SOURCE} as it stands")
 endif()

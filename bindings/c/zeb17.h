@@ -271,7 +271,8 @@ ZEB17_EXPORT int zeb17_settings_close(zeb17_settings settings);
 // nothing of it is shown or can be changed.
 ZEB17_EXPORT int zeb17_enable_todo(void);
 
-// Keeps the data file in that directory from now on; "" stands for the user's own.
+// Keeps the data file in that directory from now on, so that the host has one of its own; a save makes the
+// directory if it is not there. "" stands for the user's own, whose file all hosts of the user share.
 ZEB17_EXPORT int zeb17_set_data_directory(const char* directory);
 
 // What falls on a date: the texts of the entries that are shown, parted by "\r\n"; empty for nothing. The

@@ -126,6 +126,7 @@ _move = _call("MoveWindow", c_int, c_void_p, c_int, c_int, c_int, c_int, c_int)
 _get_message = _call("GetMessageA", c_int, POINTER(_Message), c_void_p, c_uint, c_uint)
 _translate = _call("TranslateMessage", c_int, POINTER(_Message))
 _dispatch = _call("DispatchMessageA", c_ssize_t, POINTER(_Message))
+_get_area = _call("GetClientRect", c_int, c_void_p, POINTER(_Rect))
 _show = _call("ShowWindow", c_int, c_void_p, c_int)
 _destroy = _call("DestroyWindow", c_int, c_void_p)
 _focus = _call("SetFocus", c_void_p, c_void_p)
@@ -294,13 +295,24 @@ class Window:
             cls._proc = _WindowProc(cls._handle_message)
             _register_class(byref(_WindowClass(proc=cls._proc, name=cls._class_name)))
 
-    def add_calendar(self, rect=(0, 0, 380, 280), flags=ALL_FLAGS, on_event=None):
-        """Makes a Calendar in the window, at left, top, right, bottom in pixels of the window."""
+    def add_calendar(self, rect=None, flags=ALL_FLAGS, on_event=None):
+        """Makes a Calendar at left, top, right, bottom in pixels of the window; without these it fills the window."""
         number = len(self._calendars) + 1
-        calendar = Calendar(self.handle, number, rect, flags, on_event)
+        calendar = Calendar(self.handle, number, rect or self._area(), flags, on_event)
+        calendar.fills = rect is None
         self._calendars[number] = calendar
         _focus(calendar.handle)
         return calendar
+
+    def _area(self):
+        area = _Rect()
+        _get_area(self.handle, byref(area))
+        return area.left, area.top, area.right, area.bottom
+
+    def _fit(self):
+        for calendar in self._calendars.values():
+            if calendar.fills:
+                _move(calendar.handle, *self._area(), 1)
 
     def close(self):
         """Destroys the window and its calendars."""
@@ -312,6 +324,8 @@ class Window:
         if self and message in Window._events and wparam in self._calendars:
             self._tell(self._calendars[wparam], Window._events[message], lparam)
             return 0
+        if self and message == 0x0005:  # WM_SIZE
+            self._fit()
         if self and message == 0x0002:  # WM_DESTROY
             del Window._open[handle]
             if not Window._open:

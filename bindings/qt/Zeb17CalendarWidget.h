@@ -126,15 +126,18 @@ public:
     // Removes a date of OwnDates or ToDos and gives it, so that the application can add it again.
     Zeb17SpecialDate takeSpecialDate(Group group, int index);
 
-    // For tests and pictures; what is set holds for the process, and is set before the first widget is made.
+    // What is set by these holds for the process, and is set before the first widget is made.
     //
-    // Keeps the data file in that folder; an empty path stands for the user's own.
+    // Keeps the data file in that folder, so that the application has one of its own; a save makes the folder
+    // if it is not there. An empty path stands for the user's own, whose file all applications of the user
+    // share.
     static void setDataDirectory(const QString& path);
-    // Makes that day today; an invalid date follows the clock again.
+    // For tests and pictures: makes that day today; an invalid date follows the clock again.
     static void setToday(QDate date);
     // The day that the calendars take for today.
     static QDate today();
-    // Follows the locale of that name, such as "nl-NL", instead of the user's. False if there is none.
+    // For tests and pictures: follows the locale of that name, such as "nl-NL", instead of the user's. False
+    // if there is none.
     static bool setCalendarLocale(const QString& name);
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)

@@ -10,7 +10,8 @@ public:
     // data. Empty for another version, or if the system names no such directory.
     static CString GetCalendarSettingsPath(unsigned short nVersion);
 
-    // Keeps the files in that directory from now on, for tests. The empty name stands for the user's own
-    // directory.
+    // Keeps the files in that directory from now on, so that a host has a data file of its own. To be called
+    // before the first control is made; a save makes the directory if it is not there. The empty name stands
+    // for the user's own directory, whose file all hosts of the user share.
     static void SetDataDirectory(const CString& strDirectory);
 };
