@@ -93,7 +93,7 @@ void Measure(benchmark::State& state, Work work)
     QApplication::processEvents();
     g_watch->waitForPaint();
     bool turn = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         work(calendar, turn = !turn);
         g_watch->waitForPaint();
     }

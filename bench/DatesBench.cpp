@@ -9,7 +9,7 @@ namespace {
 
 void DayNumberToDate_ours(benchmark::State& state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (std::int32_t n = DayNumbers::kFirst; n <= DayNumbers::kLast; ++n) {
             const DayNumbers::Date date = DayNumbers::ToDate(n);
             benchmark::DoNotOptimize(date.nYear + date.nMonth + date.nDay);
@@ -22,7 +22,7 @@ void DayNumberToDate_chrono(benchmark::State& state)
 {
     using namespace std::chrono;
     const sys_days first = year(1) / 1 / 1;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (int i = 0; i < DayNumbers::kLast; ++i) {
             const year_month_day date(first + days(i));
             benchmark::DoNotOptimize(int(date.year()) + int(unsigned(date.month()) + unsigned(date.day())));

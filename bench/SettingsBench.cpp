@@ -44,7 +44,7 @@ void Day(benchmark::State& state)
         pEntry->SetDay(strDesc, 4, 7);
         settings.AddCustomEntry(pEntry.release());
     }
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         DWORD dwColor = 0xFFFFFF;
         benchmark::DoNotOptimize(settings.GetDateDesc(4, 7, 2026, dwColor));
     }
@@ -52,7 +52,7 @@ void Day(benchmark::State& state)
 
 void LookUpMonths(benchmark::State& state, const CalendarSettings& settings)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         DayNumbers::Date date{2026, 3, 29};
         for (int nCell = 0; nCell < 42; ++nCell, date = DayNumbers::DayAfter(date)) {
             DWORD dwColor = 0xFFFFFF;
@@ -100,7 +100,7 @@ void Save(benchmark::State& state)
     const FilesGuard files;
     CalendarSettings settings;
     Fill(settings, state.range(0));
-    for (auto _ : state)
+    while (state.KeepRunning())
         settings.Save();
 }
 
@@ -110,7 +110,7 @@ void Load(benchmark::State& state)
     CalendarSettings settings;
     Fill(settings, state.range(0));
     settings.Save();
-    for (auto _ : state)
+    while (state.KeepRunning())
         settings.Load();
 }
 
@@ -169,7 +169,7 @@ void SavePeer(benchmark::State& state)
 {
     const FilesGuard files;
     const Records records = MakeRecords(state.range(0));
-    for (auto _ : state)
+    while (state.KeepRunning())
         SaveByQt(files.file(), records);
 }
 
@@ -177,7 +177,7 @@ void LoadPeer(benchmark::State& state)
 {
     const FilesGuard files;
     SaveByQt(files.file(), MakeRecords(state.range(0)));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QFile file(files.file());
         file.open(QIODevice::ReadOnly);
         QDataStream stream(&file);

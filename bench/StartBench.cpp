@@ -31,7 +31,7 @@ void ShowTheirs()
 
 void Start(benchmark::State& state, const char* option)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         if (QProcess::execute(QCoreApplication::applicationFilePath(), {option}) != 0)
             state.SkipWithError("the process failed");
     }

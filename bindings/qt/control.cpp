@@ -4,6 +4,7 @@
 
 #include "host.h"
 
+#include <Change.h>
 #include <DownArrowButton.h>
 #include <MonthBlock.h>
 #include <WndWatch.h>
@@ -52,8 +53,8 @@ void Zeb17CalendarWidget::Control::setMenu(Options options)
 // Does what the Clear button does, whether there is one or not.
 void Zeb17CalendarWidget::Control::clear()
 {
+    const Change change(*this);
     m_bHaveDate = false;
-    AnnounceSelection();
     EraseSelectionFrame();
 }
 
@@ -68,10 +69,10 @@ void Zeb17CalendarWidget::Control::showPage(int year, int month)
 
 void Zeb17CalendarWidget::Control::showToday()
 {
+    const Change change(*this);
     DateTime today;
     today.SetToCurrent();
-    WhileAlive(
-        *this, [&] { ShowDate(today); }, [&] { AnnounceSelection(); });
+    ShowDate(today);
 }
 
 void Zeb17CalendarWidget::Control::enableButtons(bool enable)

@@ -9,5 +9,5 @@ int main(int argc, char** argv)
     QObject::connect(&calendar, &Zeb17CalendarWidget::selectionChanged,
                      [&](QDate day) { calendar.setWindowTitle(day.toString()); });
     calendar.show();
-    return application.exec();
+    return QApplication::exec();
 }

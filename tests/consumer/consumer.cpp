@@ -13,6 +13,27 @@ class Calendar : public CCalendarWnd
 {
 public:
     CalendarSettings& GetSettings() { return m_settings; }
+
+    // The id of the first item of the menu that Options shows.
+    UINT ReadMenu()
+    {
+        m_nFirstItem = 0;
+        OnOptionsButton();
+        return m_nFirstItem;
+    }
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override
+    {
+        if (nMessage == WM_INITMENUPOPUP) {
+            m_nFirstItem = GetMenuItemID(reinterpret_cast<HMENU>(wParam), 0);
+            PostMessage(WM_CANCELMODE);
+        }
+        return CCalendarWnd::WindowProc(nMessage, wParam, lParam);
+    }
+
+private:
+    UINT m_nFirstItem = 0;
 };
 
 class Host : public CWnd
@@ -86,6 +107,8 @@ int main()
     DWORD dwColor = 0;
     bool bGood = Expect(host.m_nNoDate == 1 && host.m_nChanges == 1, "messages");
     bGood &= Expect(!settings.GetDateDesc(4, 7, 2021, dwColor).IsEmpty(), "special dates");
+    host.ShowWindow(SW_SHOW);
+    bGood &= Expect(host.m_calendar.ReadMenu() == 42030, "the library's menu, not that of the program");
     bGood &= Expect(settings.Save() && settings.Load(), "data file");
     std::filesystem::remove_all(data);
     bGood &= Expect(ThrowsForDirectory(settings), "exception");

@@ -16,7 +16,8 @@ void* operator new(std::size_t nSize)
     throw std::bad_alloc();
 }
 
-// Must be here too: where the sanitizers replace it, memory would come from one place and be given back to another.
+// Must be here too: where the sanitizers replace it, memory would come from one place and be given back to
+// another.
 void* operator new(std::size_t nSize, const std::nothrow_t&) noexcept
 {
     try {

@@ -3,12 +3,15 @@
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
+#include "Change.h"
 #include "DownArrowButton.h"
 #include "MonthBlock.h"
 
 #include <LocaleUtils.h>
 #include <StringUtils.h>
 #include <WindowAccessible.h>
+
+#include <utility>
 
 namespace {
 
@@ -123,6 +126,36 @@ LONG CCalendarWnd::GetSelectedItem() const
     if (!m_bHaveDate || !shape || m_vRowEdges.empty())
         return CHILDID_SELF;
     return ItemOfCell(MonthBlock::CellOfPlace(MonthBlock::PlaceOfDay(shape->nFirstColumn, m_date.GetDay())));
+}
+
+CCalendarWnd::DayShown CCalendarWnd::GetDayShown() const
+{
+    DayShown day{.bSelected = m_bHaveDate};
+    m_date.GetDate(day.nYear, day.nMonth, day.nDay);
+    return day;
+}
+
+CCalendarWnd::Change::Change(CCalendarWnd& wnd) : m_wnd(wnd), m_watch(wnd), m_before(wnd.GetDayShown())
+{
+    ++m_wnd.m_nChanges;
+}
+
+CCalendarWnd::Change::~Change()
+{
+    if (m_watch.IsAlive() && --m_wnd.m_nChanges == 0)
+        m_wnd.AnnounceChange(m_before);
+}
+
+void CCalendarWnd::AnnounceChange(const DayShown& before)
+{
+    const bool bFocusCame = std::exchange(m_bFocusCame, false);
+    const DayShown now = GetDayShown();
+    if (!::IsWindow(m_hWnd))
+        return;
+    if (now.nYear != before.nYear || now.nMonth != before.nMonth)
+        AnnounceMonth();
+    if (now != before || (bFocusCame && m_bHaveDate))
+        AnnounceSelection();
 }
 
 void CCalendarWnd::AnnounceSelection() const

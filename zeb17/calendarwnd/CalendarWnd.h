@@ -195,8 +195,17 @@ protected:
     CString GetStepTip(int nButtonId) const;
 
     // What screen readers are told. An item is a cell, counted from 1; 0 stands for the control.
+    struct DayShown
+    {
+        int nYear = 0, nMonth = 0, nDay = 0; // of m_date
+        bool bSelected = false;
+        bool operator==(const DayShown&) const = default;
+    };
     CString GetDayName(int nCell) const;
     LONG GetSelectedItem() const;
+    class Change; // an operation, at whose end is announced what it changed
+    DayShown GetDayShown() const;
+    void AnnounceChange(const DayShown& before);
     void AnnounceSelection() const;
     void AnnounceMonth() const;
 
@@ -264,6 +273,8 @@ protected:
     bool m_bShowOptions = true;      // the menu is offered
     bool m_bAllowWebPage = true;     // the menu offers the web page
     bool m_bAllowDateRanges = false; // the menu offers the date ranges
+    bool m_bFocusCame = false;       // the focus came to the control during the operation that is going on
+    int m_nChanges = 0;              // operations going on, each in a handler of the one before
     int m_nFirstDayColumn = -1;      // column of day 1, 1 to 7, as last painted; -1 before the first paint
     int m_nTodayCell = -1;           // cell of today, 0 to 41; -1 if today is outside the block
     unsigned int m_nNextToolId = 0;  // id that the next tool of m_toolTip gets

@@ -1,6 +1,7 @@
 // What the mouse, the keys and the focus do.
 #include "CalendarWnd.h"
 
+#include "Change.h"
 #include "DownArrowButton.h"
 #include "MonthBlock.h"
 
@@ -27,6 +28,7 @@ bool IsLive(const CWnd* pWnd)
 
 void CCalendarWnd::OnLButtonDown(UINT, CPoint point)
 {
+    const Change change(*this);
     WhileAlive(
         *this, [&] { Default(); }, [&] { SetFocus(); }, [&] { SelectAt(point); });
 }
@@ -54,7 +56,7 @@ void CCalendarWnd::SelectShownDay(int nDay, const MonthBlock::Place& place)
     m_date.SetDate(m_date.GetYear(), m_date.GetMonth(), nDay);
     WhileAlive(
         *this, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); },
-        [&] { MoveSelectionRect(GetCellRect(place)); }, [&] { AnnounceSelection(); });
+        [&] { MoveSelectionRect(GetCellRect(place)); });
 }
 
 // nOffset is the number of days from day 1 of the month shown, which has nDays days.
@@ -66,8 +68,7 @@ void CCalendarWnd::SelectNeighbourDay(int nOffset, int nDays)
     date.Set(m_date.GetYear(), m_date.GetMonth(), nStartDay, 0, 0, 0);
     date.AddDays(nOffset + 1 - nStartDay);
     WhileAlive(
-        *this, [&] { ShowDate(date); }, [&] { AnnounceSelection(); },
-        [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); });
+        *this, [&] { ShowDate(date); }, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, false); });
 }
 
 // Sees the keys before the control and its buttons see them. Only a Tab that moved the focus, and a letter
@@ -180,16 +181,17 @@ bool CCalendarWnd::MoveFocus(bool bBackward)
 
 void CCalendarWnd::SelectInMonth(void (DateTime::*pSet)())
 {
+    const Change change(*this);
     m_bHaveDate = true;
     (m_date.*pSet)();
     WhileAlive(
-        *this, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); }, [&] { MoveSelectionRect(CRect()); },
-        [&] { AnnounceSelection(); });
+        *this, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); }, [&] { MoveSelectionRect(CRect()); });
 }
 
 // A step that leads out of the range of dates leaves the date as it is.
 void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
 {
+    const Change change(*this);
     m_bHaveDate = true;
     DateTime date = m_date;
     (date.*pStep)(nCount);
@@ -199,7 +201,7 @@ void CCalendarWnd::MoveSelection(void (DateTime::*pStep)(int), int nCount)
     };
     WhileAlive(
         *this, [&] { ApplyNewDate(date) ? showMonth() : MoveSelectionRect(CRect()); },
-        [&] { AnnounceSelection(); }, [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); });
+        [&] { NotifyParentWnd(CALWND_ONSELCHANGE, true); });
 }
 
 void CCalendarWnd::OnKeyDown(UINT nChar, UINT, UINT)
@@ -235,13 +237,10 @@ BOOL CCalendarWnd::OnSetCursor(CWnd*, UINT, UINT)
 
 void CCalendarWnd::OnSetFocus(CWnd* pOldWnd)
 {
+    const Change change(*this);
+    m_bFocusCame = true;
     WhileAlive(
-        *this, [&] { CWnd::OnSetFocus(pOldWnd); },
-        [&] {
-            if (m_bHaveDate)
-                AnnounceSelection();
-        },
-        [&] { RedrawSelection(); });
+        *this, [&] { CWnd::OnSetFocus(pOldWnd); }, [&] { RedrawSelection(); });
 }
 
 void CCalendarWnd::RedrawSelection()

@@ -2,6 +2,7 @@
 #include "CalendarWnd.h"
 
 #include "CalendarTexts.h"
+#include "Change.h"
 #include "DownArrowButton.h"
 
 #include <LocaleUtils.h>
@@ -45,10 +46,10 @@ YearAndMonth ParseMonth(const CString& strText)
 
 void CCalendarWnd::SetDate(const DateTime& date)
 {
+    const Change change(*this);
     m_bHaveDate = date.IsValid();
     WhileAlive(
-        *this, [&] { ShowDate(m_bHaveDate ? date : Now()); }, [&] { AnnounceSelection(); },
-        [&] { NotifyIfDate(); });
+        *this, [&] { ShowDate(m_bHaveDate ? date : Now()); }, [&] { NotifyIfDate(); });
 }
 
 bool CCalendarWnd::ApplyNewDate(const DateTime& date)
@@ -88,6 +89,7 @@ void CCalendarWnd::SetValidDate()
 
 void CCalendarWnd::StepDate(void (DateTime::*pStep)(int), int nCount)
 {
+    const Change change(*this);
     WhileAlive(
         *this,
         [&] {
@@ -121,12 +123,12 @@ void CCalendarWnd::OnNextMonthButton()
 void CCalendarWnd::NotifyAndRefresh()
 {
     WhileAlive(
-        *this, [&] { NotifyIfDate(); }, [&] { RefreshMonth(); }, [&] { InvalidateGrid(); },
-        [&] { AnnounceSelection(); });
+        *this, [&] { NotifyIfDate(); }, [&] { RefreshMonth(); }, [&] { InvalidateGrid(); });
 }
 
 void CCalendarWnd::OnTodayButton()
 {
+    const Change change(*this);
     m_bHaveDate = true;
     const bool bShown = m_date.IsToday();
     WhileAlive(
@@ -135,7 +137,7 @@ void CCalendarWnd::OnTodayButton()
             if (!bShown)
                 ShowDate(Now());
         },
-        [&] { AnnounceSelection(); }, [&] { SetFocus(); },
+        [&] { SetFocus(); },
         [&] {
             if (bShown && !m_rcSelection.IsRectEmpty()) // no paint will come
                 MoveSelectionRect(CRect());
@@ -148,13 +150,10 @@ void CCalendarWnd::OnClearButton()
 {
     if (!m_bAllowNoDate)
         return;
+    const Change change(*this);
     m_bHaveDate = false;
-    WhileAlive(
-        *this, [&] { AnnounceSelection(); },
-        [&] {
-            if (EraseSelectionFrame())
-                NotifyParentWnd(CALWND_ONNODATE, false);
-        });
+    if (EraseSelectionFrame())
+        NotifyParentWnd(CALWND_ONNODATE, false);
 }
 
 // Draws over the frame. False if there is no frame, or no context to draw on.
@@ -190,7 +189,7 @@ void CCalendarWnd::RefreshSpecialDays()
 void CCalendarWnd::RefreshMonth()
 {
     WhileAlive(
-        *this, [&] { UpdateMonthYearText(); }, [&] { DetermineSpecialDays(); }, [&] { AnnounceMonth(); });
+        *this, [&] { UpdateMonthYearText(); }, [&] { DetermineSpecialDays(); });
 }
 
 void CCalendarWnd::UpdateMonthYearText()

@@ -114,7 +114,7 @@ TEST_F(Life, AThousandWidgetsLeaveNothingBehind)
     const std::size_t before = mallinfo2().uordblks;
     use(250);
     EXPECT_EQ(QApplication::allWidgets().size(), widgets);
-    EXPECT_LT(mallinfo2().uordblks, before + 250 * 40) << "less than the smallest object a widget";
+    EXPECT_LT(mallinfo2().uordblks, before + 250UL * 40) << "less than the smallest object a widget";
 }
 
 }
