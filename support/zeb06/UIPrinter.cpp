@@ -8,6 +8,7 @@
 #include <afxext.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -22,11 +23,51 @@ constexpr int kMinPoints = 6;
 constexpr int kHeaderLines = 24;
 constexpr int kContentLines = 28;
 
-constexpr DWORD kCancelled = 1223; // the error of a call that the user cancelled
-
 constexpr COLORREF kTextColor = RGB(0, 0, 0);
 
 CString g_strOutputFile;
+
+// The paper and how it lies, as the user chose them last; at first as a month lies best.
+struct Paper
+{
+    DWORD dwFields = DM_ORIENTATION; // those of the following that are chosen
+    short nOrientation = DMORIENT_LANDSCAPE;
+    short nSize = 0;
+    short nLength = 0;
+    short nWidth = 0;
+};
+Paper g_paper;
+
+// What is common to the settings of a printer and a Paper goes from one to the other.
+constexpr DWORD kPaperFields = DM_ORIENTATION | DM_PAPERSIZE | DM_PAPERLENGTH | DM_PAPERWIDTH;
+
+void ApplyPaper(DEVMODEA& mode)
+{
+    mode.dmFields = (mode.dmFields & ~(g_paper.dwFields & kPaperFields)) | g_paper.dwFields;
+    mode.dmOrientation = g_paper.nOrientation;
+    if (g_paper.dwFields & DM_PAPERSIZE)
+        mode.dmPaperSize = g_paper.nSize;
+    if (g_paper.dwFields & DM_PAPERLENGTH)
+        mode.dmPaperLength = g_paper.nLength;
+    if (g_paper.dwFields & DM_PAPERWIDTH)
+        mode.dmPaperWidth = g_paper.nWidth;
+}
+
+void RememberPaper(DEVMODEA& mode)
+{
+    const DWORD dwFields = mode.dmFields & kPaperFields;
+    const bool bOrientation = (dwFields & DM_ORIENTATION) != 0;
+    g_paper = {dwFields | DM_ORIENTATION, bOrientation ? mode.dmOrientation : g_paper.nOrientation,
+               mode.dmPaperSize, mode.dmPaperLength, mode.dmPaperWidth};
+}
+
+void VisitMode(HGLOBAL hMode, void (*pVisit)(DEVMODEA& mode))
+{
+    if (auto* const pMode = hMode ? static_cast<DEVMODEA*>(::GlobalLock(hMode)) : nullptr) {
+        pVisit(*pMode);
+        ::GlobalUnlock(hMode);
+    }
+}
 
 // nValue times a fraction of positive numbers, rounded to the nearest.
 int Scale(int nValue, int nNumerator, int nDenominator)
@@ -177,9 +218,16 @@ void UIPrinter::InitPrintProcess()
     dialog.m_pd.hwndOwner = info.m_pCtrlWnd ? info.m_pCtrlWnd->m_hWnd : nullptr;
 
     const bool bAsk = !info.m_bPrintFlag && g_strOutputFile.IsEmpty();
-    const bool bChosen = bAsk ? AskForPrinter(dialog) : dialog.GetDefaults() != FALSE;
+    const bool bDefaults = dialog.GetDefaults() != FALSE;
+    if (bDefaults) {
+        VisitMode(dialog.m_pd.hDevMode, &ApplyPaper);
+        ::DeleteDC(std::exchange(dialog.m_pd.hDC, nullptr)); // one with that paper is made below
+    }
+    const bool bChosen = bAsk ? AskForPrinter(dialog) : bDefaults;
     if (bChosen) {
-        SetPrintDC(dialog.GetPrinterDC());
+        if (bAsk)
+            VisitMode(dialog.m_pd.hDevMode, &RememberPaper);
+        SetPrintDC(bAsk ? dialog.GetPrinterDC() : dialog.CreatePrinterDC());
         return;
     }
     const DWORD dwError = ::CommDlgExtendedError();
@@ -230,7 +278,7 @@ void UIPrinter::StartPrint()
     m_pJob->m_bStarted = m_pJob->m_dc.StartDoc(&document) > 0;
     if (m_pJob->m_bStarted)
         return;
-    if (::GetLastError() == kCancelled) // a printer that asks for the name of a file
+    if (::GetLastError() == ERROR_CANCELLED) // a printer that asks for the name of a file
         m_pJob->m_bFailed = true;
     else
         FailWithLastError("The print job could not be started.");

@@ -2,6 +2,9 @@
 //
 // A page has a heading, the content rectangle and a footer. The unit of drawing is 1/96 inch, whatever the
 // resolution of the printer and the density of the screen. Fonts are made in points.
+//
+// The paper that the user chooses in the dialog, and how it lies, are kept for the further jobs of the
+// process. At first it lies across.
 #pragma once
 
 #include <afxwin.h>

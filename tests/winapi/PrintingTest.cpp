@@ -5,6 +5,9 @@
 
 #include <winerror.h>
 
+#include <QPageSize>
+#include <QPrinter>
+
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -59,6 +62,24 @@ TEST(PrintingTest, ThePageIsAsThePaperAndTheResolution)
         EXPECT_LE(GetDeviceCaps(dc, HORZRES) + GetDeviceCaps(dc, PHYSICALOFFSETX),
                   GetDeviceCaps(dc, PHYSICALWIDTH));
         DeleteDC(dc);
+    }
+}
+
+// What a dialog tells of the paper makes the same paper again, also where it has no number.
+TEST(PrintingTest, AnyPaperSurvivesItsMode)
+{
+    for (const QPageSize& paper :
+         {QPageSize(QPageSize::A0), QPageSize(QPageSize::A4), QPageSize(QPageSize::B5),
+          QPageSize(QPageSize::JisB5), QPageSize(QSizeF(123, 321), QPageSize::Millimeter)}) {
+        QPrinter chosen;
+        chosen.setPageSize(paper);
+        chosen.setPageOrientation(QPageLayout::Landscape);
+        QPrinter printer;
+        winapi::applyMode(printer, winapi::modeOf(chosen, kPrinter));
+        const QSizeF size = printer.pageLayout().pageSize().size(QPageSize::Millimeter);
+        EXPECT_NEAR(size.width(), paper.size(QPageSize::Millimeter).width(), 0.5);
+        EXPECT_NEAR(size.height(), paper.size(QPageSize::Millimeter).height(), 0.5);
+        EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
     }
 }
 

@@ -70,6 +70,24 @@ BOOL CPrintDialog::GetDefaults()
     return bResult;
 }
 
+HDC CPrintDialog::CreatePrinterDC() const
+{
+    const auto* const pNames =
+        m_pd.hDevNames ? static_cast<const char*>(::GlobalLock(m_pd.hDevNames)) : nullptr;
+    const auto* const pMode =
+        m_pd.hDevMode ? static_cast<const DEVMODEA*>(::GlobalLock(m_pd.hDevMode)) : nullptr;
+    HDC hDC = nullptr;
+    if (pNames) {
+        const auto& names = *reinterpret_cast<const DEVNAMES*>(pNames);
+        hDC = ::CreateDCA(pNames + names.wDriverOffset, pNames + names.wDeviceOffset,
+                          pNames + names.wOutputOffset, pMode);
+        ::GlobalUnlock(m_pd.hDevNames);
+    }
+    if (pMode)
+        ::GlobalUnlock(m_pd.hDevMode);
+    return hDC;
+}
+
 void CPrintDialog::FreeBlocks()
 {
     for (HGLOBAL* pBlock : {&m_pd.hDevMode, &m_pd.hDevNames})

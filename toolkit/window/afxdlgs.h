@@ -21,6 +21,9 @@ public:
     BOOL GetDefaults();
     // The context of the chosen printer. Who calls this deletes the context.
     HDC GetPrinterDC() const { return m_pd.hDC; }
+    // Makes a context by the settings that the blocks hold now; null if there are none. Who calls this
+    // deletes the context.
+    HDC CreatePrinterDC() const;
 
     PRINTDLGA m_pd{};
 

@@ -47,6 +47,8 @@
 #define CCHFORMNAME 32
 #define DM_ORIENTATION 0x00000001
 #define DM_PAPERSIZE 0x00000002
+#define DM_PAPERLENGTH 0x00000004
+#define DM_PAPERWIDTH 0x00000008
 #define DM_COPIES 0x00000100
 #define DM_PRINTQUALITY 0x00000400
 #define DMORIENT_PORTRAIT 1
@@ -103,7 +105,7 @@ typedef struct DEVMODEA
     DWORD dmFields;
     short dmOrientation;
     short dmPaperSize;
-    short dmPaperLength;
+    short dmPaperLength; // in tenths of a millimetre, standing upright; with dmPaperWidth before dmPaperSize
     short dmPaperWidth;
     short dmScale;
     short dmCopies;
@@ -134,6 +136,9 @@ typedef struct DOCINFOA
 // Contexts. A memory context begins with a bitmap of one pixel, and is released by DeleteDC.
 WINGDIAPI HDC CreateCompatibleDC(HDC dc) ZEB17_NAME(CreateCompatibleDC);
 WINGDIAPI BOOL DeleteDC(HDC dc) ZEB17_NAME(DeleteDC);
+// A context of a printer. `port`: the file that the printer which stands in writes to. `mode` may be null.
+WINGDIAPI HDC CreateDCA(LPCSTR driver, LPCSTR device, LPCSTR port, const DEVMODEA* mode)
+    ZEB17_NAME(CreateDCA);
 WINGDIAPI int GetDeviceCaps(HDC dc, int index) ZEB17_NAME(GetDeviceCaps);
 WINGDIAPI int SetMapMode(HDC dc, int mode) ZEB17_NAME(SetMapMode);
 WINGDIAPI BOOL SetWindowExtEx(HDC dc, int width, int height, SIZE* old) ZEB17_NAME(SetWindowExtEx);

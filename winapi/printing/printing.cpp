@@ -186,6 +186,19 @@ void widenPage(QPrinter& printer)
     printer.setPageMargins(toFile ? QMarginsF() : printer.pageLayout().minimumMargins(), QPageLayout::Point);
 }
 
+constexpr double kTenths = 10; // of a millimetre, the unit of lengths in a mode
+
+// The paper of a mode, which may have any size; `otherwise` where the mode tells none.
+QPageSize paperOf(const DEVMODEA& mode, const QPageSize& otherwise)
+{
+    constexpr DWORD kLengths = DM_PAPERLENGTH | DM_PAPERWIDTH;
+    const QSizeF size(mode.dmPaperWidth / kTenths, mode.dmPaperLength / kTenths);
+    if ((mode.dmFields & kLengths) == kLengths && !size.isEmpty())
+        return QPageSize(size, QPageSize::Millimeter, {}, QPageSize::FuzzyMatch);
+    const auto id = QPageSize::id(mode.dmPaperSize);
+    return (mode.dmFields & DM_PAPERSIZE) && id != QPageSize::Custom ? QPageSize(id) : otherwise;
+}
+
 int jobResult(DWORD error)
 {
     return error == ERROR_SUCCESS ? 1 : fail(error, SP_ERROR);
@@ -213,10 +226,14 @@ DEVMODEA modeOf(const QPrinter& printer, const QString& name)
     DEVMODEA mode{};
     qstrncpy(reinterpret_cast<char*>(mode.dmDeviceName), name.toUtf8().constData(), CCHDEVICENAME);
     mode.dmSize = sizeof mode;
-    mode.dmFields = DM_ORIENTATION | DM_PAPERSIZE | DM_COPIES | DM_PRINTQUALITY;
+    mode.dmFields =
+        DM_ORIENTATION | DM_PAPERSIZE | DM_PAPERLENGTH | DM_PAPERWIDTH | DM_COPIES | DM_PRINTQUALITY;
     mode.dmOrientation =
         layout.orientation() == QPageLayout::Landscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
+    const QSizeF paper = layout.pageSize().size(QPageSize::Millimeter);
     mode.dmPaperSize = static_cast<short>(layout.pageSize().windowsId());
+    mode.dmPaperLength = static_cast<short>(qRound(paper.height() * kTenths));
+    mode.dmPaperWidth = static_cast<short>(qRound(paper.width() * kTenths));
     mode.dmCopies = static_cast<short>(printer.copyCount());
     mode.dmPrintQuality = static_cast<short>(printer.resolution());
     return mode;
@@ -224,9 +241,7 @@ DEVMODEA modeOf(const QPrinter& printer, const QString& name)
 
 void applyMode(QPrinter& printer, const DEVMODEA& mode)
 {
-    const auto paper = QPageSize::id(mode.dmPaperSize);
-    if ((mode.dmFields & DM_PAPERSIZE) && paper != QPageSize::Custom)
-        printer.setPageSize(QPageSize(paper));
+    printer.setPageSize(paperOf(mode, printer.pageLayout().pageSize()));
     if (mode.dmFields & DM_ORIENTATION)
         printer.setPageOrientation(mode.dmOrientation == DMORIENT_LANDSCAPE ? QPageLayout::Landscape
                                                                             : QPageLayout::Portrait);
@@ -239,6 +254,11 @@ void applyMode(QPrinter& printer, const DEVMODEA& mode)
 }
 
 using namespace winapi;
+
+HDC CreateDCA(LPCSTR, LPCSTR device, LPCSTR port, const DEVMODEA* mode)
+{
+    return createPrinterContext(device, port, mode);
+}
 
 int StartDocA(HDC dc, const DOCINFOA* document)
 {

@@ -134,6 +134,7 @@ TEST(UIPrinterTest, WhatAnOperationThrowsEndsTheJob)
     PagePrinter next;
     next.Print(&info);
     EXPECT_STREQ(info.GetErrorMsg(), "");
+    EXPECT_GT(next.m_sizePaper.cx, next.m_sizePaper.cy) << "the paper lies across";
 }
 
 }
