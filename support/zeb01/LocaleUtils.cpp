@@ -27,13 +27,12 @@ WideText GetInfo(LCTYPE nType)
     return nLength > 0 ? WideText(info, static_cast<std::size_t>(nLength) - 1) : WideText();
 }
 
-WideText GetDayInfo(int nDayOfWeek, bool bShort)
+// nMonday is the type of information that Monday's name is, the first of seven.
+WideText GetDayInfo(int nDayOfWeek, LCTYPE nMonday)
 {
     if (nDayOfWeek < 1 || nDayOfWeek > 7)
         return {};
-    // The system counts from Monday.
-    const auto nIndex = static_cast<LCTYPE>((nDayOfWeek + 5) % 7);
-    return GetInfo((bShort ? LOCALE_SABBREVDAYNAME1 : LOCALE_SDAYNAME1) + nIndex);
+    return GetInfo(nMonday + static_cast<LCTYPE>((nDayOfWeek + 5) % 7));
 }
 
 WideText GetMonthInfo(int nMonth, bool bShort, bool bBesideDay)
@@ -69,7 +68,8 @@ WideText FormatPiece(const DatePattern::Piece& piece, const DateParts& date, boo
     switch (piece.letter) {
     case 'd':
         return piece.nCount < 3 ? ToDigits(date.nDay, piece.nCount)
-                                : GetDayInfo(date.nDayOfWeek, piece.nCount == 3);
+                                : GetDayInfo(date.nDayOfWeek,
+                                             piece.nCount == 3 ? LOCALE_SABBREVDAYNAME1 : LOCALE_SDAYNAME1);
     case 'M':
         return piece.nCount < 3 ? ToDigits(date.nMonth, piece.nCount)
                                 : GetMonthInfo(date.nMonth, piece.nCount == 3, bBesideDay);
@@ -96,7 +96,14 @@ int LocaleUtils::GetFirstDayOfWeek()
 
 CString LocaleUtils::GetDayName(int nDayOfWeek, bool bShort)
 {
-    return FromWide(GetDayInfo(nDayOfWeek, bShort));
+    const WideText strFull = GetDayInfo(nDayOfWeek, LOCALE_SDAYNAME1);
+    if (!bShort)
+        return FromWide(strFull);
+    const WideText strShort = GetDayInfo(nDayOfWeek, LOCALE_SABBREVDAYNAME1);
+    if (strShort != strFull)
+        return FromWide(strShort);
+    const WideText strShortest = GetDayInfo(nDayOfWeek, LOCALE_SSHORTESTDAYNAME1);
+    return FromWide(strShortest.empty() ? strFull : strShortest);
 }
 
 CString LocaleUtils::GetMonthName(int nMonth, bool bShort)

@@ -9,7 +9,8 @@ public:
     // The first day of the week, 1 (Sunday) to 7 (Saturday).
     static int GetFirstDayOfWeek();
 
-    // The name of a weekday from 1 (Sunday) to 7, abbreviated if bShort is true. Empty for another number.
+    // The name of a weekday from 1 (Sunday) to 7. With bShort it suits a narrow column: it is the abbreviated
+    // name, or the shortest one where the locale does not abbreviate. Empty for another number.
     static CString GetDayName(int nDayOfWeek, bool bShort);
 
     // The name of a month from 1 to 12, in the form in which it stands alone, abbreviated if bShort is true.

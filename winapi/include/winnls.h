@@ -26,7 +26,8 @@ WINBASEAPI BOOL WINAPI IsDBCSLeadByte(BYTE byte) ZEB17_NAME(IsDBCSLeadByte); // 
 #define LOCALE_SABBREVDAYNAME1 0x00000031u
 #define LOCALE_SMONTHNAME1 0x00000038u // January; to 12, December
 #define LOCALE_SABBREVMONTHNAME1 0x00000044u
-#define LOCALE_IFIRSTDAYOFWEEK 0x0000100Cu // "0" Monday to "6" Sunday
+#define LOCALE_SSHORTESTDAYNAME1 0x00000060u // Monday, in one or two letters; to 7, Sunday
+#define LOCALE_IFIRSTDAYOFWEEK 0x0000100Cu   // "0" Monday to "6" Sunday
 #define LOCALE_RETURN_GENITIVE_NAMES 0x10000000u
 
 // Locale names are those of BCP 47 ("nl-NL"). LOCALE_NAME_USER_DEFAULT is the user's locale. Gives the length

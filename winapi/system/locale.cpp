@@ -53,6 +53,8 @@ QString localeInfo(const QLocale& locale, LCTYPE type, bool genitive)
         return locale.standaloneDayName(day, QLocale::LongFormat);
     if (const int day = numberInRun(type, LOCALE_SABBREVDAYNAME1, 7))
         return locale.standaloneDayName(day, QLocale::ShortFormat);
+    if (const int day = numberInRun(type, LOCALE_SSHORTESTDAYNAME1, 7))
+        return locale.standaloneDayName(day, QLocale::NarrowFormat);
     if (const int month = numberInRun(type, LOCALE_SMONTHNAME1, 12))
         return monthName(locale, month, QLocale::LongFormat, genitive);
     if (const int month = numberInRun(type, LOCALE_SABBREVMONTHNAME1, 12))

@@ -41,6 +41,17 @@ TEST_F(Locale, KnowsTheWeekAndTheNames)
     }
 }
 
+// Where a locale does not abbreviate the names of days, the shortest ones suit a narrow column.
+TEST_F(Locale, ShortNamesOfDaysAreShort)
+{
+    for (const char* locale : {"fa-IR", "en-US", "pt-BR", "ja-JP"}) {
+        ASSERT_TRUE(LocaleUtils::SetLocale(locale));
+        for (int day = 1; day <= 7; ++day)
+            EXPECT_LE(ToWide(LocaleUtils::GetDayName(day, true)).size(), 4u) << locale;
+        EXPECT_GT(ToWide(LocaleUtils::GetDayName(4, false)).size(), 2u) << locale;
+    }
+}
+
 TEST_F(Locale, WritesDates)
 {
     ASSERT_TRUE(LocaleUtils::SetLocale("en-US"));
