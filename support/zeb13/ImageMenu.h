@@ -18,7 +18,8 @@ public:
     CImageMenu* LoadFilteredPopupMenu(UINT nResource, CWnd* pTarget);
 
     // Shows the popup at a point of the screen and returns when it has closed. The chosen command goes to
-    // pTarget as WM_COMMAND. 0 if the menu could not be shown; the thread's last error then tells why.
+    // pTarget as WM_COMMAND. A press elsewhere closes the popup and does nothing more. 0 if the menu could
+    // not be shown; the thread's last error then tells why.
     int TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pTarget, const RECT* pRect);
 
 private:

@@ -19,8 +19,14 @@ drive_options_menu() {
 
     open_menu; keys Down Down Escape
     keys Down; check 'Esc leaves the calendar its keys' "$(date_heard 2026-08-08)"
-    open_menu; click_at 60 -8
-    keys Up; check 'so does a press elsewhere' "$(date_heard 2026-08-01)"
+    open_menu; click_cell 20
+    keys Up; check 'so does a press elsewhere, and does nothing more' "$(date_heard 2026-08-01)"
+    open_menu; open_menu
+    keys Down; check 'so does a second press on the button' "$(date_heard 2026-08-08)"
+    xdotool click --repeat 3 --delay 1 1; sleep 0.7 # open, closed, open
+    keys Down Down Return
+    check_copied 'after three clicks' '8/8/2026'
+    keys Up; check 'after three clicks' "$(date_heard 2026-08-01)"
 
     "drive_printing_on_$platform"
     stop_demo
@@ -36,6 +42,7 @@ drive_printing_on_linux() {
     wait_until '[ -s "$work/print.pdf" ]'
     in_window
     pdftotext -layout "$file" "$work/month.txt"
+    check_text 'the paper lies across' 1 "$(pdfinfo "$file" | awk '/^Page size/ { print ($3 > $5) }')"
     check_text 'printed month' 'September 2026' "$(head -n 1 "$work/month.txt" | xargs)"
     ln -sf /dev/full "$file"
     open_print_dialog; keys Return; sleep 1

@@ -172,6 +172,17 @@ void sendKey(int key, const QString& text)
     QCoreApplication::sendEvent(QApplication::activePopupWidget(), &event);
 }
 
+// A press that was waiting when the menu came up closes it.
+bool takePress(const MSG& message)
+{
+    const UINT press = message.message;
+    const bool isPress = press == WM_LBUTTONDOWN || press == WM_LBUTTONDBLCLK || press == WM_RBUTTONDOWN ||
+                         press == WM_MBUTTONDOWN;
+    if (isPress)
+        endMenu();
+    return isPress;
+}
+
 // The keys of the message queue go to the menu while it is shown, wherever the focus is.
 bool takeKey(const MSG& message)
 {
@@ -189,7 +200,8 @@ bool takeKey(const MSG& message)
 
 LRESULT filterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
 {
-    if (code >= 0 && QApplication::activePopupWidget() && takeKey(*reinterpret_cast<const MSG*>(lParam)))
+    const auto& message = *reinterpret_cast<const MSG*>(lParam);
+    if (code >= 0 && QApplication::activePopupWidget() && (takePress(message) || takeKey(message)))
         return TRUE;
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
