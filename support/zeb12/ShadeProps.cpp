@@ -22,6 +22,19 @@ COLORREF Mix(COLORREF crFrom, COLORREF crTo, int nPart, int nWhole)
                Mix(GetBValue(crFrom), GetBValue(crTo), nPart, nWhole));
 }
 
+// How bright the eye sees a colour, from 0 to 1. A square comes close to the curve of screens.
+double GetLuminance(COLORREF cr)
+{
+    const auto linear = [](BYTE byValue) { return byValue * byValue / (255.0 * 255.0); };
+    return 0.2126 * linear(GetRValue(cr)) + 0.7152 * linear(GetGValue(cr)) + 0.0722 * linear(GetBValue(cr));
+}
+
+double GetContrast(COLORREF crOne, COLORREF crOther)
+{
+    const auto [dDark, dLight] = std::minmax({GetLuminance(crOne), GetLuminance(crOther)});
+    return (dLight + 0.05) / (dDark + 0.05);
+}
+
 }
 
 ShadeProps::ShadeProps()
@@ -31,6 +44,24 @@ ShadeProps::ShadeProps()
 }
 
 ShadeProps::ShadeProps(const std::array<Face, StateCount>& aFaces) : m_aFaces(aFaces) {}
+
+ShadeProps ShadeProps::OfSystemTheme()
+{
+    const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
+    const Face face = {crFace, crFace, ::GetSysColor(COLOR_BTNTEXT)};
+    const Face faceHot = {crFace, crFace, ::GetSysColor(COLOR_HIGHLIGHT)};
+    const Face faceDisabled = {crFace, crFace, ::GetSysColor(COLOR_GRAYTEXT)};
+    return ShadeProps({face, faceHot, faceHot, faceDisabled});
+}
+
+bool ShadeProps::CanCarry(COLORREF crText) const
+{
+    constexpr double kLeastContrast = 3;
+    return std::all_of(m_aFaces.begin(), m_aFaces.end(), [=](const Face& face) {
+        return std::min(GetContrast(face.m_crFrom, crText), GetContrast(face.m_crTo, crText)) >=
+               kLeastContrast;
+    });
+}
 
 void ShadeProps::Draw(CDC* pDC, const CRect& rect, State eState) const
 {

@@ -32,6 +32,14 @@ public:
     // One face for each state, in the order of the states.
     explicit ShadeProps(const std::array<Face, StateCount>& aFaces);
 
+    // Faces that keep to the colours of the system for the text of push buttons and what lies behind it, so
+    // that they can be read in its dark and high-contrast themes.
+    static ShadeProps OfSystemTheme();
+
+    // Whether text of this colour can be read on every face: its contrast is about 3 or more, as the Web
+    // Content Accessibility Guidelines 2.0 (W3C, 2008) define contrast.
+    bool CanCarry(COLORREF crText) const;
+
     // The face of a state.
     const Face& GetFace(State eState) const { return m_aFaces[eState]; }
 

@@ -86,7 +86,9 @@ void CZEBButton::DrawItem(LPDRAWITEMSTRUCT lpDIS)
 
     CDC& dc = *CDC::FromHandle(lpDIS->hDC);
     const CRect rcFace(lpDIS->rcItem);
-    m_shade.Draw(&dc, rcFace, GetShadeState(lpDIS->itemState));
+    const bool bOwnShade = m_shade.CanCarry(::GetSysColor(COLOR_BTNTEXT));
+    const ShadeProps shade = bOwnShade ? m_shade : ShadeProps::OfSystemTheme();
+    shade.Draw(&dc, rcFace, GetShadeState(lpDIS->itemState));
 
     CRect rcContent(rcFace);
     rcContent.DeflateRect(kPadding, kPadding);
@@ -100,7 +102,8 @@ void CZEBButton::DrawItem(LPDRAWITEMSTRUCT lpDIS)
         rcIcon = CRect(ptIcon, ZEBIcon::GetSize(m_eIcon));
     }
     const bool bDisabled = (lpDIS->itemState & ODS_DISABLED) != 0;
-    ZEBIcon::Draw(&dc, m_eIcon, rcIcon, bDisabled ? kDisabledIconColor : ::GetSysColor(COLOR_BTNTEXT));
+    const COLORREF crDisabled = bOwnShade ? kDisabledIconColor : ::GetSysColor(COLOR_GRAYTEXT);
+    ZEBIcon::Draw(&dc, m_eIcon, rcIcon, bDisabled ? crDisabled : ::GetSysColor(COLOR_BTNTEXT));
     DrawCaption(dc, rcContent, lpDIS->itemState);
 
     if ((lpDIS->itemState & ODS_FOCUS) && !(lpDIS->itemState & ODS_NOFOCUSRECT)) {
@@ -210,7 +213,10 @@ void CZEBButton::DrawCaption(CDC& dc, CRect rect, UINT nItemState)
     const int nOldMode = dc.SetBkMode(TRANSPARENT);
     const COLORREF crOld = dc.SetTextColor(GetCaptionColor(bDisabled));
     const UINT nPrefix = nItemState & ODS_NOACCEL ? DT_HIDEPREFIX : 0;
-    dc.DrawText(strCaption, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE | nPrefix);
+    CRect rcNeeded;
+    dc.DrawText(strCaption, &rcNeeded, DT_CALCRECT | DT_SINGLELINE);
+    const UINT nPlace = rcNeeded.Width() <= rect.Width() ? DT_CENTER : DT_LEFT | DT_END_ELLIPSIS;
+    dc.DrawText(strCaption, &rect, nPlace | DT_VCENTER | DT_SINGLELINE | nPrefix);
     dc.SetTextColor(crOld);
     dc.SetBkMode(nOldMode);
 }

@@ -16,7 +16,7 @@ public:
     ~CZEBButton() override;
 
     // Creates the button, which is owner-drawn whatever dwStyle says. An ampersand in the caption marks the
-    // letter behind it as a mnemonic.
+    // letter behind it as a mnemonic. A caption that does not fit is drawn from the left and ends in dots.
     BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) override;
 
     // Sets the font of the caption and repaints. nHeight is the height of a line in pixels, nWeight the
@@ -35,6 +35,8 @@ public:
     void SetRegularFontWhenDisabled(bool bRegularFont, bool bRegularColor);
 
     // Copies the shading and repaints. Before the first call the button is flat, in colours of the system.
+    // Where the system's text cannot be read on the shading, as in a dark theme, the button is drawn in the
+    // colours of the system's theme instead.
     void SetShadeProps(const ShadeProps& props);
 
     // Whether this key, a letter's virtual key, presses the button together with Alt: its caption marks the

@@ -153,6 +153,36 @@ TEST_F(ButtonTest, CaptionIsCentredAndMovesWhenPressed)
     EXPECT_EQ(rcMarked.CenterPoint().x, rcPlain.CenterPoint().x);
 }
 
+TEST_F(ButtonTest, ALongCaptionBeginsAtTheLeftAndEndsInDots)
+{
+    Create("Im Dezember 2026");
+    const CRect rcLong = FindContent(0);
+    EXPECT_LE(rcLong.left, 5);
+    EXPECT_LE(rcLong.right, kWidth - 2);
+    button.SetWindowText("Im Dezember 2026 oder 2027"); // the same but for the part that is left out
+    EXPECT_EQ(FindContent(0), rcLong);
+    CString strCaption;
+    button.GetWindowText(strCaption);
+    EXPECT_STREQ(strCaption, "Im Dezember 2026 oder 2027");
+    EXPECT_GT(rcLong.right, kWidth - 20);
+}
+
+// The system's text is dark here, so a dark shading stands for the light one of a dark theme.
+TEST_F(ButtonTest, FaceAndTextFollowTheSystemWhereTheShadingHidesTheText)
+{
+    Create("Clear");
+    for (const COLORREF crDark : {RGB(0, 0, 0), RGB(0x50, 0x50, 0x50)}) {
+        const ShadeProps::Face light{kNormal, kNormal, kBorder};
+        button.SetShadeProps(ShadeProps({light, light, ShadeProps::Face{kPressed, crDark, kBorder}, light}));
+        for (const UINT nState : {0u, static_cast<UINT>(ODS_SELECTED), static_cast<UINT>(ODS_DISABLED)}) {
+            Draw(nState);
+            EXPECT_EQ(canvas.GetPixel(1, 1), ::GetSysColor(COLOR_BTNFACE)) << nState;
+            EXPECT_NE(canvas.GetPixel(0, 0), kBorder) << nState;
+        }
+        EXPECT_FALSE(FindContent(0).IsRectEmpty());
+    }
+}
+
 TEST_F(ButtonTest, DisabledCaptionIsLightAndGreyUnlessItIsToStay)
 {
     Create("Month");
