@@ -1,28 +1,19 @@
 // Fills the lists from the calendar's settings, and changes these as the user says.
 #include "dates_panel.h"
 
-#include "color.h"
 #include "date_editor.h"
 #include "failure.h"
 #include "resource.h"
 #include "rule_text.h"
-#include "swatch_list.h"
+#include "swatch.h"
 
 #include <stdio.h>
 
-#define COUNT_OF(table) (int)(sizeof(table) / sizeof(table)[0])
-
-enum
-{
-    GROUP_COUNT = ZEB17_TODO + 1
-};
-
 static const COLORREF white = RGB(255, 255, 255);
 
-// The colours that groups have at first.
-static const COLORREF groupColors[GROUP_COUNT] = {RGB(0x2a, 0x6f, 0xc9), RGB(0xd0, 0x3a, 0x3a),
-                                                  RGB(0xe8, 0x80, 0x1a), RGB(0x2e, 0x9b, 0x4f),
-                                                  RGB(0x8a, 0x4f, 0xbf)};
+// The colours that the groups have at first.
+static const COLORREF groupColors[] = {RGB(0x2a, 0x6f, 0xc9), RGB(0xd0, 0x3a, 0x3a), RGB(0xe8, 0x80, 0x1a),
+                                       RGB(0x2e, 0x9b, 0x4f), RGB(0x8a, 0x4f, 0xbf)};
 
 // Where a date of the user's stands. The rows of the list are the own dates, and then the to-dos.
 typedef struct Place
@@ -31,99 +22,88 @@ typedef struct Place
     uint32_t index;
 } Place;
 
-static HWND listOf(const DatesPanel* panel, int id)
+static HWND itemOf(const DatesPanel* panel, int id)
 {
     return GetDlgItem(panel->dialog, id);
 }
 
 static zeb17_group_info groupInfo(const DatesPanel* panel, int group)
 {
-    zeb17_group_info info = {0};
-    info.size = sizeof info;
+    zeb17_group_info info = {.size = sizeof info};
     zeb17_group_get(panel->settings, group, &info);
     return info;
 }
 
-static Place placeOf(const DatesPanel* panel, int row)
+// The row that the first date of a group has.
+static uint32_t firstRow(const DatesPanel* panel, int group)
 {
-    const uint32_t ownCount = groupInfo(panel, ZEB17_CUSTOM).count;
-    const uint32_t index = (uint32_t)row;
-    const Place own = {ZEB17_CUSTOM, index};
-    const Place toDo = {ZEB17_TODO, index - ownCount};
-    return index < ownCount ? own : toDo;
+    return group == ZEB17_TODO ? groupInfo(panel, ZEB17_CUSTOM).count : 0;
 }
 
-static int rowOf(const DatesPanel* panel, Place place)
+static Place placeOf(const DatesPanel* panel, int row)
 {
-    const uint32_t before = place.group == ZEB17_TODO ? groupInfo(panel, ZEB17_CUSTOM).count : 0;
-    return (int)(before + place.index);
+    Place place = {(uint32_t)row < firstRow(panel, ZEB17_TODO) ? ZEB17_CUSTOM : ZEB17_TODO, 0};
+    place.index = (uint32_t)row - firstRow(panel, place.group);
+    return place;
 }
 
 static zeb17_entry entryAt(const DatesPanel* panel, Place place)
 {
-    zeb17_entry entry = {0};
-    entry.size = sizeof entry;
+    zeb17_entry entry = {.size = sizeof entry};
     zeb17_entry_get(panel->settings, place.group, place.index, &entry);
     return entry;
 }
 
-// A group without entries, or with many colours, has none.
-static COLORREF colorOfGroup(const DatesPanel* panel, int group)
+// The colour of a group; `otherwise` for one without entries, or with many colours.
+static COLORREF colorOfGroup(const DatesPanel* panel, int group, COLORREF otherwise)
 {
     const COLORREF color = groupInfo(panel, group).color;
-    return color == ZEB17_MIXED_COLORS ? white : color;
+    return color == ZEB17_MIXED_COLORS ? otherwise : color;
 }
-
-// ---- Filling
 
 static void fillGroups(const DatesPanel* panel)
 {
-    SwatchRows rows;
-    beginSwatchRows(&rows, listOf(panel, IDC_GROUPS));
-    for (int group = 0; group < GROUP_COUNT; ++group) {
+    SwatchRows rows = beginSwatchRows(itemOf(panel, IDC_GROUPS));
+    for (int group = 0; group < COUNT_OF(groupColors); ++group) {
         const zeb17_group_info info = groupInfo(panel, group);
         char name[NAME_SIZE] = "";
         char text[NAME_SIZE + 16];
         zeb17_group_name(group, name, sizeof name, NULL);
         snprintf(text, sizeof text, "%s (%u)", name, (unsigned int)info.count);
-        addSwatchRow(&rows, text, colorOfGroup(panel, group), info.shown > 0);
+        addSwatchRow(&rows, text, colorOfGroup(panel, group, white), info.shown > 0);
     }
     endSwatchRows(&rows);
 }
 
-static void addDateRow(const DatesPanel* panel, SwatchRows* rows, Place place)
-{
-    const zeb17_entry entry = entryAt(panel, place);
-    char text[DATE_TEXT_SIZE] = "";
-    char line[DATE_TEXT_SIZE + 16];
-    zeb17_entry_text(panel->settings, place.group, place.index, text, sizeof text, NULL);
-    snprintf(line, sizeof line, "%s%s", place.group == ZEB17_TODO ? "To do: " : "", text);
-    addSwatchRow(rows, line, entry.color, entry.shown);
-}
-
 static void fillDates(const DatesPanel* panel)
 {
-    SwatchRows rows;
-    beginSwatchRows(&rows, listOf(panel, IDC_DATES));
-    for (Place place = {ZEB17_CUSTOM, 0}; place.group <= ZEB17_TODO; ++place.group)
-        for (place.index = 0; place.index < groupInfo(panel, place.group).count; ++place.index)
-            addDateRow(panel, &rows, place);
+    SwatchRows rows = beginSwatchRows(itemOf(panel, IDC_DATES));
+    const uint32_t count = firstRow(panel, ZEB17_TODO) + groupInfo(panel, ZEB17_TODO).count;
+    for (uint32_t row = 0; row < count; ++row) {
+        const Place place = placeOf(panel, (int)row);
+        const zeb17_entry entry = entryAt(panel, place);
+        char text[DATE_TEXT_SIZE] = "";
+        char line[DATE_TEXT_SIZE + 16];
+        zeb17_entry_text(panel->settings, place.group, place.index, text, sizeof text, NULL);
+        snprintf(line, sizeof line, "%s%s", place.group == ZEB17_TODO ? "To do: " : "", text);
+        addSwatchRow(&rows, line, entry.color, entry.shown);
+    }
     endSwatchRows(&rows);
 }
 
-// A button, and the same command in the menu. A button that has the focus would keep it from the keys.
+// A button, and the same command in the menu. A disabled button would keep the focus from the keys.
 static void enableCommand(const DatesPanel* panel, int id, int isEnabled)
 {
-    const HWND button = GetDlgItem(panel->dialog, id);
+    const HWND button = itemOf(panel, id);
     if (!isEnabled && button && GetFocus() == button)
-        SendMessage(panel->dialog, WM_NEXTDLGCTL, (WPARAM)listOf(panel, IDC_DATES), TRUE);
+        SendMessage(panel->dialog, WM_NEXTDLGCTL, (WPARAM)itemOf(panel, IDC_DATES), TRUE);
     EnableWindow(button, isEnabled);
     EnableMenuItem(GetMenu(panel->dialog), (UINT)id, isEnabled ? MF_ENABLED : MF_GRAYED);
 }
 
 static void showSelected(const DatesPanel* panel)
 {
-    const HWND list = listOf(panel, IDC_DATES);
+    const HWND list = itemOf(panel, IDC_DATES);
     const int row = selectedRow(list);
     char words[RULE_TEXT_SIZE] = "Choose a date to see when it falls.";
     if (row >= 0) {
@@ -137,10 +117,9 @@ static void showSelected(const DatesPanel* panel)
     enableCommand(panel, IDM_SAVE, panel->isChanged);
 }
 
-void fillDatesPanel(DatesPanel* panel)
+static void fill(DatesPanel* panel)
 {
-    if (!panel->settings)
-        return;
+    zeb17_refresh(panel->calendar);
     panel->isFilling = 1;
     fillGroups(panel);
     fillDates(panel);
@@ -148,112 +127,87 @@ void fillDatesPanel(DatesPanel* panel)
     showSelected(panel);
 }
 
-static void changed(DatesPanel* panel)
+// Follows a call that was to change the dates.
+static void follow(DatesPanel* panel, int result)
 {
-    panel->isChanged = 1;
-    zeb17_refresh(panel->calendar);
-    fillDatesPanel(panel);
+    if (result != ZEB17_OK)
+        tellResult(panel->dialog, "The calendar could not do that.", result);
+    panel->isChanged |= result == ZEB17_OK;
+    fill(panel);
 }
 
-// ---- Commands
-
-// A new date begins as the selected day, of every year; without one as today.
-static void beginDate(const DatesPanel* panel, DateEdit* edit)
+// A new date begins as the calendar's day, of every year.
+static DateEdit newDate(const DatesPanel* panel)
 {
-    const COLORREF color = groupInfo(panel, ZEB17_CUSTOM).color;
-    zeb17_entry* const entry = &edit->entry;
+    DateEdit edit = {.isNew = 1, .group = ZEB17_CUSTOM};
+    zeb17_entry entry = {.size = sizeof entry, .shown = 1, .rule = ZEB17_DAY};
     zeb17_date day = {1, 1, 1};
-    int isSelected = 0;
-    int weekday = 1;
-    zeb17_get_date(panel->calendar, &day, &isSelected);
-    if (!isSelected)
-        zeb17_today(&day);
-    zeb17_weekday(&day, &weekday);
-    edit->isNew = 1;
-    edit->group = ZEB17_CUSTOM;
-    entry->size = sizeof *entry;
-    entry->shown = 1;
-    entry->color = color == ZEB17_MIXED_COLORS ? groupColors[ZEB17_CUSTOM] : color;
-    entry->rule = ZEB17_DAY;
-    entry->day = day.day;
-    entry->month = day.month;
-    entry->weekday = entry->near_weekday = weekday;
+    zeb17_get_date(panel->calendar, &day, NULL);
+    zeb17_weekday(&day, &entry.weekday);
+    entry.color = colorOfGroup(panel, ZEB17_CUSTOM, groupColors[ZEB17_CUSTOM]);
+    entry.day = day.day;
+    entry.month = day.month;
+    entry.near_weekday = entry.weekday;
+    edit.entry = entry;
+    return edit;
 }
 
 static void addDate(DatesPanel* panel)
 {
-    DateEdit edit = {0};
-    Place place;
-    beginDate(panel, &edit);
+    DateEdit edit = newDate(panel);
+    uint32_t index = 0;
     if (!editDate(panel->dialog, &edit))
         return;
-    place.group = edit.group;
-    if (zeb17_entry_add(panel->settings, place.group, &edit.entry, edit.text, &place.index) != ZEB17_OK)
-        return;
-    changed(panel);
-    selectRow(listOf(panel, IDC_DATES), rowOf(panel, place));
+    follow(panel, zeb17_entry_add(panel->settings, edit.group, &edit.entry, edit.text, &index));
+    selectRow(itemOf(panel, IDC_DATES), (int)(firstRow(panel, edit.group) + index));
 }
 
 static void changeDate(DatesPanel* panel)
 {
-    const int row = selectedRow(listOf(panel, IDC_DATES));
-    if (row < 0)
-        return;
+    const int row = selectedRow(itemOf(panel, IDC_DATES));
     const Place place = placeOf(panel, row);
     DateEdit edit = {0};
+    if (row < 0)
+        return;
     edit.group = place.group;
     edit.entry = entryAt(panel, place);
     zeb17_entry_text(panel->settings, place.group, place.index, edit.text, sizeof edit.text, NULL);
-    if (editDate(panel->dialog, &edit) &&
-        zeb17_entry_set(panel->settings, place.group, place.index, &edit.entry, edit.text) == ZEB17_OK)
-        changed(panel);
+    if (editDate(panel->dialog, &edit))
+        follow(panel, zeb17_entry_set(panel->settings, place.group, place.index, &edit.entry, edit.text));
 }
 
 static void deleteDate(DatesPanel* panel)
 {
-    const int row = selectedRow(listOf(panel, IDC_DATES));
+    const int row = selectedRow(itemOf(panel, IDC_DATES));
     const Place place = placeOf(panel, row);
-    if (row >= 0 && zeb17_entry_delete(panel->settings, place.group, place.index) == ZEB17_OK)
-        changed(panel);
+    if (row >= 0)
+        follow(panel, zeb17_entry_delete(panel->settings, place.group, place.index));
 }
 
 static void chooseGroupColor(DatesPanel* panel)
 {
-    const int group = selectedRow(listOf(panel, IDC_GROUPS));
-    if (group < 0)
-        return;
-    uint32_t color = colorOfGroup(panel, group);
-    if (chooseColor(panel->dialog, &color) &&
-        zeb17_group_set_color(panel->settings, group, color) == ZEB17_OK)
-        changed(panel);
-}
-
-int saveDates(DatesPanel* panel)
-{
-    char why[FAILURE_SIZE];
-    const int result = zeb17_settings_save(panel->settings);
-    if (result == ZEB17_OK) {
-        panel->isChanged = 0;
-        showSelected(panel);
-        return 1;
-    }
-    failureWords(why, result);
-    tellFailure(panel->dialog, "Your dates could not be saved.", why);
-    return 0;
+    const int group = selectedRow(itemOf(panel, IDC_GROUPS));
+    uint32_t color = colorOfGroup(panel, group, white);
+    if (group >= 0 && chooseColor(panel->dialog, &color))
+        follow(panel, zeb17_group_set_color(panel->settings, group, color));
 }
 
 static void save(DatesPanel* panel)
 {
-    saveDates(panel);
+    const int result = zeb17_settings_save(panel->settings);
+    if (result != ZEB17_OK)
+        tellResult(panel->dialog, "Your dates could not be saved.", result);
+    panel->isChanged = result != ZEB17_OK;
+    showSelected(panel);
 }
 
 // Enter, or a double click, in a list.
 static void activate(DatesPanel* panel)
 {
     const HWND focus = GetFocus();
-    if (focus == listOf(panel, IDC_DATES))
+    if (focus == itemOf(panel, IDC_DATES))
         changeDate(panel);
-    else if (focus == listOf(panel, IDC_GROUPS))
+    else if (focus == itemOf(panel, IDC_GROUPS))
         chooseGroupColor(panel);
 }
 
@@ -261,93 +215,66 @@ static const struct
 {
     int id;
     void (*run)(DatesPanel* panel);
-} commands[] = {
-    {IDM_ADD, addDate}, {IDM_EDIT, changeDate}, {IDM_DELETE, deleteDate}, {IDM_GROUP_COLOR, chooseGroupColor},
-    {IDM_SAVE, save},   {IDOK, activate},
-};
+} commands[] = {{IDM_ADD, addDate},       {IDM_EDIT, changeDate},
+                {IDM_DELETE, deleteDate}, {IDM_GROUP_COLOR, chooseGroupColor},
+                {IDM_SAVE, save},         {IDOK, activate}};
 
-int runDatesCommand(DatesPanel* panel, int id)
+void runDatesCommand(DatesPanel* panel, int id)
 {
-    for (int i = 0; i < COUNT_OF(commands); ++i)
-        if (commands[i].id == id) {
-            if (panel->settings)
-                commands[i].run(panel);
-            return 1;
-        }
-    return 0;
+    for (int i = 0; i < COUNT_OF(commands) && panel->settings; ++i)
+        if (commands[i].id == id)
+            commands[i].run(panel);
 }
 
-// ---- The lists
-
-static void showRow(DatesPanel* panel, int list, int row)
+static void showRow(DatesPanel* panel, HWND list, int row)
 {
-    const int isShown = ListView_GetCheckState(listOf(panel, list), row) != 0;
-    if (list == IDC_GROUPS)
-        zeb17_group_set_shown(panel->settings, row, isShown);
-    else {
-        const Place place = placeOf(panel, row);
-        zeb17_entry entry = entryAt(panel, place);
-        entry.shown = isShown;
-        zeb17_entry_set(panel->settings, place.group, place.index, &entry, NULL);
+    const int isShown = ListView_GetCheckState(list, row) != 0;
+    if (list == itemOf(panel, IDC_GROUPS)) {
+        follow(panel, zeb17_group_set_shown(panel->settings, row, isShown));
+        return;
     }
-    changed(panel);
+    const Place place = placeOf(panel, row);
+    zeb17_entry entry = entryAt(panel, place);
+    entry.shown = isShown;
+    follow(panel, zeb17_entry_set(panel->settings, place.group, place.index, &entry, NULL));
 }
 
 static void followItem(DatesPanel* panel, const NMLISTVIEW* item)
 {
     const UINT changes = item->uNewState ^ item->uOldState;
-    if (panel->isFilling || !(item->uChanged & LVIF_STATE))
-        return;
-    if (item->iItem >= 0 && (changes & LVIS_STATEIMAGEMASK))
-        showRow(panel, (int)item->hdr.idFrom, item->iItem);
+    if (changes & LVIS_STATEIMAGEMASK)
+        showRow(panel, item->hdr.hwndFrom, item->iItem);
     else if (changes & LVIS_SELECTED)
         showSelected(panel);
 }
 
 void notifyDatesPanel(DatesPanel* panel, const NMHDR* header)
 {
-    if (!panel->settings)
+    if (!panel->settings || panel->isFilling)
         return;
-    switch (header->code) {
-    case LVN_ITEMCHANGED:
+    if (header->code == LVN_ITEMCHANGED)
         followItem(panel, (const NMLISTVIEW*)header);
-        break;
-    case LVN_KEYDOWN:
-        if (header->idFrom == IDC_DATES && ((const NMLVKEYDOWN*)header)->wVKey == VK_DELETE)
-            deleteDate(panel);
-        break;
-    case NM_DBLCLK:
+    else if (header->code == NM_DBLCLK)
         activate(panel);
-        break;
-    default:
-        break;
-    }
-}
-
-// White would not be seen on the white grid: groups that were never given a colour get one.
-static void giveColors(const DatesPanel* panel)
-{
-    for (int group = 0; group < GROUP_COUNT; ++group)
-        if (groupInfo(panel, group).color == white)
-            zeb17_group_set_color(panel->settings, group, groupColors[group]);
-    zeb17_refresh(panel->calendar);
+    else if (header->code == LVN_KEYDOWN && header->idFrom == IDC_DATES &&
+             ((const NMLVKEYDOWN*)header)->wVKey == VK_DELETE)
+        deleteDate(panel);
 }
 
 void startDatesPanel(DatesPanel* panel, HWND dialog, HWND calendar, int isReadable)
 {
-    static const int ids[] = {IDC_GROUPS, IDC_DATES,  IDM_ADD, IDM_GROUP_COLOR,
-                              IDM_EDIT,   IDM_DELETE, IDM_SAVE};
     panel->dialog = dialog;
     panel->calendar = calendar;
-    startSwatchList(listOf(panel, IDC_GROUPS));
-    startSwatchList(listOf(panel, IDC_DATES));
-    if (isReadable)
-        zeb17_control_settings(calendar, &panel->settings);
-    for (int i = 0; i < COUNT_OF(ids); ++i)
-        enableCommand(panel, ids[i], isReadable);
+    startSwatchList(itemOf(panel, IDC_GROUPS));
+    startSwatchList(itemOf(panel, IDC_DATES));
+    for (int i = 0; i < COUNT_OF(commands); ++i)
+        enableCommand(panel, commands[i].id, isReadable);
     if (!isReadable)
         return;
-    giveColors(panel);
-    fillDatesPanel(panel);
-    selectRow(listOf(panel, IDC_GROUPS), 0);
+    zeb17_control_settings(calendar, &panel->settings);
+    for (int group = 0; group < COUNT_OF(groupColors); ++group)
+        if (groupInfo(panel, group).color == white) // not to be seen on the white grid
+            zeb17_group_set_color(panel->settings, group, groupColors[group]);
+    fill(panel);
+    selectRow(itemOf(panel, IDC_GROUPS), 0);
 }

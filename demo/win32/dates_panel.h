@@ -17,17 +17,10 @@ typedef struct DatesPanel
 // Fills the controls; dates that cannot be read can be neither seen nor changed.
 void startDatesPanel(DatesPanel* panel, HWND dialog, HWND calendar, int isReadable);
 
-// Does what a command of the panel says: one of IDM_ADD to IDM_GROUP_COLOR, IDM_SAVE, or IDOK for Enter. 0 if
-// the command is none of the panel's.
-int runDatesCommand(DatesPanel* panel, int id);
+// Does what a command of the panel says, also IDOK, which is Enter. Other commands do nothing.
+void runDatesCommand(DatesPanel* panel, int id);
 
 // Follows what the user does in the two lists: at WM_NOTIFY.
 void notifyDatesPanel(DatesPanel* panel, const NMHDR* header);
-
-// Shows all anew, such as on a screen of another density.
-void fillDatesPanel(DatesPanel* panel);
-
-// Saves the dates. 0, after the user was told, if that fails.
-int saveDates(DatesPanel* panel);
 
 #endif

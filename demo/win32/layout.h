@@ -10,7 +10,8 @@ enum
     MOVE_X = 1,
     MOVE_Y = 2,
     GROW_X = 4,
-    GROW_Y = 8
+    GROW_Y = 8,
+    MAX_LAYOUT_RULES = 16
 };
 
 typedef struct LayoutRule
@@ -19,26 +20,23 @@ typedef struct LayoutRule
     int how;
 } LayoutRule;
 
-enum
-{
-    MAX_LAYOUT_RULES = 16
-};
-
+// How the dialog was created: lengths in pixels of its first density.
 typedef struct Layout
 {
     HWND dialog;
     const LayoutRule* rules;
     int count;
-    int dpi;   // that of the lengths below
-    SIZE size; // of the whole dialog
+    int dpi;
+    RECT window;
     RECT client;
     RECT places[MAX_LAYOUT_RULES];
 } Layout;
 
-// Notes how the dialog was created. The rules stay the caller's, and are as good as long as the layout.
+// Notes how the dialog is now. The rules, at most MAX_LAYOUT_RULES and one for each control, stay the
+// caller's.
 void startLayout(Layout* layout, HWND dialog, const LayoutRule* rules, int count);
 
-// Puts the controls where the dialog's size wants them: at WM_SIZE.
+// Puts the controls where the size and the density of the dialog want them: at WM_SIZE.
 void applyLayout(const Layout* layout);
 
 // Lets the dialog get no smaller than it was created: at WM_GETMINMAXINFO.

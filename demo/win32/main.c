@@ -1,6 +1,7 @@
-// The desk calendar for Windows: a month with special dates, the user's own dates and to-dos, in C. Its
-// command line is described in command_line.h. The manifest makes UTF-8 the code page of the process, so that
-// texts go as they are between the calendar, the system and the command line.
+// The desk calendar for Windows, in C; command_line.h describes its command line. The manifest makes UTF-8
+// the code page of the process, so texts go as they are between the calendar, the system and the command
+// line.
+#include "failure.h"
 #include "main_window.h"
 #include "picture.h"
 #include "resource.h"
@@ -11,21 +12,13 @@
 #include <stdio.h>
 #include <stdlib.h>
 
-static zeb17_date toDate(const DeskDate* date)
-{
-    const zeb17_date result = {date->year, date->month, date->day};
-    return result;
-}
-
 // A zeb17_result.
 static int prepare(const DeskOptions* options)
 {
     const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_LISTVIEW_CLASSES | ICC_UPDOWN_CLASS};
-    const zeb17_date today = toDate(&options->today);
-    int result = ZEB17_OK;
+    const zeb17_date today = {options->today.year, options->today.month, options->today.day};
     InitCommonControlsEx(&controls);
-    if (today.year != 0)
-        result = zeb17_set_today(&today);
+    int result = zeb17_set_today(today.year != 0 ? &today : NULL);
     if (result == ZEB17_OK && options->locale)
         result = zeb17_set_locale(options->locale);
     if (result == ZEB17_OK && options->data)
@@ -34,29 +27,17 @@ static int prepare(const DeskOptions* options)
     return result == ZEB17_OK ? zeb17_register() : result;
 }
 
-static void dispatch(const MainWindow* window, HACCEL keys, MSG* message)
-{
-    if (TranslateAccelerator(window->window, keys, message) || IsDialogMessage(window->window, message))
-        return;
-    TranslateMessage(message);
-    DispatchMessage(message);
-}
-
 static int runLoop(const MainWindow* window)
 {
     const HACCEL keys = LoadAccelerators(GetModuleHandle(NULL), MAKEINTRESOURCE(IDR_KEYS));
     MSG message;
-    while (GetMessage(&message, NULL, 0, 0) > 0)
-        dispatch(window, keys, &message);
+    while (GetMessage(&message, NULL, 0, 0) > 0) {
+        if (TranslateAccelerator(window->window, keys, &message) || IsDialogMessage(window->window, &message))
+            continue;
+        TranslateMessage(&message);
+        DispatchMessage(&message);
+    }
     return (int)message.wParam;
-}
-
-// Until every window has painted itself.
-static void pumpWaiting(const MainWindow* window)
-{
-    MSG message;
-    while (PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
-        dispatch(window, NULL, &message);
 }
 
 // Writes what the command line asks for; the exit code of the program.
@@ -73,7 +54,7 @@ static int writeOutputs(const MainWindow* window, const DeskOptions* options)
         {options->print, zeb17_print, window->calendar},
     };
     int exitCode = 0;
-    pumpWaiting(window);
+    RedrawWindow(window->window, NULL, NULL, RDW_UPDATENOW | RDW_ALLCHILDREN);
     for (size_t i = 0; i < sizeof outputs / sizeof outputs[0]; ++i) {
         const char* const path = outputs[i].path;
         if (!path || outputs[i].write(outputs[i].window, path) == ZEB17_OK)
@@ -84,14 +65,6 @@ static int writeOutputs(const MainWindow* window, const DeskOptions* options)
     return exitCode;
 }
 
-static int fail(int result)
-{
-    char why[FAILURE_SIZE];
-    failureWords(why, result);
-    tellFailure(NULL, "The calendar could not be started.", why);
-    return 1;
-}
-
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int show)
 {
     DeskOptions options;
@@ -99,15 +72,14 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     (void)instance, (void)before, (void)commandLine, (void)show;
     if (!deskReadOptions(&options, __argc, __argv))
         return 2;
-    const int result = prepare(&options);
-    if (result != ZEB17_OK)
-        return fail(result);
     const int isAttended = !deskHasOutput(&options);
-    if (!createMainWindow(&window, isAttended))
-        return fail(zeb17_last_result());
-    const zeb17_date selected = toDate(&options.select);
-    if (selected.year != 0)
-        zeb17_set_date(window.calendar, &selected);
-    showMainWindow(&window);
+    const zeb17_date selected = {options.select.year, options.select.month, options.select.day};
+    int result = prepare(&options);
+    if (result == ZEB17_OK)
+        result = createMainWindow(&window, selected.year != 0 ? &selected : NULL, isAttended);
+    if (result != ZEB17_OK) {
+        tellResult(NULL, "The calendar could not be started.", result);
+        return 1;
+    }
     return isAttended ? runLoop(&window) : writeOutputs(&window, &options);
 }

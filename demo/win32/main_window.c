@@ -1,19 +1,12 @@
 // Brings the calendar, the panel and the menu together, and shows what the calendar tells.
 #include "main_window.h"
 
+#include "failure.h"
 #include "resource.h"
 
 #include <commdlg.h>
 #include <stdio.h>
 #include <string.h>
-
-#define COUNT_OF(table) (int)(sizeof(table) / sizeof(table)[0])
-
-enum
-{
-    WORDS_SIZE = 80,
-    MAX_HEARD = 100
-};
 
 static const LayoutRule layoutRules[] = {
     {IDC_CALENDAR, GROW_X | GROW_Y}, {IDC_RANGE, GROW_X | MOVE_Y},  {IDC_HEARD, GROW_X | MOVE_Y},
@@ -22,221 +15,122 @@ static const LayoutRule layoutRules[] = {
     {IDM_EDIT, MOVE_X | MOVE_Y},     {IDM_DELETE, MOVE_X | MOVE_Y}, {IDM_SAVE, MOVE_X | MOVE_Y},
 };
 
-// Who can answer a message box.
-static HWND ownerOf(const MainWindow* window)
-{
-    return window->isAttended ? window->window : NULL;
-}
-
 // ---- What the calendar tells
 
-static void dateWords(const MainWindow* window, LPARAM lParam, char words[WORDS_SIZE])
-{
-    zeb17_date date = {0, 0, 0};
-    (void)lParam;
-    zeb17_get_date(window->calendar, &date, NULL);
-    snprintf(words, WORDS_SIZE, "%04d-%02d-%02d", (int)date.year, (int)date.month, (int)date.day);
-}
-
-static void selectionWords(const MainWindow* window, LPARAM lParam, char words[WORDS_SIZE])
-{
-    dateWords(window, lParam, words);
-    if (lParam == 0)
-        strcat(words, " (press)");
-}
-
-static void rangeWords(const MainWindow* window, LPARAM lParam, char words[WORDS_SIZE])
-{
-    zeb17_date end = {0, 0, 0};
-    zeb17_range_end(lParam, &end);
-    dateWords(window, lParam, words);
-    const size_t length = strlen(words);
-    snprintf(words + length, WORDS_SIZE - length, " to %04d-%02d-%02d", (int)end.year, (int)end.month,
-             (int)end.day);
-}
-
 // In the order of zeb17_event.
-static const struct
-{
-    const char* name;
-    void (*describe)(const MainWindow* window, LPARAM lParam, char words[WORDS_SIZE]);
-} events[] = {
-    {"ZEB17_SELCHANGE", selectionWords}, {"ZEB17_NODATE", NULL},  {"ZEB17_ENTERKEY", dateWords},
-    {"ZEB17_ESCKEY", dateWords},         {"ZEB17_WEBPAGE", NULL}, {"ZEB17_RANGE", rangeWords},
-};
+static const char* const eventNames[] = {"ZEB17_SELCHANGE", "ZEB17_NODATE",  "ZEB17_ENTERKEY",
+                                         "ZEB17_ESCKEY",    "ZEB17_WEBPAGE", "ZEB17_RANGE"};
 
 // A row in the window for the user's eyes, and a line on the standard output for whoever drives the program.
-static void addHeard(const MainWindow* window, const char* line)
+static void addHeard(const MainWindow* window, const char* event, const char* details)
 {
     const HWND list = GetDlgItem(window->window, IDC_HEARD);
-    if (SendMessage(list, LB_GETCOUNT, 0, 0) == MAX_HEARD)
-        SendMessage(list, LB_DELETESTRING, 0, 0);
+    char line[100];
+    snprintf(line, sizeof line, *details ? "%s %s" : "%s", event, details);
     SendMessage(list, LB_SETTOPINDEX, (WPARAM)SendMessage(list, LB_ADDSTRING, 0, (LPARAM)line), 0);
     printf("%s\n", line);
     fflush(stdout);
 }
 
-static void hear(MainWindow* window, int event, LPARAM lParam)
+static void writeDate(char text[20], zeb17_date date)
 {
-    char words[WORDS_SIZE] = "";
-    char line[2 * WORDS_SIZE];
-    if (events[event].describe)
-        events[event].describe(window, lParam, words);
-    snprintf(line, sizeof line, "%s%s%s", events[event].name, words[0] ? " " : "", words);
-    addHeard(window, line);
+    snprintf(text, 20, "%04d-%02d-%02d", (int)date.year, (int)date.month, (int)date.day);
+}
+
+static void hear(const MainWindow* window, const zeb17_notification* told)
+{
+    const UINT event = told->header.code - ZEB17_NOTIFY_FIRST;
+    char date[20], end[20], details[60] = "", range[80];
+    if (event >= (UINT)COUNT_OF(eventNames))
+        return;
+    writeDate(date, told->date);
+    writeDate(end, told->end);
     if (event == ZEB17_WEBPAGE)
         PostMessage(window->window, WM_COMMAND, IDM_WEB_PAGE, 0);
-    if (event != ZEB17_RANGE)
-        return;
-    snprintf(line, sizeof line, "Last range: %s", words);
-    SetDlgItemText(window->window, IDC_RANGE, line);
+    else if (event == ZEB17_RANGE) {
+        snprintf(details, sizeof details, "%s to %s", date, end);
+        snprintf(range, sizeof range, "Last range: %s", details);
+        SetDlgItemText(window->window, IDC_RANGE, range);
+    } else if (event != ZEB17_NODATE)
+        snprintf(details, sizeof details, "%s%s", date, told->by_press ? " (press)" : "");
+    addHeard(window, eventNames[event], details);
 }
 
-static int eventOf(UINT message)
-{
-    int event = COUNT_OF(events) - 1;
-    while (event >= 0 && message != zeb17_message(event))
-        --event;
-    return event;
-}
-
-// The log has a mark of the place, in braces, and may have words for the user behind it. Failures that a call
-// tells too come here alone.
+// A line of the log has a mark in braces and, if the user should know of the failure, words behind it.
 static void hearLog(void* context, const char* line)
 {
     const MainWindow* const window = context;
     const char* const mark = strchr(line, '}');
-    const char* const words = mark ? mark + 1 : line;
-    if (*words)
-        tellFailure(ownerOf(window), "The calendar could not do that.", words);
+    if (mark && mark[1])
+        tellFailure(window->owner, "The calendar could not do that.", mark + 1);
 }
 
 // ---- Commands
 
-static void saveWebPage(MainWindow* window)
+static void saveWebPage(const MainWindow* window)
 {
-    char path[MAX_PATH] = "calendar.html";
-    OPENFILENAME dialog = {0};
-    dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = window->window;
+    char path[3 * MAX_PATH] = "calendar.html";
+    OPENFILENAME dialog = {.lStructSize = sizeof dialog, .hwndOwner = window->window, .lpstrFile = path};
     dialog.lpstrFilter = "Web pages (*.html)\0*.html\0All files\0*.*\0";
-    dialog.lpstrFile = path;
     dialog.nMaxFile = sizeof path;
     dialog.lpstrDefExt = "html";
     dialog.Flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT | OFN_NOCHANGEDIR;
     if (!GetSaveFileName(&dialog))
         return;
     const int result = zeb17_save_web_page(window->calendar, path);
-    if (result == ZEB17_OK)
-        return;
-    char why[FAILURE_SIZE];
-    failureWords(why, result);
-    tellFailure(window->window, "The web page could not be written.", why);
+    if (result != ZEB17_OK)
+        tellResult(window->window, "The web page could not be written.", result);
 }
-
-static void print(MainWindow* window)
-{
-    zeb17_print(window->calendar, NULL);
-}
-
-static void quit(MainWindow* window)
-{
-    SendMessage(window->window, WM_CLOSE, 0, 0);
-}
-
-static void selectToday(MainWindow* window)
-{
-    zeb17_select_today(window->calendar);
-}
-
-static void clearSelection(MainWindow* window)
-{
-    zeb17_set_date(window->calendar, NULL);
-}
-
-static const struct
-{
-    int id;
-    void (*run)(MainWindow* window);
-} commands[] = {
-    {IDM_WEB_PAGE, saveWebPage}, {IDM_PRINT, print},          {IDM_QUIT, quit},
-    {IDM_TODAY, selectToday},    {IDM_CLEAR, clearSelection},
-};
-
-static const struct
-{
-    int id;
-    int unit;
-    int count;
-} steps[] = {
-    {IDM_NEXT_MONTH, ZEB17_MONTHS, 1},
-    {IDM_PREVIOUS_MONTH, ZEB17_MONTHS, -1},
-    {IDM_NEXT_YEAR, ZEB17_YEARS, 1},
-    {IDM_PREVIOUS_YEAR, ZEB17_YEARS, -1},
-};
 
 static void runCommand(MainWindow* window, int id)
 {
-    for (int i = 0; i < COUNT_OF(commands); ++i)
-        if (commands[i].id == id)
-            commands[i].run(window);
-    for (int i = 0; i < COUNT_OF(steps); ++i)
-        if (steps[i].id == id)
-            zeb17_step(window->calendar, steps[i].unit, steps[i].count);
-    runDatesCommand(&window->panel, id);
+    switch (id) {
+    case IDM_WEB_PAGE:
+        saveWebPage(window);
+        break;
+    case IDM_PRINT:
+        zeb17_print(window->calendar, NULL); // the log tells of failures
+        break;
+    case IDM_QUIT:
+        SendMessage(window->window, WM_CLOSE, 0, 0);
+        break;
+    default:
+        runDatesCommand(&window->panel, id);
+        break;
+    }
 }
 
 static int mayClose(MainWindow* window)
 {
     if (!window->panel.isChanged)
         return 1;
-    switch (MessageBox(window->window, "Save the changes to your dates?", "zeb17 desk calendar",
-                       MB_YESNOCANCEL | MB_ICONQUESTION)) {
-    case IDYES:
-        return saveDates(&window->panel);
-    case IDNO:
-        return 1;
-    default:
-        return 0;
-    }
+    const int answer = MessageBox(window->window, "Save the changes to your dates?", "zeb17 desk calendar",
+                                  MB_YESNOCANCEL | MB_ICONQUESTION);
+    if (answer == IDYES)
+        runDatesCommand(&window->panel, IDM_SAVE);
+    return answer == IDNO || !window->panel.isChanged;
 }
 
-// ---- Creation
+// ---- The dialog
 
-// A data file that cannot be read is left as it is: the calendar then goes without special dates.
-static HWND createCalendar(MainWindow* window, const RECT* rect)
-{
-    const uint32_t flags = ZEB17_ALL_FLAGS & ~ZEB17_NOTIFY;
-    const HWND calendar = zeb17_create(window->window, IDC_CALENDAR, rect, flags);
-    if (calendar)
-        return calendar;
-    failureWords(window->loadFailure, zeb17_last_result());
-    return zeb17_create(window->window, IDC_CALENDAR, rect, flags & ~ZEB17_SPECIAL_DATES);
-}
-
-// The calendar takes the place that the template keeps for it, also in the order of Tab.
-static void placeCalendar(MainWindow* window)
+// Creates the calendar in the place that the template keeps for it, also in the order of Tab. A data file
+// that cannot be read is left as it is: the calendar then goes without special dates. A zeb17_result.
+static int createCalendar(MainWindow* window)
 {
     const HWND place = GetDlgItem(window->window, IDC_PLACE);
+    int result = ZEB17_OK;
     RECT rect;
     GetWindowRect(place, &rect);
     MapWindowPoints(NULL, window->window, (POINT*)&rect, 2);
-    window->calendar = createCalendar(window, &rect);
+    window->calendar = zeb17_create(window->window, IDC_CALENDAR, &rect, ZEB17_ALL_FLAGS);
+    if (!window->calendar) {
+        result = zeb17_last_result();
+        window->calendar = zeb17_create(window->window, IDC_CALENDAR, &rect,
+                                        ZEB17_ALL_FLAGS & ~(uint32_t)ZEB17_SPECIAL_DATES);
+    }
     SetWindowPos(window->calendar, place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     DestroyWindow(place);
-}
-
-static void start(MainWindow* window, HWND dialog)
-{
-    window->window = dialog;
-    SetWindowLongPtr(dialog, DWLP_USER, (LONG_PTR)window);
-    placeCalendar(window);
-    if (!window->calendar)
-        return;
-    startDatesPanel(&window->panel, dialog, window->calendar, !window->loadFailure[0]);
-    startLayout(&window->layout, dialog, layoutRules, COUNT_OF(layoutRules));
-    zeb17_set_log(hearLog, window);
-    SetFocus(window->calendar);
+    return result;
 }
 
 static INT_PTR handle(MainWindow* window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -248,14 +142,17 @@ static INT_PTR handle(MainWindow* window, UINT message, WPARAM wParam, LPARAM lP
     case WM_GETMINMAXINFO:
         limitLayout(&window->layout, (MINMAXINFO*)lParam);
         return TRUE;
+    case WM_DPICHANGED: // the layout has the last word, when the system has moved the controls
+        PostMessage(window->window, WM_SIZE, SIZE_RESTORED, 0);
+        return FALSE;
     case WM_COMMAND:
         runCommand(window, LOWORD(wParam));
         return TRUE;
     case WM_NOTIFY:
-        notifyDatesPanel(&window->panel, (const NMHDR*)lParam);
-        return TRUE;
-    case WM_QUERYENDSESSION:
-        SetWindowLongPtr(window->window, DWLP_MSGRESULT, mayClose(window));
+        if (wParam == IDC_CALENDAR)
+            hear(window, (const zeb17_notification*)lParam);
+        else
+            notifyDatesPanel(&window->panel, (const NMHDR*)lParam);
         return TRUE;
     case WM_CLOSE:
         if (mayClose(window))
@@ -272,34 +169,29 @@ static INT_PTR handle(MainWindow* window, UINT message, WPARAM wParam, LPARAM lP
 
 static INT_PTR CALLBACK mainProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_INITDIALOG)
+        SetWindowLongPtr(dialog, DWLP_USER, lParam);
     MainWindow* const window = (MainWindow*)GetWindowLongPtr(dialog, DWLP_USER);
-    if (message == WM_INITDIALOG) {
-        start((MainWindow*)lParam, dialog);
-        return FALSE; // the focus has its place
-    }
-    if (!window)
-        return FALSE;
-    const int event = eventOf(message);
-    if (event < 0)
-        return handle(window, message, wParam, lParam);
-    hear(window, event, lParam);
-    return TRUE;
+    return window ? handle(window, message, wParam, lParam) : FALSE;
 }
 
-int createMainWindow(MainWindow* window, int isAttended)
+int createMainWindow(MainWindow* window, const zeb17_date* selected, int isAttended)
 {
-    const HINSTANCE instance = GetModuleHandle(NULL);
-    window->isAttended = isAttended;
-    return CreateDialogParam(instance, MAKEINTRESOURCE(IDD_MAIN), NULL, mainProc, (LPARAM)window) &&
-           window->calendar;
-}
-
-void showMainWindow(MainWindow* window)
-{
+    window->window =
+        CreateDialogParam(GetModuleHandle(NULL), MAKEINTRESOURCE(IDD_MAIN), NULL, mainProc, (LPARAM)window);
+    window->owner = isAttended ? window->window : NULL;
+    const int result = createCalendar(window);
+    if (!window->calendar)
+        return result;
+    startLayout(&window->layout, window->window, layoutRules, COUNT_OF(layoutRules));
+    startDatesPanel(&window->panel, window->window, window->calendar, result == ZEB17_OK);
+    zeb17_set_log(hearLog, window);
+    if (selected)
+        zeb17_set_date(window->calendar, selected);
     ShowWindow(window->window, SW_SHOW);
-    UpdateWindow(window->window);
-    if (window->loadFailure[0])
-        tellFailure(ownerOf(window),
-                    "Your dates could not be read, so none are shown and none can be changed.",
-                    window->loadFailure);
+    SetFocus(window->calendar);
+    if (result != ZEB17_OK)
+        tellResult(window->owner, "Your dates could not be read, so none are shown and none can be changed.",
+                   result);
+    return ZEB17_OK;
 }

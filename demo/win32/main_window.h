@@ -3,7 +3,6 @@
 #define DESK_MAIN_WINDOW_H
 
 #include "dates_panel.h"
-#include "failure.h"
 #include "layout.h"
 
 typedef struct MainWindow
@@ -12,15 +11,11 @@ typedef struct MainWindow
     HWND calendar;
     DatesPanel panel;
     Layout layout;
-    int isAttended;                 // there is somebody who can answer message boxes
-    char loadFailure[FAILURE_SIZE]; // why the dates cannot be read; empty if they can
+    HWND owner; // of message boxes; null if nobody is there to answer them
 } MainWindow;
 
-// Creates the window, still hidden. It uses the structure until it is destroyed, and then ends the message
-// loop. 0 if it cannot be created.
-int createMainWindow(MainWindow* window, int isAttended);
-
-// Shows the window, and tells what went wrong before there was one.
-void showMainWindow(MainWindow* window);
+// Creates and shows the window. It uses the structure until it is destroyed, and then ends the message loop.
+// `selected` may be null. A zeb17_result.
+int createMainWindow(MainWindow* window, const zeb17_date* selected, int isAttended);
 
 #endif

@@ -29,12 +29,10 @@ int savePicture(HWND window, const char* path)
     const HBITMAP bitmap = copyPixels(window);
     WCHAR widePath[MAX_PATH];
     void* image = NULL;
-    int status = GdipCreateBitmapFromHBITMAP(bitmap, NULL, &image);
-    if (status == 0) {
-        status = !MultiByteToWideChar(CP_ACP, 0, path, -1, widePath, MAX_PATH) ||
-                 GdipSaveImageToFile(image, widePath, &png, NULL);
-        GdipDisposeImage(image);
-    }
+    const int isSaved = GdipCreateBitmapFromHBITMAP(bitmap, NULL, &image) == 0 &&
+                        MultiByteToWideChar(CP_ACP, 0, path, -1, widePath, MAX_PATH) > 0 &&
+                        GdipSaveImageToFile(image, widePath, &png, NULL) == 0;
+    GdipDisposeImage(image);
     DeleteObject(bitmap);
-    return status == 0 ? ZEB17_OK : ZEB17_FILE_FAILED;
+    return isSaved ? ZEB17_OK : ZEB17_FILE_FAILED;
 }

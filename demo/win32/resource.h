@@ -1,6 +1,9 @@
-// The numbers that the program and its resources share.
+// What the files of the program share, and the numbers that the resources know too.
 #ifndef DESK_RESOURCE_H
 #define DESK_RESOURCE_H
+
+// How many elements an array has.
+#define COUNT_OF(array) (int)(sizeof(array) / sizeof(array)[0])
 
 #define IDR_MENU 100
 #define IDR_KEYS 101
@@ -16,12 +19,6 @@
 #define IDM_EDIT 211
 #define IDM_DELETE 212
 #define IDM_GROUP_COLOR 213
-#define IDM_TODAY 220
-#define IDM_NEXT_MONTH 221
-#define IDM_PREVIOUS_MONTH 222
-#define IDM_NEXT_YEAR 223
-#define IDM_PREVIOUS_YEAR 224
-#define IDM_CLEAR 225
 
 // The main window.
 #define IDC_PLACE 300

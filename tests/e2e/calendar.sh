@@ -1,7 +1,7 @@
 # The control itself: days, keys, wheel, buttons and tips.
 drive_calendar() {
     start_demo
-    check 'created' "$(by_platform '' CALWND_ONNODATE)"
+    check 'created' "$(by_platform '' ZEB17_NODATE)"
 
     # November 2026 begins on a Sunday: cell 0 is the 1st, cell 30 the 1st of December.
     click_cell 9;  check 'press on a day' "$(press_heard 2026-11-10)"
@@ -19,8 +19,8 @@ drive_calendar() {
     keys Next;  check 'page down' "$(date_heard 2026-11-30)"
     keys t;     check 'today by T'  "$(date_heard 2026-11-24)"
     keys F5;    check 'today by F5' "$(same_heard 2026-11-24)"
-    keys Return; check 'enter' "$(by_platform 'activated 2026-11-24' 'CALWND_ENTERKEY 2026-11-24')"
-    keys Escape; check 'esc'   "$(by_platform dismissed 'CALWND_ESCKEY 2026-11-24')"
+    keys Return; check 'enter' "$(by_platform 'activated 2026-11-24' 'ZEB17_ENTERKEY 2026-11-24')"
+    keys Escape; check 'esc'   "$(by_platform dismissed 'ZEB17_ESCKEY 2026-11-24')"
 
     click_at 150 100 5; check 'wheel towards the user' "$(date_heard 2026-12-24)"
     click_at 150 100 4; check 'wheel away' "$(date_heard 2026-11-24)"

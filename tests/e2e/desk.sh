@@ -15,17 +15,13 @@ has_dot() { # NAME CELL COLOUR
     check_text "$1" "$3" "$(dot "$2")"
 }
 
-# Gives the keyboard to the list of the user's dates: to a row of it, or as it is.
-click_entries() {
-    if [ "$platform" = linux ]; then
-        keys alt+m ${1:+Home}
-    else
-        xdotool mousemove $((left + width + 12 + 60)) $((top + 20 + 112 + 8 + 20 + 11 + ${1:-8} * 22)) click 1
-    fi
+# Gives the keyboard to the list of the user's dates: to its first row, or as it is.
+go_to_dates() {
+    keys alt+m ${1:+Home}
     sleep 0.3
 }
 press_button() { # the panel's button by its mnemonic, from the list of dates
-    click_entries
+    go_to_dates
     keys "alt+$1"
     sleep 0.7
 }
@@ -39,7 +35,7 @@ add_entry() { # TEXT KEY...: the keys go to the editor after the text
     in_window
 }
 close_demo() {
-    keys "$(by_platform ctrl+q alt+F4)"
+    keys ctrl+q
     sleep 1
 }
 is_open() { kill -0 "$demo_pid" 2>/dev/null && echo open || echo closed; }
@@ -74,7 +70,7 @@ drive_desk() {
     start_demo desk
     for cell in 22 24 26 29 23; do has_dot "cell $cell after a restart" $cell $green; done
 
-    click_entries 0
+    go_to_dates first
     keys Return
     sleep 0.7
     in_dialog 'Edit Date'

@@ -2,7 +2,7 @@
 heard=$work/heard
 failures=0
 checks=0
-desk_title=$([ "$platform" = linux ] && echo 'zeb17 desk calendar' || echo 'zeb17 demo')
+desk_title='zeb17 desk calendar'
 
 cleanup() {
     [ -z "${demo_pid:-}" ] || kill "$demo_pid" 2>/dev/null
@@ -54,7 +54,7 @@ start_demo() {
     local data=$work/${1:-data}
     mkdir -p "$data"
     [ "$platform" = linux ] || data="Z:${data//\//\\}"
-    launch "$(by_platform zeb17_desk zeb17_demo)" --today 2026-11-24 --locale en-US --data "$data"
+    launch zeb17_desk --today 2026-11-24 --locale en-US --data "$data"
     wait_for "$desk_title"
     seen=0
     measure
@@ -68,25 +68,18 @@ stop_demo() {
 
 # The places of the control in the window, as the control lays them out.
 measure() {
+    local place
     eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
-    "measure_on_$platform"
+    place=$("where_on_$platform") || { cat "$work/errors"; exit 1; }
+    read -r left top width height <<<"${place%$'\r'}"
     column=$(((width - 2) / 7)) rest=$(((width - 2) % 7))
     [ $rest -lt 5 ] || column=$((column + 1))
     local grid=$((height - 23 - 25 - 2 - 19))
     row=$((grid / 6)) rest=$((grid % 6))
     [ $rest -lt 5 ] || row=$((row + 1))
 }
-measure_on_linux() {
-    local place
-    place=$("$here/where") || { cat "$work/errors"; exit 1; }
-    read -r left top width height <<<"$place"
-}
-measure_on_windows() {
-    # Without a window manager Wine draws a frame and a caption of its own inside the window.
-    X=$((X + 4)) Y=$((Y + 23)) WIDTH=$((WIDTH - 8)) HEIGHT=$((HEIGHT - 27))
-    left=$((X + 12)) top=$((Y + 12))
-    width=$((WIDTH - 36 - 280)) height=$((HEIGHT - 24 - 8 - 20 - 80))
-}
+where_on_linux() { "$here/where"; }
+where_on_windows() { "$root/scripts/wine-run" "$root/build/windows/bin/e2e_where.exe"; }
 
 lines() { tr -d '\r' <"$heard" | wc -l; }
 
@@ -94,11 +87,11 @@ by_platform() { [ "$platform" = linux ] && echo "$1" || echo "$2"; } # LINUX WIN
 
 # What the host is to have heard: a signal of the widget, or a message of the control. Where a date is selected
 # that was selected before, only the control tells it.
-date_heard() { by_platform "selectionChanged $1" "CALWND_ONSELCHANGE $1"; }
-press_heard() { by_platform "selectionChanged $1"$'\n'"clicked $1" "CALWND_ONSELCHANGE $1 (press)"; }
-same_heard() { by_platform '' "CALWND_ONSELCHANGE $1"; }
-none_heard() { by_platform 'selectionChanged none' CALWND_ONNODATE; }
-range_heard() { by_platform "rangeSelected $1 to $2" "CALWND_DATERANGE_CHANGED $1 to $2"; }
+date_heard() { by_platform "selectionChanged $1" "ZEB17_SELCHANGE $1"; }
+press_heard() { by_platform "selectionChanged $1"$'\n'"clicked $1" "ZEB17_SELCHANGE $1 (press)"; }
+same_heard() { by_platform '' "ZEB17_SELCHANGE $1"; }
+none_heard() { by_platform 'selectionChanged none' ZEB17_NODATE; }
+range_heard() { by_platform "rangeSelected $1 to $2" "ZEB17_RANGE $1 to $2"; }
 
 # check NAME EXPECTED...: the lines heard since the last check, after a moment; without those of another month shown.
 check() {

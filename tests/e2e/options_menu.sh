@@ -1,7 +1,7 @@
 # The options menu in a real window: its keys, its commands, what lands on the clipboard, and a print job.
 drive_options_menu() {
     start_demo menu
-    check 'created' "$(by_platform '' CALWND_ONNODATE)"
+    check 'created' "$(by_platform '' ZEB17_NODATE)"
     click_cell 9; check 'press on a day' "$(press_heard 2026-11-10)"
 
     open_menu; keys Down Down Return

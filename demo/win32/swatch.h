@@ -1,9 +1,17 @@
-// List views whose rows have a check box, a square of colour and a text.
-#ifndef DESK_SWATCH_LIST_H
-#define DESK_SWATCH_LIST_H
+// Colours: squares of them, list views whose rows have a check box, a square and a text, and the question for
+// one.
+#ifndef DESK_SWATCH_H
+#define DESK_SWATCH_H
 
+#include <stdint.h>
 #include <windows.h>
 #include <commctrl.h>
+
+// Draws a framed rectangle of that colour.
+void drawSwatch(HDC dc, const RECT* rect, COLORREF color);
+
+// Asks the user for a colour, from the one given. 0 if the user cancels; then the colour stays.
+int chooseColor(HWND owner, uint32_t* color);
 
 // Prepares a list view in the report view: once.
 void startSwatchList(HWND list);
@@ -17,7 +25,7 @@ typedef struct SwatchRows
     int count;
 } SwatchRows;
 
-void beginSwatchRows(SwatchRows* rows, HWND list);
+SwatchRows beginSwatchRows(HWND list);
 void addSwatchRow(SwatchRows* rows, const char* text, COLORREF color, int isChecked);
 // Removes the rows that the list had more before.
 void endSwatchRows(const SwatchRows* rows);

@@ -1,23 +1,40 @@
-// Makes the list view show the squares as the images of its rows.
-#include "swatch_list.h"
+// Draws swatches with the stock brush, and makes list views show them as the images of their rows.
+#include "swatch.h"
 
-#include "color.h"
+#include <commdlg.h>
+
+void drawSwatch(HDC dc, const RECT* rect, COLORREF color)
+{
+    SetDCBrushColor(dc, color);
+    FillRect(dc, rect, GetStockObject(DC_BRUSH));
+    FrameRect(dc, rect, GetStockObject(GRAY_BRUSH));
+}
+
+int chooseColor(HWND owner, uint32_t* color)
+{
+    COLORREF custom[16] = {0};
+    CHOOSECOLOR choice = {.lStructSize = sizeof choice, .hwndOwner = owner, .rgbResult = *color};
+    choice.lpCustColors = custom;
+    choice.Flags = CC_RGBINIT | CC_FULLOPEN;
+    if (!ChooseColor(&choice))
+        return 0;
+    *color = choice.rgbResult;
+    return 1;
+}
 
 void startSwatchList(HWND list)
 {
-    const DWORD style = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
     LVCOLUMN column = {0};
-    ListView_SetExtendedListViewStyle(list, style);
+    ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
     ListView_InsertColumn(list, 0, &column);
 }
 
-void beginSwatchRows(SwatchRows* rows, HWND list)
+SwatchRows beginSwatchRows(HWND list)
 {
-    rows->list = list;
-    rows->side = GetSystemMetricsForDpi(SM_CXSMICON, GetDpiForWindow(list));
-    rows->images = ImageList_Create(rows->side, rows->side, ILC_COLOR24, 8, 8);
-    rows->count = 0;
-    ImageList_Destroy(ListView_SetImageList(list, rows->images, LVSIL_SMALL));
+    const int side = GetSystemMetricsForDpi(SM_CXSMICON, GetDpiForWindow(list));
+    const SwatchRows rows = {list, ImageList_Create(side, side, ILC_COLOR24, 8, 8), side, 0};
+    ImageList_Destroy(ListView_SetImageList(list, rows.images, LVSIL_SMALL));
+    return rows;
 }
 
 static void addImage(const SwatchRows* rows, COLORREF color)
@@ -39,16 +56,14 @@ static void addImage(const SwatchRows* rows, COLORREF color)
 
 void addSwatchRow(SwatchRows* rows, const char* text, COLORREF color, int isChecked)
 {
-    LVITEM item = {0};
-    item.mask = LVIF_TEXT | LVIF_IMAGE;
-    item.iItem = item.iImage = rows->count++;
-    item.pszText = (char*)text;
+    const int row = rows->count++;
+    LVITEM item = {.mask = LVIF_TEXT | LVIF_IMAGE, .iItem = row, .iImage = row, .pszText = (char*)text};
     addImage(rows, color);
-    if (item.iItem < ListView_GetItemCount(rows->list))
+    if (row < ListView_GetItemCount(rows->list))
         ListView_SetItem(rows->list, &item);
     else
         ListView_InsertItem(rows->list, &item);
-    ListView_SetCheckState(rows->list, item.iItem, isChecked);
+    ListView_SetCheckState(rows->list, row, isChecked);
 }
 
 void endSwatchRows(const SwatchRows* rows)
