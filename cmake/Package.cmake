@@ -1,6 +1,7 @@
 # CPack: on Linux two Debian packages, on Windows one archive. scripts/package makes them.
 set(CPACK_PACKAGE_VENDOR "zeb17")
-set(CPACK_PACKAGE_CONTACT "The zeb17 developers <zeb17@localhost>")
+set(ZEB17_MAINTAINER "The zeb17 developers <zeb17@localhost>" CACHE STRING "Who the packages say keeps them: Name <address>")
+set(CPACK_PACKAGE_CONTACT "${ZEB17_MAINTAINER}")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "month-calendar control with special dates")
 set(CPACK_STRIP_FILES ON)
