@@ -41,8 +41,9 @@ if(NOT WIN32)
         DESTINATION "${config_dir}" COMPONENT development)
 endif()
 
-install(FILES CHANGELOG.md docs/guide.md docs/from-qcalendarwidget.md docs/data-file.md docs/compare.md docs/decisions.md
-    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
+install(FILES CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
+install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development
+    FILES_MATCHING PATTERN "*.md" PATTERN images EXCLUDE)
 install(FILES demo/minimal/c.c demo/minimal/python.py demo/minimal/qt.cpp demo/minimal/toolkit.cpp
     DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples" COMPONENT development)
 
