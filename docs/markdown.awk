@@ -18,7 +18,8 @@ function slug(title) {
     $0 = $0 " {#" page_of(FILENAME) "-" slug(title) "}"
 }
 !in_code {
-    while (match($0, /\]\([a-z-]*(\.md)?#[a-z]/)) {
+    gsub(/\]\((docs\/)?images\//, "](") # doxygen puts pictures beside the pages
+    while (match($0, /\]\([a-zA-Z.\/-]*(\.md)?#[a-z]/)) {
         page = substr($0, RSTART + 2, RLENGTH - 4)
         if (page == "") page = FILENAME
         $0 = substr($0, 1, RSTART + 1) "@ref " page_of(page) "-" substr($0, RSTART + RLENGTH - 1)
