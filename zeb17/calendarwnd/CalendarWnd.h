@@ -194,13 +194,19 @@ protected:
     // The tip of a step button: the month and year that a press leads to.
     CString GetStepTip(int nButtonId) const;
 
-    // What screen readers are told. An item is a cell, counted from 1; 0 stands for the control.
+    // What is announced when it changes.
     struct DayShown
     {
-        int nYear = 0, nMonth = 0, nDay = 0; // of m_date
-        bool bSelected = false;
+        int nYear = 0;          // of the date
+        int nMonth = 0;         // of the date
+        int nDay = 0;           // of the date
+        bool bSelected = false; // whether the date is selected
+
+        // Whether there is nothing to announce.
         bool operator==(const DayShown&) const = default;
     };
+
+    // What screen readers are told. An item is a cell, counted from 1; 0 stands for the control.
     CString GetDayName(int nCell) const;
     LONG GetSelectedItem() const;
     class Change; // an operation, at whose end is announced what it changed
