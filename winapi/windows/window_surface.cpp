@@ -10,6 +10,31 @@
 
 namespace winapi {
 
+namespace {
+
+// Windows change their size in small steps, and fresh memory is slow at first.
+QSize roomFor(QSize size)
+{
+    constexpr int kStep = 64;
+    const auto up = [](int length) { return (length + kStep - 1) / kStep * kStep; };
+    return {up(size.width()), up(size.height())};
+}
+
+// Whether memory of so many pixels holds those of a window, and is not a waste for it.
+bool isRightFor(QSize memory, QSize size)
+{
+    const auto area = [](QSize pixels) { return qint64{pixels.width()} * pixels.height(); };
+    return memory == memory.expandedTo(size) && area(memory) <= 4 * area(roomFor(size));
+}
+
+// The upper left part of the memory, not a copy.
+QImage part(QImage& memory, QSize size)
+{
+    return {memory.bits(), size.width(), size.height(), memory.bytesPerLine(), memory.format()};
+}
+
+}
+
 void WindowSurface::show(const QRect& changed)
 {
     if (m_root.host)
@@ -39,17 +64,30 @@ QImage* WindowSurface::image()
     const QSizeF exact = QSizeF(m_root.rect.size()) * ratio;
     const QSize size(std::max(1, static_cast<int>(std::ceil(exact.width()))),
                      std::max(1, static_cast<int>(std::ceil(exact.height()))));
-    if (m_image.size() == size && m_image.devicePixelRatio() == ratio)
-        return &m_image;
-
-    settle();
-    QImage larger(size, QImage::Format_RGB32);
-    larger.setDevicePixelRatio(ratio);
-    larger.fill(Qt::white);
-    if (!m_image.isNull())
-        QPainter(&larger).drawImage(0, 0, m_image);
-    m_image = larger;
+    if (m_image.size() != size || m_image.devicePixelRatio() != ratio)
+        resize(size, ratio);
     return &m_image;
+}
+
+void WindowSurface::resize(QSize size, qreal ratio)
+{
+    settle();
+    if (m_image.devicePixelRatio() == ratio && isRightFor(m_memory.size(), size)) {
+        const QRegion added = QRegion(QRect({0, 0}, size)) - m_image.rect();
+        m_image = part(m_memory, size);
+        QPainter painter(&m_image);
+        for (const QRect& rect : added)
+            painter.fillRect(rect, Qt::white);
+    } else {
+        QImage memory(roomFor(size), QImage::Format_RGB32);
+        memory.setDevicePixelRatio(ratio);
+        memory.fill(Qt::white);
+        if (!m_image.isNull())
+            QPainter(&memory).drawImage(0, 0, m_image);
+        m_memory = memory;
+        m_image = part(m_memory, size);
+    }
+    m_image.setDevicePixelRatio(ratio);
 }
 
 bool WindowSurface::canCopy(QPoint delta)

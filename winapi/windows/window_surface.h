@@ -29,9 +29,11 @@ public:
 
 private:
     void show(const QRect& changed);
+    void resize(QSize size, qreal ratio);
 
     Window& m_root;
-    QImage m_image;
+    QImage m_memory;  // with room for a larger window
+    QImage m_image;   // the part of m_memory that the window fills
     int m_paints = 0; // that are under way
     QRect m_gathered; // around all that they have changed
 };
