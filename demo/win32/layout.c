@@ -33,8 +33,9 @@ void applyLayout(const Layout* layout)
                      scaled(layout, place->top) + (how & MOVE_Y ? gainedY : 0),
                      scaled(layout, place->right - place->left) + (how & GROW_X ? gainedX : 0),
                      scaled(layout, place->bottom - place->top) + (how & GROW_Y ? gainedY : 0),
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
     }
+    RedrawWindow(layout->dialog, NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void limitLayout(const Layout* layout, MINMAXINFO* limits)
