@@ -64,9 +64,10 @@ INT_PTR CPrintDialog::DoModal()
 BOOL CPrintDialog::GetDefaults()
 {
     FreeBlocks(); // the call below refuses to be given any
-    m_pd.Flags |= PD_RETURNDEFAULT;
+    constexpr DWORD kQuietly = PD_RETURNDEFAULT | PD_NOWARNING;
+    m_pd.Flags |= kQuietly;
     const BOOL bResult = ::PrintDlgA(&m_pd);
-    m_pd.Flags &= ~static_cast<DWORD>(PD_RETURNDEFAULT);
+    m_pd.Flags &= ~kQuietly;
     return bResult;
 }
 
