@@ -173,7 +173,6 @@ static void command(HWND dialog, DateEdit* edit, int id)
         break;
     default:
         update(dialog, edit);
-        break;
     }
 }
 

@@ -96,7 +96,6 @@ static void runCommand(MainWindow* window, int id)
         break;
     default:
         runDatesCommand(&window->panel, id);
-        break;
     }
 }
 
@@ -153,6 +152,9 @@ static INT_PTR handle(MainWindow* window, UINT message, WPARAM wParam, LPARAM lP
             hear(window, (const zeb17_notification*)lParam);
         else
             notifyDatesPanel(&window->panel, (const NMHDR*)lParam);
+        return TRUE;
+    case WM_QUERYENDSESSION:
+        SetWindowLongPtr(window->window, DWLP_MSGRESULT, mayClose(window));
         return TRUE;
     case WM_CLOSE:
         if (mayClose(window))
