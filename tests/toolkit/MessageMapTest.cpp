@@ -24,7 +24,6 @@ protected:
 
     void OnLButtonDown(UINT flags, CPoint point) { Note("down", flags, point.x, point.y); }
     void OnMouseMove(UINT flags, CPoint point) { Note("move", flags, point.x, point.y); }
-    void OnClose() { Note("close"); }
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point)
     {
         Note("wheel", flags, delta, point.x, point.y);
@@ -34,10 +33,6 @@ protected:
     {
         Note("cursor", window == this, hitTest, message);
         return 1;
-    }
-    void OnActivate(UINT state, CWnd* other, BOOL minimized)
-    {
-        Note("activate", state, other == this, minimized);
     }
     void OnKillFocus(CWnd* next) { Note("killfocus", next == this); }
     void OnKeyDown(UINT key, UINT count, UINT flags) { Note("key", key, count, flags); }
@@ -53,10 +48,8 @@ protected:
 BEGIN_MESSAGE_MAP(Recorder, CWnd)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
-    ON_WM_CLOSE()
     ON_WM_MOUSEWHEEL()
     ON_WM_SETCURSOR()
-    ON_WM_ACTIVATE()
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_TIMER()
@@ -92,11 +85,9 @@ TEST(MessageMap, BringsEachMessageToItsHandlerWithItsArguments)
     } cases[] = {
         {WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(0xFFFD, 0x8000), "down 1 -3 -32768", 0},
         {WM_MOUSEMOVE, 0, 0, "derived", 0},
-        {WM_CLOSE, 0, 0, "close", 0},
         {WM_MOUSEWHEEL, MAKEWPARAM(MK_SHIFT, static_cast<WORD>(-120)), MAKELPARAM(9, 0xFFFF),
          "wheel 4 -120 9 -1", 1},
         {WM_SETCURSOR, self, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE), "cursor 1 1 512", 1},
-        {WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 3), static_cast<LPARAM>(self), "activate 2 1 1", 0},
         {WM_KILLFOCUS, self, 0, "killfocus 1", 0},
         {WM_KEYDOWN, VK_PRIOR, MAKELPARAM(2, 0x0149), "key 33 2 329", 0},
         {WM_TIMER, 17, 0, "timer 17", 0},

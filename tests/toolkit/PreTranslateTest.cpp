@@ -108,7 +108,6 @@ TEST_F(PreTranslate, OffersAMessageToTheWindowAndItsAncestorsUntilOneKeepsIt)
 TEST_F(PreTranslate, TheLoopOffersBeforeItDispatchesAndEndsWithTheExitCode)
 {
     LoopApp app(m_log);
-    app.m_pMainWnd = &m_top;
     m_leaf.PostMessage(WM_USER);
     EXPECT_EQ(app.Run(), 5);
     EXPECT_THAT(TakeLog(), ElementsAre("leaf", "middle", "top", "leaf got it", "idle 0", "idle 1"));

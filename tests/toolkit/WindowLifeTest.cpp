@@ -119,13 +119,13 @@ protected:
         SendMessage(WM_USER);
         return Default();
     }
-    void OnClose() { m_other->Default(); } // by hand
+    LRESULT OnClose(WPARAM, LPARAM) { return m_other->Default(); } // by hand
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Defaulting, CWnd)
     ON_MESSAGE(WM_SETTEXT, &Defaulting::OnSetText)
-    ON_WM_CLOSE()
+    ON_MESSAGE(WM_CLOSE, &Defaulting::OnClose)
 END_MESSAGE_MAP()
 }
 

@@ -107,11 +107,6 @@ CString& CString::TrimRight()
     return *this;
 }
 
-CString& CString::Trim()
-{
-    return TrimRight().TrimLeft();
-}
-
 CString& CString::MakeLower()
 {
     std::transform(m_strText.begin(), m_strText.end(), m_strText.begin(), ToLower);

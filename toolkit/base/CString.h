@@ -60,7 +60,6 @@ public:
 
     CString& TrimLeft();
     CString& TrimRight();
-    CString& Trim();
     CString& MakeLower();
 
     // Negative, 0 or positive as the text comes before the other, equals it or comes after it, by the values

@@ -64,11 +64,6 @@ CWnd* AfxArg::WParamWnd(const AFX_EVENT& e)
     return CWnd::FromHandle(reinterpret_cast<HWND>(e.wParam));
 }
 
-CWnd* AfxArg::LParamWnd(const AFX_EVENT& e)
-{
-    return CWnd::FromHandle(reinterpret_cast<HWND>(e.lParam));
-}
-
 CDC* AfxArg::WParamDC(const AFX_EVENT& e)
 {
     return CDC::FromHandle(reinterpret_cast<HDC>(e.wParam));

@@ -31,7 +31,7 @@ BOOL CWinThread::PumpMessage()
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 {
-    return CWnd::WalkPreTranslateTree(m_pMainWnd ? m_pMainWnd->m_hWnd : nullptr, pMsg);
+    return CWnd::WalkPreTranslateTree(nullptr, pMsg);
 }
 
 BOOL CWinThread::OnIdle(LONG lCount)

@@ -6,7 +6,6 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_DRAWITEM()
-    ON_WM_MEASUREITEM()
     ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
@@ -208,18 +207,6 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
     LRESULT lResult = 0;
     if (lpDrawItemStruct->CtlType != ODT_MENU &&
         ReflectToChild(lpDrawItemStruct->hwndItem, WM_DRAWITEM, message.wParam, message.lParam, &lResult))
-        return;
-    Default();
-}
-
-// The message comes while the control is being created, and tells only its id.
-void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
-{
-    const MSG& message = *GetCurrentMessage();
-    LRESULT lResult = 0;
-    if (lpMeasureItemStruct->CtlType != ODT_MENU &&
-        ReflectToChild(::GetDlgItem(m_hWnd, nIDCtl), WM_MEASUREITEM, message.wParam, message.lParam,
-                       &lResult))
         return;
     Default();
 }

@@ -19,8 +19,6 @@ public:
     // Ends an exception that left a handler of the message *pMsg, and gives the result of that message.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
-    CWnd* m_pMainWnd = nullptr; // not owned; the last window that PreTranslateMessage offers a message to
-
 protected:
     CWinThread() = default;
 

@@ -28,8 +28,6 @@ public:
     // Releases the handle. False if there is none.
     BOOL DeleteObject();
 
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
-
     HGDIOBJ m_hObject = nullptr;
 };
 

@@ -94,10 +94,6 @@ inline int LParamHighSigned(const AFX_EVENT& e)
 {
     return static_cast<short>(HIWORD(e.lParam));
 }
-inline BOOL WParamHighBool(const AFX_EVENT& e)
-{
-    return HIWORD(e.wParam) != 0;
-}
 inline WPARAM WParamWhole(const AFX_EVENT& e)
 {
     return e.wParam;
@@ -119,7 +115,6 @@ inline CPoint LParamPoint(const AFX_EVENT& e)
     return CPoint(e.lParam);
 }
 ZEB17_EXPORT CWnd* WParamWnd(const AFX_EVENT& e);
-ZEB17_EXPORT CWnd* LParamWnd(const AFX_EVENT& e);
 ZEB17_EXPORT CDC* WParamDC(const AFX_EVENT& e);
 template <class Structure>
 Structure* LParamStruct(const AFX_EVENT& e)
@@ -178,12 +173,10 @@ using Mouse = AfxSignature<void, WParam, LParamPoint>;
 using Wheel = AfxSignature<BOOL, WParamLow, WParamHighSigned, LParamPoint>;
 using Cursor = AfxSignature<BOOL, WParamWnd, LParamLow, LParamHigh>;
 using Focus = AfxSignature<void, WParamWnd>;
-using Activate = AfxSignature<void, WParamLow, LParamWnd, WParamHighBool>;
 using Key = AfxSignature<void, WParam, LParamLow, LParamHigh>;
 using Erase = AfxSignature<BOOL, WParamDC>;
 using Timer = AfxSignature<void, TimerId>;
 using DrawItem = AfxSignature<void, ControlId, LParamStruct<DRAWITEMSTRUCT>>;
-using MeasureItem = AfxSignature<void, ControlId, LParamStruct<MEASUREITEMSTRUCT>>;
 using Message = AfxSignature<LRESULT, WParamWhole, LParamWhole>;
 using Command = AfxSignature<void>;
 using CommandRange = AfxSignature<void, CommandId>;
@@ -234,8 +227,6 @@ protected:                                                                      
     AFX_MAP_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, id, Update, memberFxn)
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
     AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, id, Command, memberFxn)
-#define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn)                                                 \
-    AFX_MAP_ENTRY(WM_COMMAND, wNotifyCode, id, idLast, CommandRange, memberFxn)
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)
 
 // Notifications. Only the low 16 bits of their codes are compared.
@@ -249,8 +240,6 @@ protected:                                                                      
 // Messages of the system, with handlers of fixed names.
 #define AFX_MAP_WM(message, Signature, name) AFX_MAP_ENTRY(message, 0, 0, 0, Signature, &ThisClass::name)
 
-#define ON_WM_ACTIVATE() AFX_MAP_WM(WM_ACTIVATE, Activate, OnActivate)
-#define ON_WM_CLOSE() AFX_MAP_WM(WM_CLOSE, Plain, OnClose)
 #define ON_WM_DESTROY() AFX_MAP_WM(WM_DESTROY, Plain, OnDestroy)
 #define ON_WM_DRAWITEM() AFX_MAP_WM(WM_DRAWITEM, DrawItem, OnDrawItem)
 #define ON_WM_ERASEBKGND() AFX_MAP_WM(WM_ERASEBKGND, Erase, OnEraseBkgnd)
@@ -258,7 +247,6 @@ protected:                                                                      
 #define ON_WM_KILLFOCUS() AFX_MAP_WM(WM_KILLFOCUS, Focus, OnKillFocus)
 #define ON_WM_LBUTTONDBLCLK() AFX_MAP_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_LBUTTONDOWN() AFX_MAP_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
-#define ON_WM_MEASUREITEM() AFX_MAP_WM(WM_MEASUREITEM, MeasureItem, OnMeasureItem)
 #define ON_WM_MOUSEMOVE() AFX_MAP_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() AFX_MAP_WM(WM_MOUSEWHEEL, Wheel, OnMouseWheel)
 #define ON_WM_NCDESTROY() AFX_MAP_WM(WM_NCDESTROY, Plain, OnNcDestroy)

@@ -118,7 +118,6 @@ public:
     // Relatives and focus
 
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
     // Gives the window that had the focus.
     CWnd* SetFocus() { return m_hWnd ? FromHandle(::SetFocus(m_hWnd)) : nullptr; }
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
@@ -185,8 +184,6 @@ protected:
 
     // What a window does with the messages of the ON_WM_ macros unless a derived class has a handler of its
     // own.
-    afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
-    afx_msg void OnClose() { Default(); }
     afx_msg void OnDestroy() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
@@ -201,9 +198,8 @@ protected:
     afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnTimer(UINT_PTR) { Default(); }
-    // These two leave the work to the object of the child, if it has one.
+    // Leaves the work to the object of the child, if it has one.
     afx_msg void OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct);
-    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     DECLARE_MESSAGE_MAP()
 
 private:
