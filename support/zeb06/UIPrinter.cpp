@@ -219,6 +219,7 @@ void UIPrinter::InitPrintProcess()
 
     const bool bAsk = !info.m_bPrintFlag && g_strOutputFile.IsEmpty();
     const bool bDefaults = dialog.GetDefaults() != FALSE;
+    const DWORD dwDefaultsError = ::CommDlgExtendedError();
     if (bDefaults) {
         VisitMode(dialog.m_pd.hDevMode, &ApplyPaper);
         ::DeleteDC(std::exchange(dialog.m_pd.hDC, nullptr)); // one with that paper is made below
@@ -231,8 +232,9 @@ void UIPrinter::InitPrintProcess()
         return;
     }
     const DWORD dwError = ::CommDlgExtendedError();
-    const bool bCancelled = bAsk && dwError == 0;
-    if (!bCancelled)
+    // Where there is no default printer the dialog itself has told the user so.
+    const bool bToldOrCancelled = bAsk && (dwError == 0 || dwError == dwDefaultsError);
+    if (!bToldOrCancelled)
         Fail(GetDialogErrorText(dwError));
 }
 
