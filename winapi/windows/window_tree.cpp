@@ -18,7 +18,8 @@ WindowPtr makeDesktop()
     window->style = WS_VISIBLE;
     window->procedure = DefWindowProcA;
     window->windowClass = std::make_shared<WindowClass>();
-    window->rect = QRect({}, application().primaryScreen()->size());
+    application(); // without it there is no screen
+    window->rect = QRect({}, QGuiApplication::primaryScreen()->size());
     return window;
 }
 
