@@ -177,6 +177,8 @@ TEST_F(PaintingTest, LinesAndBands)
 TEST_F(PaintingTest, NamesNumbersAndDots)
 {
     constexpr COLORREF kDot = RGB(10, 120, 220);
+    const std::array english = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    const std::array dutch = {"ma", "di", "wo", "do", "vr", "za", "zo"};
     const struct
     {
         const char* szLocale;
@@ -187,42 +189,10 @@ TEST_F(PaintingTest, NamesNumbersAndDots)
         int nTodayCell; // -1 for none
         int nDotCell;   // of 4 July 2026
     } months[] = {
-        {"en-US",
-         Date(2026, 7, 20),
-         {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
-         28,
-         30,
-         31,
-         Date(2026, 7, 15),
-         17,
-         6},
-        {"nl-NL",
-         Date(2026, 7, 1),
-         {"ma", "di", "wo", "do", "vr", "za", "zo"},
-         29,
-         30,
-         31,
-         Date(2026, 6, 29),
-         0,
-         5},
-        {"nl-NL",
-         Date(2026, 6, 8),
-         {"ma", "di", "wo", "do", "vr", "za", "zo"},
-         0,
-         0,
-         30,
-         Date(2026, 7, 12),
-         41,
-         33},
-        {"en-US",
-         Date(2026, 3, 31),
-         {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"},
-         0,
-         0,
-         31,
-         Date(2026, 4, 12),
-         -1,
-         -1},
+        {"en-US", Date(2026, 7, 20), english, 28, 30, 31, Date(2026, 7, 15), 17, 6},
+        {"nl-NL", Date(2026, 7, 1), dutch, 29, 30, 31, Date(2026, 6, 29), 0, 5},
+        {"nl-NL", Date(2026, 6, 8), dutch, 0, 0, 30, Date(2026, 7, 12), 41, 33},
+        {"en-US", Date(2026, 3, 31), english, 0, 0, 31, Date(2026, 4, 12), -1, -1},
     };
     for (const auto& month : months) {
         LocaleUtils::SetLocale(month.szLocale);

@@ -84,7 +84,7 @@ void WindowSurface::resize(QSize size, qreal ratio)
         memory.fill(Qt::white);
         if (!m_image.isNull())
             QPainter(&memory).drawImage(0, 0, m_image);
-        m_memory = memory;
+        m_memory = std::move(memory);
         m_image = part(m_memory, size);
     }
     m_image.setDevicePixelRatio(ratio);
